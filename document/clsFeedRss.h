@@ -1,0 +1,37 @@
+#pragma once
+
+#include "document/clsImgRss.h"
+#include "document/tabellaElementi.h"
+
+#include <string>
+#include <string_view>
+
+class ClsCodaEliminazione;
+
+// Reads and writes the feed document. Keeps nothing between calls. The channel's strings stand in
+// the same order everywhere: title, link, description, language, copyright, lastBuildDate (RFC 822
+// text), webMaster.
+class clsFeedRss {
+public:
+    // Fills all that follows `path` from the file; `image` is replaced by a new one. Raises 18343
+    // (cannot be loaded), 18344 (no RSS document), 18345 (more than one image), 6 (more than 32767
+    // items, a width beyond 32 bits); what was filled until then stays, and a file that cannot be
+    // loaded leaves everything empty.
+    void LeggiDocumentoRSS(const std::wstring& path, std::wstring& title, std::wstring& link,
+                           std::wstring& description, std::wstring& language,
+                           std::wstring& copyright, std::wstring& lastBuildDate,
+                           std::wstring& webMaster, clsImgRss& image, TabellaElementi& items) const;
+
+    // Writes every item up to the table's upper bound. The file on disk is touched once the tree is
+    // complete: deleted, then saved. Raises 5 for a text that no XML document can hold, 61 when the
+    // disk was full, else the failure of the deletion or the DOM.
+    void CreaDocumentoRSS(const std::wstring& path, const std::wstring& title,
+                          const std::wstring& link, const std::wstring& description,
+                          const std::wstring& language, const std::wstring& copyright,
+                          const std::wstring& lastBuildDate, const std::wstring& webMaster,
+                          const clsImgRss& image, const TabellaElementi& items) const;
+
+private:
+    // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
+    [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+// The XML layer's types: only the bodies that build elements need to know them.
+class DocumentoXml;
+class ElementoXml;
+
+// One item, the carrier between the table and XML or the item editor. Setters raise Modificato as
+// those of clsImgRss do.
+class clsItemRss {
+public:
+    [[nodiscard]] const std::wstring& sTitle() const noexcept { return sTitle_; }
+    [[nodiscard]] const std::wstring& sLink() const noexcept { return sLink_; }
+    [[nodiscard]] const std::wstring& sDescription() const noexcept { return sDescription_; }
+    [[nodiscard]] const std::wstring& sAuthor() const noexcept { return sAuthor_; }
+    // RFC 822 text, as it travels in the file.
+    [[nodiscard]] const std::wstring& sPubDate() const noexcept { return sPubDate_; }
+    [[nodiscard]] const std::wstring& sGuid() const noexcept { return sGuid_; }
+    [[nodiscard]] bool Modificato() const noexcept { return modificato_; }
+
+    void sTitle(std::wstring valore);
+    void sLink(std::wstring valore);
+    void sDescription(std::wstring valore);
+    void sAuthor(std::wstring valore);
+    void sPubDate(std::wstring valore);
+    void sGuid(std::wstring valore);
+    void Modificato(bool valore) noexcept { modificato_ = valore; }
+
+    // Empties the six texts and lowers Modificato.
+    void Svuota() noexcept;
+
+    // A new `item` element made in the document, attached to nothing. Raises what the DOM raises.
+    [[nodiscard]] ElementoXml getNodoItem(const DocumentoXml& doc) const;
+
+private:
+    std::wstring sTitle_;
+    std::wstring sLink_;
+    std::wstring sDescription_;
+    std::wstring sAuthor_;
+    std::wstring sPubDate_;
+    std::wstring sGuid_;
+    bool modificato_ = false;
+};

@@ -1,0 +1,46 @@
+#include "support/file_win.h"
+
+#include "support/errori_win.h"
+#include "support/maniglie_win.h"
+
+bool fileEsiste(const std::wstring& percorso) noexcept {
+    WIN32_FIND_DATAW trovato{};
+    const Ricerca ricerca(FindFirstFileW(percorso.c_str(), &trovato));
+    if (!ricerca) {
+        return false;
+    }
+    constexpr DWORD nascosti =
+        FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    do {
+        if ((trovato.dwFileAttributes & nascosti) == 0) {
+            return true;
+        }
+    } while (FindNextFileW(ricerca.get(), &trovato));
+    return false;
+}
+
+void cancellaFile(const std::wstring& percorso) {
+    if (!DeleteFileW(percorso.c_str())) {
+        sollevaWin32();
+    }
+}
+
+std::wstring cartellaProgramma() {
+    std::wstring percorso(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD lunghezza =
+            GetModuleFileNameW(nullptr, percorso.data(), static_cast<DWORD>(percorso.size()));
+        if (lunghezza == 0) {
+            sollevaWin32();
+        }
+        if (lunghezza < percorso.size()) {
+            percorso.resize(lunghezza);
+            break;
+        }
+        percorso.resize(percorso.size() * 2);
+    }
+    const auto barra = percorso.find_last_of(L'\\');
+    const bool radice = barra == 2 && percorso[1] == L':';
+    percorso.resize(radice ? barra + 1 : barra);
+    return percorso;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+// Whether a directory listing of `percorso` shows something: normal, read-only and archived files
+// are found; folders, hidden and system files are not; wildcards are expanded. An empty path
+// names nothing.
+[[nodiscard]] bool fileEsiste(const std::wstring& percorso) noexcept;
+
+// Deletes a file. Raises the run-time error of the failure.
+void cancellaFile(const std::wstring& percorso);
+
+// The folder of the running program, without a trailing "\" but at the root of a drive.
+[[nodiscard]] std::wstring cartellaProgramma();

@@ -1,0 +1,101 @@
+#include "support/testo.h"
+
+#include "support/maiuscole.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr bool surrogatoAlto(char32_t c) noexcept {
+    return c >= 0xD800 && c <= 0xDBFF;
+}
+constexpr bool surrogatoBasso(char32_t c) noexcept {
+    return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+} // namespace
+
+std::wstring_view rifilaDestra(std::wstring_view testo) noexcept {
+    const auto fine = testo.find_last_not_of(L' ');
+    return fine == std::wstring_view::npos ? std::wstring_view{} : testo.substr(0, fine + 1);
+}
+
+std::wstring_view rifila(std::wstring_view testo) noexcept {
+    testo = rifilaDestra(testo);
+    testo.remove_prefix(std::min(testo.find_first_not_of(L' '), testo.size()));
+    return testo;
+}
+
+wchar_t maiuscola(wchar_t carattere) noexcept {
+    return converti(carattere, tabellaMaiuscole());
+}
+
+wchar_t minuscola(wchar_t carattere) noexcept {
+    return converti(carattere, tabellaMinuscole());
+}
+
+std::wstring maiuscolo(std::wstring_view testo) {
+    std::wstring risultato(testo);
+    std::ranges::transform(risultato, risultato.begin(), maiuscola);
+    return risultato;
+}
+
+std::wstring minuscolo(std::wstring_view testo) {
+    std::wstring risultato(testo);
+    std::ranges::transform(risultato, risultato.begin(), minuscola);
+    return risultato;
+}
+
+std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca, std::wstring_view con) {
+    std::wstring risultato;
+    if (cerca.empty()) {
+        risultato = testo;
+        return risultato;
+    }
+    risultato.reserve(testo.size());
+    for (;;) {
+        const auto dove = testo.find(cerca);
+        risultato.append(testo.substr(0, dove));
+        if (dove == std::wstring_view::npos) {
+            return risultato;
+        }
+        risultato.append(con);
+        testo.remove_prefix(dove + cerca.size());
+    }
+}
+
+std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore) {
+    std::vector<std::wstring_view> pezzi;
+    for (;;) {
+        const auto dove = testo.find(separatore);
+        pezzi.push_back(testo.substr(0, dove));
+        if (dove == std::wstring_view::npos) {
+            return pezzi;
+        }
+        testo.remove_prefix(dove + 1);
+    }
+}
+
+void aggiungiCarattere(std::wstring& testo, char32_t punto) {
+    if constexpr (sizeof(wchar_t) == 2) {
+        if (punto > 0xFFFF) {
+            testo += static_cast<wchar_t>(0xD800 + ((punto - 0x10000) >> 10));
+            testo += static_cast<wchar_t>(0xDC00 + ((punto - 0x10000) & 0x3FF));
+            return;
+        }
+    }
+    testo += static_cast<wchar_t>(punto);
+}
+
+char32_t leggiCarattere(std::wstring_view testo, std::size_t& posizione) noexcept {
+    const auto primo = static_cast<char32_t>(testo[posizione]);
+    ++posizione;
+    if (surrogatoAlto(primo) && posizione < testo.size()) {
+        const auto secondo = static_cast<char32_t>(testo[posizione]);
+        if (surrogatoBasso(secondo)) {
+            ++posizione;
+            return 0x10000 + ((primo - 0xD800) << 10) + (secondo - 0xDC00);
+        }
+    }
+    return primo;
+}

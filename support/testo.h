@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Texts the way the run time treats them, in every locale and on every system.
+
+// Without the blanks (U+0020 and nothing else: a tab or a line end stays) at both ends; at the
+// right.
+[[nodiscard]] std::wstring_view rifila(std::wstring_view testo) noexcept;
+[[nodiscard]] std::wstring_view rifilaDestra(std::wstring_view testo) noexcept;
+
+// Full upper and lower case of each character, accents included, one character for one.
+[[nodiscard]] wchar_t maiuscola(wchar_t carattere) noexcept;
+[[nodiscard]] wchar_t minuscola(wchar_t carattere) noexcept;
+[[nodiscard]] std::wstring maiuscolo(std::wstring_view testo);
+[[nodiscard]] std::wstring minuscolo(std::wstring_view testo);
+
+// Every occurrence of one text replaced by another, from left to right; an empty `cerca` changes
+// nothing.
+[[nodiscard]] std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca,
+                                       std::wstring_view con);
+
+// The pieces between separators, empty ones included: "a;;b" gives three, "" gives one.
+[[nodiscard]] std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore);
+
+// A code point as UTF-16 on Windows and UTF-32 elsewhere, appended to a text.
+void aggiungiCarattere(std::wstring& testo, char32_t punto);
+
+// The code point at `posizione`, which moves past it. A lone surrogate is given as it is.
+[[nodiscard]] char32_t leggiCarattere(std::wstring_view testo, std::size_t& posizione) noexcept;

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "support/messaggi.h"
+
+#include <deque>
+#include <string>
+
+#include <gtest/gtest.h>
+
+// Message boxes for tests: each one shown must be the next one expected, and each one expected must
+// have been shown when the fake goes.
+class MessaggiFinti final : public Messaggi {
+public:
+    MessaggiFinti() = default;
+    MessaggiFinti(const MessaggiFinti&) = delete;
+    MessaggiFinti& operator=(const MessaggiFinti&) = delete;
+    ~MessaggiFinti() override {
+        for (const auto& a : attesi_) {
+            ADD_FAILURE() << "message never shown: " << testing::PrintToString(a.testo);
+        }
+    }
+
+    void attendi(std::wstring testo, std::wstring titolo, Icona icona,
+                 Pulsanti pulsanti = Pulsanti::Ok, Risposta risposta = Risposta::Ok) {
+        attesi_.push_back({std::move(testo), std::move(titolo), icona, pulsanti, risposta});
+    }
+
+    Risposta mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
+                    Pulsanti pulsanti) override {
+        if (attesi_.empty()) {
+            ADD_FAILURE() << "unexpected message: " << testing::PrintToString(testo) << " titled "
+                          << testing::PrintToString(titolo);
+            return pulsanti == Pulsanti::Ok ? Risposta::Ok : Risposta::No;
+        }
+        const Atteso a = attesi_.front();
+        attesi_.pop_front();
+        EXPECT_EQ(testo, a.testo);
+        EXPECT_EQ(titolo, a.titolo);
+        EXPECT_EQ(icona, a.icona);
+        EXPECT_EQ(pulsanti, a.pulsanti);
+        return a.risposta;
+    }
+
+private:
+    struct Atteso {
+        std::wstring testo;
+        std::wstring titolo;
+        Icona icona;
+        Pulsanti pulsanti;
+        Risposta risposta;
+    };
+    std::deque<Atteso> attesi_;
+};

@@ -1,0 +1,43 @@
+#include "support/testo.h"
+
+#include <gtest/gtest.h>
+
+TEST(Testo, RifilaTogliesoloGliSpazi) {
+    EXPECT_EQ(rifila(L"  a b  "), L"a b");
+    EXPECT_EQ(rifila(L"   "), L"");
+    EXPECT_EQ(rifila(L""), L"");
+    EXPECT_EQ(rifila(L" \t "), L"\t");
+    EXPECT_EQ(rifila(L"\r\n"), L"\r\n");
+    EXPECT_EQ(rifila(L"\u00A0"), L"\u00A0");
+    EXPECT_EQ(rifilaDestra(L"  a  "), L"  a");
+}
+
+TEST(Testo, MaiuscoloConGliAccenti) {
+    EXPECT_EQ(maiuscolo(L"c:\\città\\è.xml"), L"C:\\CITTÀ\\È.XML");
+    EXPECT_EQ(minuscolo(L"C:\\CITTÀ\\È.XML"), L"c:\\città\\è.xml");
+    EXPECT_EQ(maiuscolo(L"straße"), L"STRAßE");
+}
+
+TEST(Testo, SostituisciDaSinistra) {
+    EXPECT_EQ(sostituisci(L"aaa", L"aa", L"b"), L"ba");
+    EXPECT_EQ(sostituisci(L"a\tb\t", L"\t", L"    "), L"a    b    ");
+    EXPECT_EQ(sostituisci(L"abc", L"", L"x"), L"abc");
+}
+
+TEST(Testo, DividiTieneIPezziVuoti) {
+    EXPECT_EQ(dividi(L"a;;b", L';'), (std::vector<std::wstring_view>{L"a", L"", L"b"}));
+    EXPECT_EQ(dividi(L"", L';').size(), 1U);
+}
+
+TEST(Testo, CaratteriFuoriDalPianoBase) {
+    std::wstring testo;
+    aggiungiCarattere(testo, U'\U0001F600');
+    aggiungiCarattere(testo, U'a');
+    std::size_t posizione = 0;
+    EXPECT_EQ(leggiCarattere(testo, posizione), U'\U0001F600');
+    EXPECT_EQ(leggiCarattere(testo, posizione), U'a');
+    EXPECT_EQ(posizione, testo.size());
+    posizione = 0;
+    EXPECT_EQ(leggiCarattere(std::wstring(1, static_cast<wchar_t>(0xD800)), posizione),
+              char32_t{0xD800});
+}

@@ -1,0 +1,89 @@
+# Sourced by ./run, ./test and the tools: what the project needs around it on a Debian machine.
+# Everything it makes lives under build/.
+
+radice=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build="$radice/build"
+wine64=/usr/lib/wine/wine64
+wineserver=/usr/lib/wine/wineserver
+
+passo() { printf '\n== %s\n' "$*"; }
+
+# installa: every package of tools/packages that is missing.
+installa() {
+  local voluti mancanti=() p
+  voluti=$(sed 's/#.*//' "$radice/tools/packages")
+  for p in $voluti; do
+    dpkg-query -W -f='${db:Status-Status}\n' "$p" 2>/dev/null | grep -qx installed || mancanti+=("$p")
+  done
+  [ ${#mancanti[@]} -eq 0 ] && return 0
+  passo "Installing: ${mancanti[*]}"
+  local come=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Packages are missing; run as root or install sudo." >&2; return 1; }
+    come=(sudo)
+  fi
+  "${come[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q
+  "${come[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${mancanti[@]}"
+}
+
+# lingue: the Italian and the English locale, in the build folder, so the system's own stay as they
+# are. Wine takes the Windows locale from LC_ALL.
+lingue() {
+  local l
+  mkdir -p "$build/locale"
+  for l in it_IT en_US; do
+    [ -d "$build/locale/$l.UTF-8" ] || localedef -i "$l" -f UTF-8 "$build/locale/$l.UTF-8" || true
+  done
+  export LOCPATH="$build/locale" TZ=Europe/Rome
+  # The shell itself may not find them there and says so; its children do.
+  { export LC_ALL=it_IT.UTF-8 LANG=it_IT.UTF-8; } 2>/dev/null
+}
+
+# prefisso NAME: a private Wine prefix build/NAME, made once, exported for what follows.
+# "wine-prove" (the tests') has windows that no window manager touches.
+prefisso() {
+  export WINEPREFIX="$build/$1" WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
+  export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
+  if [ ! -f "$WINEPREFIX/pronto" ]; then
+    rm -rf "$WINEPREFIX"
+    mkdir -p "$WINEPREFIX"
+    "$wine64" wineboot -i
+    if [ "$1" = wine-prove ]; then
+      "$wine64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+    fi
+    "$wineserver" -w
+    touch "$WINEPREFIX/pronto"
+  fi
+  "$wineserver" -p 30 2>/dev/null || true
+}
+
+# schermo WxH [DPI]: a virtual display of its own, closed when the shell ends.
+schermo() {
+  local uscita
+  uscita=$(mktemp)
+  Xvfb -displayfd 3 -screen 0 "$1x24" -dpi "${2:-96}" -nolisten tcp 3>"$uscita" >/dev/null 2>&1 &
+  schermo_pid=$!
+  local n=0
+  until [ -s "$uscita" ]; do
+    n=$((n + 1))
+    [ $n -lt 200 ] && kill -0 "$schermo_pid" 2>/dev/null || { echo "Xvfb does not start" >&2; return 1; }
+    sleep 0.05
+  done
+  DISPLAY=":$(cat "$uscita")"
+  export DISPLAY
+  rm -f "$uscita"
+}
+
+# chiudi: what the shell leaves behind when it ends.
+chiudi() {
+  [ -n "${WINEPREFIX:-}" ] && "$wineserver" -k 2>/dev/null
+  [ -n "${schermo_pid:-}" ] && kill "$schermo_pid" 2>/dev/null
+  return 0
+}
+
+# costruisci PRESET: configure and build.
+costruisci() {
+  cmake --preset "$1" >"$build/$1.configure.log" 2>&1 || { cat "$build/$1.configure.log"; return 1; }
+  cmake --build --preset "$1"
+}
