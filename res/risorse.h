@@ -1,3 +1,39 @@
 #pragma once
 
-// Numbers of resources and controls, shared by the resource script and the code.
+// Numbers of resources and controls, shared by the resource scripts and the code.
+
+// The frame of the channel's fields.
+#define IDD_FRADATI 100
+#define IDC_FRADATI 1001
+#define IDC_TXTTITOLO 1002
+#define IDC_TXTLINKHOME 1003
+#define IDC_TXTDESCRIZIONE 1004
+#define IDC_CBOLINGUA 1005
+#define IDC_TXTCOPYRIGHT 1006
+#define IDC_TXTDATA 1007
+#define IDC_TXTORARIO 1008
+#define IDC_TXTWEBMASTER 1009
+#define IDC_TXTLOGO 1010
+#define IDC_TXTURL 1011
+#define IDC_TXTLINKIMG 1012
+#define IDC_TXTLARGHEZZA 1013
+#define IDC_TXTALTEZZA 1014
+#define IDC_CMDGETSIZE 1015
+#define IDC_LBLURL 1016
+#define IDC_LBLLARGHEZZA 1017
+#define IDC_LBLALTEZZA 1018
+
+// The main window's other controls.
+#define IDC_GRIGLIA 1101
+#define IDC_PICCMD 1102
+#define IDC_STATUSBAR 1103
+#define IDC_TOOLBAR 1104
+
+// The item editor.
+#define IDD_FRMEDITFEED 200
+
+// The about box.
+#define IDD_FRMABOUT 300
+
+// The icon of the program and of its windows.
+#define IDI_OSTRELLE 1

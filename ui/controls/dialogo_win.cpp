@@ -1,0 +1,88 @@
+#include "ui/controls/dialogo_win.h"
+
+#include "support/errori_win.h"
+
+#include <exception>
+
+// What goes through WM_INITDIALOG: the object, and the way back for what it raises there.
+struct Dialogo::Nascita {
+    Dialogo* dialogo;
+    std::exception_ptr errore;
+};
+
+Dialogo::~Dialogo() {
+    if (hwnd_ != nullptr) {
+        SetWindowLongPtrW(hwnd_, DWLP_USER, 0);
+        DestroyWindow(hwnd_);
+    }
+}
+
+INT_PTR Dialogo::mostraModale(int modello, HWND proprietaria) {
+    Nascita nascita{this, nullptr};
+    modale_ = true;
+    const INT_PTR esito =
+        DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(modello), proprietaria,
+                        procedura, reinterpret_cast<LPARAM>(&nascita));
+    const DWORD codice = GetLastError();
+    modale_ = false;
+    if (nascita.errore) {
+        std::rethrow_exception(nascita.errore);
+    }
+    if (esito == -1) {
+        sollevaWin32(codice);
+    }
+    return esito;
+}
+
+void Dialogo::crea(int modello, HWND genitore) {
+    Nascita nascita{this, nullptr};
+    const HWND creata = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(modello),
+                                           genitore, procedura, reinterpret_cast<LPARAM>(&nascita));
+    const DWORD codice = GetLastError();
+    if (nascita.errore) {
+        std::rethrow_exception(nascita.errore);
+    }
+    if (creata == nullptr) {
+        sollevaWin32(codice);
+    }
+}
+
+void Dialogo::chiudi(INT_PTR esito) noexcept {
+    if (modale_) {
+        EndDialog(hwnd_, esito);
+    } else {
+        DestroyWindow(hwnd_);
+    }
+}
+
+INT_PTR CALLBACK Dialogo::procedura(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) noexcept {
+    if (msg == WM_INITDIALOG) {
+        auto* const nascita = reinterpret_cast<Nascita*>(lParam);
+        Dialogo* const nato = nascita->dialogo;
+        nato->hwnd_ = hwnd;
+        SetWindowLongPtrW(hwnd, DWLP_USER, reinterpret_cast<LONG_PTR>(nato));
+        try {
+            return nato->inizializza() ? TRUE : FALSE;
+        } catch (...) {
+            nascita->errore = std::current_exception();
+            nato->chiudi(-1);
+            return FALSE;
+        }
+    }
+    // Messages before WM_INITDIALOG (WM_SETFONT, for one) find no object yet.
+    auto* const dialogo = reinterpret_cast<Dialogo*>(GetWindowLongPtrW(hwnd, DWLP_USER));
+    if (dialogo == nullptr) {
+        return FALSE;
+    }
+    if (msg == WM_NCDESTROY) {
+        SetWindowLongPtrW(hwnd, DWLP_USER, 0);
+        dialogo->hwnd_ = nullptr;
+        return FALSE;
+    }
+    try {
+        return dialogo->messaggio(msg, wParam, lParam);
+    } catch (...) {
+        dialogo->eccezione();
+        return FALSE;
+    }
+}

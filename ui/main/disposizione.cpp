@@ -1,0 +1,40 @@
+#include "ui/main/disposizione.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double margine = 50;
+constexpr double dueMargini = 100;
+// Below this the three image fields keep their width.
+constexpr double larghezzaMinima = 400;
+
+} // namespace
+
+Disposizione DisponiControlli(const MisureFinestra& m) noexcept {
+    Disposizione d;
+    double larghezzaDati = m.larghezzaDati;
+    if (m.larghezzaInterna - dueMargini > 0) {
+        larghezzaDati = m.larghezzaInterna - dueMargini;
+        d.fraDati = Riquadro{margine, m.altoDati, larghezzaDati, m.altezzaDati};
+    }
+
+    const double spazio = larghezzaDati - m.sinistraLogo - dueMargini;
+    if (spazio >= larghezzaMinima) {
+        d.larghezzaImmagine = std::min(spazio, m.larghezzaTitolo);
+    }
+
+    const double altoGriglia = m.altoDati + m.altezzaDati + margine;
+    const double altezzaGriglia = m.altezzaInterna - m.altezzaStato - altoGriglia - dueMargini;
+    const double sinistraPicCmd = m.larghezzaInterna - margine - m.larghezzaPicCmd;
+    const double larghezzaGriglia = sinistraPicCmd - dueMargini;
+    if (altezzaGriglia > 0 && larghezzaGriglia > 0) {
+        d.griglia = Riquadro{margine, altoGriglia, larghezzaGriglia, altezzaGriglia};
+        d.picCmd = Riquadro{sinistraPicCmd, altoGriglia, m.larghezzaPicCmd, altezzaGriglia};
+    }
+    if (larghezzaGriglia > 0) {
+        d.cmdGetSize = Riquadro{sinistraPicCmd - margine, m.altoLarghezza, m.larghezzaPicCmd,
+                                m.altezzaGetSize};
+    }
+    return d;
+}

@@ -1,0 +1,72 @@
+#include "ui/main/menu_win.h"
+
+#include "support/errori_win.h"
+#include "ui/main/comandi.h"
+#include "ui/main/recenti.h"
+
+namespace {
+
+void aggiungi(HMENU menu, UINT stile, UINT_PTR id, const std::wstring& didascalia) {
+    if (!AppendMenuW(menu, stile, id, didascalia.c_str())) {
+        sollevaWin32();
+    }
+}
+
+// A submenu belongs to its menu as soon as it is appended.
+void aggiungiSottomenu(HMENU menu, ManigliaMenu sottomenu, std::wstring_view didascalia) {
+    aggiungi(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(sottomenu.get()), std::wstring(didascalia));
+    static_cast<void>(sottomenu.cedi());
+}
+
+ManigliaMenu creaMenu(const MenuPrincipale& principale) {
+    ManigliaMenu menu(CreatePopupMenu());
+    for (const VoceMenu& voce : principale.voci) {
+        if (voce.comando == nessunComando) {
+            aggiungi(menu.get(), MF_SEPARATOR, 0, L"");
+        } else if (voce.comando == mnrecenti) {
+            aggiungiSottomenu(menu.get(), ManigliaMenu(CreatePopupMenu()), voce.didascalia);
+        } else {
+            aggiungi(menu.get(), MF_STRING, voce.comando, std::wstring(voce.didascalia));
+        }
+    }
+    return menu;
+}
+
+// The only submenu of the first menu.
+HMENU sottomenuRecenti(HMENU barra) {
+    const HMENU file = GetSubMenu(barra, 0);
+    for (int i = 0; i < GetMenuItemCount(file); ++i) {
+        if (const HMENU sottomenu = GetSubMenu(file, i)) {
+            return sottomenu;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ManigliaMenu creaBarraMenu() {
+    ManigliaMenu barra(CreateMenu());
+    for (const MenuPrincipale& principale : menuPrincipali()) {
+        aggiungiSottomenu(barra.get(), creaMenu(principale), principale.didascalia);
+    }
+    return barra;
+}
+
+void mostraRecenti(HMENU barra, std::span<const std::wstring> voci) {
+    const HMENU menu = sottomenuRecenti(barra);
+    while (GetMenuItemCount(menu) > 0) {
+        DeleteMenu(menu, 0, MF_BYPOSITION);
+    }
+    if (voci.empty()) {
+        aggiungi(menu, MF_STRING | MF_GRAYED, mnrec, std::wstring(nessunaVoce));
+    }
+    UINT_PTR id = mnrec;
+    for (const std::wstring& voce : voci) {
+        aggiungi(menu, MF_STRING, ++id, didascaliaMenu(voce));
+    }
+}
+
+ManigliaMenu creaMenuContenuto() {
+    return creaMenu(mnContenuto());
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+class ClsCodaEliminazione;
+class DialoghiFile;
+class Impostazioni;
+class Messaggi;
+class Orologio;
+
+// What the windows need from outside themselves; all outlive the windows.
+struct Servizi {
+    Messaggi& messaggi;
+    DialoghiFile& dialoghi;
+    Orologio& orologio;
+    Impostazioni& impostazioni;
+    ClsCodaEliminazione& coda;
+};
