@@ -82,8 +82,7 @@ chiudi() {
   return 0
 }
 
-# costruisci PRESET: configure and build.
-costruisci() {
-  cmake --preset "$1" >"$build/$1.configure.log" 2>&1 || { cat "$build/$1.configure.log"; return 1; }
-  cmake --build --preset "$1"
+# configura PRESET: what CMake says is shown only when it fails.
+configura() {
+  cmake --preset "$1" >"$build/$1.log" 2>&1 || { cat "$build/$1.log"; return 1; }
 }

@@ -28,7 +28,7 @@ attendi_chiusa() {
 # quieto: until two pictures of the screen in a row are the same.
 quieto() {
   local prima="" dopo n=0
-  while dopo=$(import -window root rgb:- | sha256sum); [ "$dopo" != "$prima" ] && [ $n -lt 60 ]; do
+  while dopo=$(import -window root rgb:- 2>/dev/null | sha256sum); [ "$dopo" != "$prima" ] && [ $n -lt 60 ]; do
     prima=$dopo
     n=$((n + 1))
     sleep 0.15
@@ -52,7 +52,8 @@ giro() {
   mkdir -p "$dove"
   cp tests/campioni/notizie.xml "$dove/notizie.xml"
   openbox >/dev/null 2>&1 &
-  "$wine64" build/windows/Ostrelle.exe &
+  "$wine64" build/windows/Ostrelle.exe 2>/dev/null &
+  programma=$!
 
   attendi_finestra 'Ostrelle  \[Nuovo Documento\]'
   foto "nuovo-documento"
@@ -78,7 +79,7 @@ giro() {
 
   tasti alt+f c
   attendi_chiusa 'Ostrelle'
-  "$wineserver" -w
+  wait "$programma"
   passo "Pictures and the saved feed: ${dove#"$radice/"}"
   ls "$dove"
 }

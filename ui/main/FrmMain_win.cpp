@@ -61,8 +61,7 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 }
 
 FrmMain::FrmMain(const Servizi& servizi)
-    : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this),
-      griglia_(elementi_, *this),
+    : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this), griglia_(elementi_, *this),
       documento_(servizi, *this, stato_, campi_, elementi_, recenti_),
       ultimaData_(servizi.orologio.adesso().locale) {}
 
@@ -78,7 +77,8 @@ void FrmMain::apri(int comeMostrare) {
     const Dpi dpi = dpiDi(nullptr);
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const int larghezza = std::min<int>(MulDiv(larghezzaIniziale, dpi.x, 96), area.right - area.left);
+    const int larghezza =
+        std::min<int>(MulDiv(larghezzaIniziale, dpi.x, 96), area.right - area.left);
     const int altezza = std::min<int>(MulDiv(altezzaIniziale, dpi.y, 96), area.bottom - area.top);
     const int sinistra = area.left + (area.right - area.left - larghezza) / 2;
     const int alto = area.top + (area.bottom - area.top - altezza) / 2;
@@ -157,16 +157,16 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
 }
 
 void FrmMain::creaControlli() {
+    KOInputNumerico::registraClasse();
     campi_.crea(IDD_FRADATI, hwnd());
     const auto carattere = reinterpret_cast<HFONT>(SendMessageW(campi_.hwnd(), WM_GETFONT, 0, 0));
     const Dpi dpi = dpiDi(hwnd());
     griglia_.creaIn(hwnd(), IDC_GRIGLIA, L"Elementi", RECT{});
     striscia_.altezzaPulsante(MulDiv(altezzaPulsante, dpi.y, 96));
     striscia_.crea(hwnd(), carattere);
-    statusBar_ = CreateWindowExW(0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP,
-                                 0, 0, 0, 0, hwnd(),
-                                 reinterpret_cast<HMENU>(UINT_PTR{IDC_STATUSBAR}),
-                                 GetModuleHandleW(nullptr), nullptr);
+    statusBar_ = CreateWindowExW(
+        0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, hwnd(),
+        reinterpret_cast<HMENU>(UINT_PTR{IDC_STATUSBAR}), GetModuleHandleW(nullptr), nullptr);
     if (statusBar_ == nullptr) {
         sollevaWin32();
     }
@@ -240,8 +240,8 @@ void FrmMain::CaricaRecenti() {
 void FrmMain::MostraErrore() {
     const Errore errore = erroreCorrente();
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    servizi_.messaggi.avvisa(errore.descrizione(),
-                             L"Errore n° " + std::to_wstring(errore.numero()), Icona::Critica);
+    servizi_.messaggi.avvisa(errore.descrizione(), L"Errore n° " + std::to_wstring(errore.numero()),
+                             Icona::Critica);
 }
 
 void FrmMain::riportaErrore() noexcept {
@@ -289,11 +289,36 @@ void FrmMain::comando(int id) {
     default:
         if (id > mnrec && id <= ultimoRecente) {
             // A copy: the list is read anew while the file opens.
-            const std::wstring percorso = recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
+            const std::wstring percorso =
+                recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
             documento_.Apri(percorso);
         }
         break;
     }
+}
+
+void FrmMain::cmdGetSize_Click() {}
+
+void FrmMain::grigliaDoppioClic(int /*riga*/) {
+    esegui(mnEditFeed);
+}
+
+void FrmMain::grigliaRigaCambiata(int riga) {
+    GUI::SelezionaRiga(griglia_, riga);
+}
+
+void FrmMain::grigliaSposta(int da, int a) {
+    elementi_.sposta(da, a);
+    RiempiGriglia(false);
+}
+
+void FrmMain::grigliaMenu(POINT punto) {
+    const ManigliaMenu menu = creaMenuContenuto();
+    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, punto.x, punto.y, 0, hwnd(), nullptr);
+}
+
+bool FrmMain::grigliaTasto(UINT /*tasto*/) {
+    return false;
 }
 
 void FrmMain::DisponiFinestra() {

@@ -26,7 +26,7 @@ Disposizione DisponiControlli(const MisureFinestra& m) noexcept {
 
     const double altoGriglia = m.altoDati + m.altezzaDati + margine;
     const double altezzaGriglia = m.altezzaInterna - m.altezzaStato - altoGriglia - dueMargini;
-    const double sinistraPicCmd = m.larghezzaInterna - margine - m.larghezzaPicCmd;
+    const double sinistraPicCmd = m.larghezzaInterna - dueMargini - m.larghezzaPicCmd;
     const double larghezzaGriglia = sinistraPicCmd - dueMargini;
     if (altezzaGriglia > 0 && larghezzaGriglia > 0) {
         d.griglia = Riquadro{margine, altoGriglia, larghezzaGriglia, altezzaGriglia};

@@ -30,14 +30,14 @@ void StrisciaComandi::crea(HWND padre, HFONT carattere) {
     descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registra(descrizione);
-    Finestra::crea(classe, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, RECT{},
-                   padre);
+    Finestra::crea(classe, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
+                   RECT{}, padre);
 
     for (const Pulsante& p : pulsanti) {
-        const HWND pulsante = CreateWindowExW(
-            0, L"BUTTON", p.didascalia, WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 0, 0, hwnd(),
-            reinterpret_cast<HMENU>(static_cast<UINT_PTR>(p.comando)), GetModuleHandleW(nullptr),
-            nullptr);
+        const HWND pulsante =
+            CreateWindowExW(0, L"BUTTON", p.didascalia, WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 0,
+                            0, hwnd(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(p.comando)),
+                            GetModuleHandleW(nullptr), nullptr);
         if (pulsante == nullptr) {
             sollevaWin32();
         }
