@@ -1,7 +1,5 @@
 #include "tests/aiuti/documento_win.h"
 
-#include "support/errore.h"
-
 void Documento::leggi(const std::wstring& percorso) {
     clsFeedRss().LeggiDocumentoRSS(percorso, title, link, description, language, copyright,
                                    lastBuildDate, webMaster, image, items);
@@ -16,13 +14,18 @@ std::array<std::wstring*, 7> Documento::canale() {
     return {&title, &link, &description, &language, &copyright, &lastBuildDate, &webMaster};
 }
 
-Sollevato sollevatoDa(const std::function<void()>& azione) {
-    try {
-        azione();
-    } catch (const Errore& errore) {
-        return {errore.numero(), errore.descrizione()};
-    }
-    return {};
+Sollevato Documento::provaLeggi(const std::wstring& percorso) {
+    return sollevatoDa([&] {
+        leggi(percorso);
+        return true;
+    });
+}
+
+Sollevato Documento::provaScrivi(const std::wstring& percorso) const {
+    return sollevatoDa([&] {
+        scrivi(percorso);
+        return true;
+    });
 }
 
 std::string rssCon(std::string_view contenutoCanale) {

@@ -2,9 +2,9 @@
 
 #include "document/clsFeedRss.h"
 
+#include "tests/aiuti/sollevato.h"
+
 #include <array>
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,16 +22,12 @@ struct Documento {
 
     void leggi(const std::wstring& percorso);
     void scrivi(const std::wstring& percorso) const;
+    // The same, giving what was raised.
+    [[nodiscard]] Sollevato provaLeggi(const std::wstring& percorso);
+    [[nodiscard]] Sollevato provaScrivi(const std::wstring& percorso) const;
     // The seven strings of the channel, in their order.
     [[nodiscard]] std::array<std::wstring*, 7> canale();
 };
-
-// What an action raises; number 0 when it raises nothing.
-struct Sollevato {
-    std::int32_t numero = 0;
-    std::wstring descrizione;
-};
-[[nodiscard]] Sollevato sollevatoDa(const std::function<void()>& azione);
 
 // A feed file around the content of its channel, in UTF-8.
 [[nodiscard]] std::string rssCon(std::string_view contenutoCanale);
