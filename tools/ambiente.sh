@@ -75,10 +75,19 @@ schermo() {
   rm -f "$uscita"
 }
 
+# disco_piccolo: a volume of 256 KB for the tests to fill, where this user may mount one.
+disco_piccolo() {
+  local dove="$build/disco-piccolo"
+  mkdir -p "$dove"
+  mountpoint -q "$dove" || mount -t tmpfs -o size=256k tmpfs "$dove" 2>/dev/null || return 0
+  export OSTRELLE_DISCO_PICCOLO="$dove"
+}
+
 # chiudi: what the shell leaves behind when it ends.
 chiudi() {
   [ -n "${WINEPREFIX:-}" ] && "$wineserver" -k 2>/dev/null
   [ -n "${schermo_pid:-}" ] && kill "$schermo_pid" 2>/dev/null
+  [ -n "${OSTRELLE_DISCO_PICCOLO:-}" ] && umount "$OSTRELLE_DISCO_PICCOLO" 2>/dev/null
   return 0
 }
 

@@ -41,3 +41,11 @@ TEST(Testo, CaratteriFuoriDalPianoBase) {
     EXPECT_EQ(leggiCarattere(std::wstring(1, static_cast<wchar_t>(0xD800)), posizione),
               char32_t{0xD800});
 }
+
+TEST(Testo, ACapoSempreCrLf) {
+    EXPECT_EQ(aCapoCrLf(L"a\nb\r\nc"), L"a\r\nb\r\nc");
+    EXPECT_EQ(aCapoCrLf(L"a\rb"), L"a\rb");
+    EXPECT_EQ(aCapoCrLf(L"\n\n"), L"\r\n\r\n");
+    EXPECT_EQ(aCapoCrLf(L"\r\r\n"), L"\r\r\n");
+    EXPECT_EQ(aCapoCrLf(L""), L"");
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "support/errore.h"
+
+#include <cstdint>
+#include <string>
+
+// What an action raises; number 0 when it raises nothing.
+struct Sollevato {
+    std::int32_t numero = 0;
+    std::wstring descrizione;
+};
+
+template <class Azione>
+[[nodiscard]] Sollevato sollevatoDa(Azione azione) {
+    try {
+        static_cast<void>(azione());
+    } catch (const Errore& errore) {
+        return {errore.numero(), errore.descrizione()};
+    }
+    return {};
+}

@@ -1,0 +1,72 @@
+#include "document/caratteriXml.h"
+
+#include "support/testo.h"
+#include "tests/aiuti/sollevato.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::wstring testoDi(char32_t c) {
+    std::wstring testo;
+    aggiungiCarattere(testo, c);
+    return testo;
+}
+
+Sollevato errore(std::wstring_view testo, const NomeTesto& nome = {L"titolo", 3}) {
+    return sollevatoDa([&] { return verificaCData(testo, nome, L"c:\\città.xml"), 0; });
+}
+
+} // namespace
+
+TEST(CaratteriXml, OgniPuntoDelCodice) {
+    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+        const bool controllo = c < 0x20 && c != 9 && c != 10 && c != 13;
+        const bool surrogato = c >= 0xD800 && c <= 0xDFFF;
+        const bool vietato = controllo || surrogato || c == 0xFFFE || c == 0xFFFF;
+        const auto trovato = primoVietato(L"a" + testoDi(c) + L"b");
+        ASSERT_EQ(trovato.has_value(), vietato) << std::uint32_t{c};
+        if (vietato) {
+            ASSERT_EQ(*trovato, c);
+        }
+    }
+}
+
+TEST(CaratteriXml, ISurrogatiInCoppiaPassanoDaSoliNo) {
+    const auto alto = static_cast<wchar_t>(0xD83D);
+    const auto basso = static_cast<wchar_t>(0xDE00);
+    EXPECT_FALSE(primoVietato(std::wstring{alto, basso}));
+    EXPECT_EQ(primoVietato(std::wstring{L'a', alto}), char32_t{0xD83D});
+    EXPECT_EQ(primoVietato(std::wstring{basso, alto}), char32_t{0xDE00});
+    EXPECT_EQ(primoVietato(std::wstring{alto, alto, basso}), char32_t{0xD83D});
+}
+
+TEST(CaratteriXml, IlMessaggioNominaFileCampoECarattere) {
+    auto e = errore(L"a\vb", {L"descrizione", 3});
+    EXPECT_EQ(e.numero, 5);
+    EXPECT_EQ(e.descrizione,
+              L"C:\\CITTÀ.XML: carattere non ammesso in descrizione dell'elemento 3 (U+000B).");
+    EXPECT_EQ(errore(std::wstring(1, L'\0'), {L"titolo del canale"}).descrizione,
+              L"C:\\CITTÀ.XML: carattere non ammesso in titolo del canale (U+0000).");
+    EXPECT_EQ(errore(L"\xFFFE").descrizione,
+              L"C:\\CITTÀ.XML: carattere non ammesso in titolo dell'elemento 3 (U+FFFE).");
+}
+
+TEST(CaratteriXml, LaFineDelCDataSoloNelCData) {
+    const auto e = errore(L"a]]>b", {L"descrizione", 3});
+    EXPECT_EQ(e.numero, 5);
+    EXPECT_EQ(e.descrizione,
+              L"C:\\CITTÀ.XML: sequenza ]]> non ammessa in descrizione dell'elemento 3.");
+    EXPECT_EQ(errore(L"]] > ]>").numero, 0);
+    EXPECT_EQ(sollevatoDa([] { return verificaTesto(L"]]>", {L"titolo"}, L""), 0; }).numero, 0);
+    // Whichever stands first, the character wins.
+    EXPECT_NE(errore(L"]]>\v").descrizione.find(L"carattere"), std::wstring::npos);
+}
+
+TEST(CaratteriXml, SoloCioCheMancaAlLatin1DiventaRiferimento) {
+    EXPECT_EQ(conRiferimenti(L"<p>€ ’“”–… àÿ&amp;\t\r\n</p>"),
+              L"<p>&#8364; &#8217;&#8220;&#8221;&#8211;&#8230; àÿ&amp;\t\r\n</p>");
+    EXPECT_EQ(conRiferimenti(testoDi(0x1F600) + testoDi(0xFF) + testoDi(0x100) + testoDi(0x85)),
+              L"&#128512;" + testoDi(0xFF) + L"&#256;" + testoDi(0x85));
+    EXPECT_EQ(conRiferimenti(L""), L"");
+}

@@ -1,0 +1,301 @@
+#include "datetime/ClsUTC.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/documento_win.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using enum CampoElemento;
+
+class Lettura : public testing::Test {
+protected:
+    // Reads a file with these bytes.
+    Sollevato leggi(std::string_view contenuto) {
+        percorso = cartella.scrivi(L"prova.xml", contenuto);
+        return d.provaLeggi(percorso);
+    }
+    Sollevato leggiCanale(std::string_view contenuto) { return leggi(rssCon(contenuto)); }
+
+    // A text that the reader stamped: the time of now.
+    void attendiAdesso(const std::wstring& testo) const {
+        const ClsUTC utc;
+        const auto adesso = utc.adessoLocale().secondi();
+        // The offset west of Greenwich is no number to read back; tests run in Rome.
+        const auto letta = utc.ToDate(testo).secondi();
+        EXPECT_LE(letta, adesso);
+        EXPECT_GE(letta, adesso - 60);
+    }
+
+    CartellaProva cartella;
+    std::wstring percorso;
+    Documento d;
+};
+
+} // namespace
+
+TEST_F(Lettura, SetteTestiImmagineEdElementi) {
+    const auto e = leggiCanale(
+        "<title>T</title><link>L</link><description>D</description><language>it</language>"
+        "<copyright>C</copyright><lastBuildDate>B</lastBuildDate><webMaster>W</webMaster>"
+        "<image><title>IT</title><url>IU</url><link>IL</link><width>1</width><height>2</height>"
+        "</image><item><title>a</title><link>b</link><description>c</description>"
+        "<author>d</author><pubDate>e</pubDate><guid>f</guid></item><item><title>2</title></item>");
+    EXPECT_EQ(e.numero, 0);
+    EXPECT_EQ(d.title, L"T");
+    EXPECT_EQ(d.link, L"L");
+    EXPECT_EQ(d.description, L"D");
+    EXPECT_EQ(d.language, L"it");
+    EXPECT_EQ(d.copyright, L"C");
+    EXPECT_EQ(d.lastBuildDate, L"B");
+    EXPECT_EQ(d.webMaster, L"W");
+    EXPECT_EQ(d.image.sTitle(), L"IT");
+    EXPECT_EQ(d.image.sUrl(), L"IU");
+    EXPECT_EQ(d.image.sLink(), L"IL");
+    EXPECT_EQ(d.image.nWidth(), 1);
+    EXPECT_EQ(d.image.nHeight(), 2);
+    EXPECT_TRUE(d.image.Modificato());
+    EXPECT_EQ(d.items.conteggio(), 2);
+    EXPECT_EQ(d.items(Titolo, 0), L"a");
+    EXPECT_EQ(d.items(Link, 0), L"b");
+    EXPECT_EQ(d.items(Descrizione, 0), L"c");
+    EXPECT_EQ(d.items(Autore, 0), L"d");
+    EXPECT_EQ(d.items(Data, 0), L"e");
+    EXPECT_EQ(d.items(Guid, 0), L"f");
+    EXPECT_EQ(d.items(Titolo, 1), L"2");
+}
+
+TEST_F(Lettura, SenzaUnSoloRssConUnSoloCanaleIlFormatoNonEValido) {
+    for (const auto* const testo :
+         {"<rss/>", "<rss><channel/><channel/></rss>", "<rdf><channel/></rdf>",
+          "<feed xmlns='http://www.w3.org/2005/Atom'><title>x</title></feed>",
+          "<html><body><p>x</p></body></html>", "<RSS><channel/></RSS>", "<rss><Channel/></rss>",
+          "<rss><x><channel/></x></rss>", "<rss><channel><rss/></channel></rss>",
+          "<a><rss><channel/></rss><rss/></a>",
+          "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><channel/></rdf:RDF>",
+          "<x:rss xmlns:x='u'><channel/></x:rss>", "<rss><x:channel xmlns:x='u'/></rss>"}) {
+        const auto e = leggi(testo);
+        EXPECT_EQ(e.numero, 18344) << testo;
+        std::wstring su = percorso;
+        CharUpperBuffW(su.data(), static_cast<DWORD>(su.size()));
+        EXPECT_EQ(inUtf8(e.descrizione), inUtf8(su + L": formato non valido."));
+    }
+}
+
+TEST_F(Lettura, UnRssSottoUnAltraRadiceSiLegge) {
+    EXPECT_EQ(leggi("<a><b><rss><channel><title>x</title></channel></rss></b></a>").numero, 0);
+    EXPECT_EQ(d.title, L"x");
+}
+
+TEST_F(Lettura, CioCheNonSiCaricaLasciaTuttoVuoto) {
+    for (const std::string& testo :
+         {std::string(), std::string("<rss><channel>"), std::string("\0\1\2\xFF", 4),
+          std::string("ciao"), rssCon("<title>\xFF\xFE</title>"),
+          std::string("<?xml version='1.0' encoding='x-nessuna'?><rss><channel/></rss>"),
+          std::string("<!DOCTYPE html><html><p>x<br></html>"), rssCon("<title>&euro;</title>"),
+          rssCon(std::string("<title>a\0b</title>", 18))}) {
+        d.title = L"prima";
+        d.webMaster = L"prima";
+        d.image.nWidth(3);
+        d.items.dimensiona(3);
+        const auto e = leggi(testo);
+        EXPECT_EQ(e.numero, 18343) << testo;
+        EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML: impossibile caricare il documento."))
+            << inUtf8(e.descrizione);
+        for (const auto* const campo : d.canale()) {
+            EXPECT_EQ(*campo, L"");
+        }
+        EXPECT_EQ(d.image.nWidth(), 0);
+        EXPECT_FALSE(d.image.Modificato());
+        EXPECT_EQ(d.items.conteggio(), 0);
+        EXPECT_EQ(d.items.limiteSuperiore(), 0);
+    }
+}
+
+TEST_F(Lettura, DueImmaginiNonSonoSupportateEIlCanaleRestaLetto) {
+    const auto e = leggiCanale("<image/><title>T</title><image/><item/>");
+    EXPECT_EQ(e.numero, 18345);
+    EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML: formato non supportato."));
+    EXPECT_EQ(d.title, L"T");
+    EXPECT_EQ(d.items.conteggio(), 0);
+    EXPECT_FALSE(d.image.Modificato());
+}
+
+TEST_F(Lettura, ImmagineAssenteOVuotaNonEModificata) {
+    EXPECT_EQ(leggiCanale("<title>T</title>").numero, 0);
+    EXPECT_FALSE(d.image.Modificato());
+    d.image.nWidth(5);
+    EXPECT_EQ(leggiCanale("<image><title/><width>0</width><height>x</height></image>").numero, 0);
+    EXPECT_FALSE(d.image.Modificato());
+    EXPECT_EQ(d.image.nWidth(), 0);
+}
+
+TEST_F(Lettura, MisureComeNumeroIniziale) {
+    const auto larghezza = [&](const std::string& testo) {
+        EXPECT_EQ(leggiCanale("<image><width>" + testo + "</width></image>").numero, 0) << testo;
+        return d.image.nWidth();
+    };
+    EXPECT_EQ(larghezza("120px"), 120);
+    EXPECT_EQ(larghezza("px"), 0);
+    EXPECT_EQ(larghezza("-7"), -7);
+    EXPECT_EQ(larghezza("+7"), 7);
+    EXPECT_EQ(larghezza("1 2 0"), 120);
+    EXPECT_EQ(larghezza("2.5"), 2);
+    EXPECT_EQ(larghezza("1,9"), 1);
+    EXPECT_EQ(larghezza("2147483647"), 2147483647);
+}
+
+TEST_F(Lettura, UnaMisuraOltre32BitEOverflow) {
+    EXPECT_EQ(leggiCanale("<title>T</title><image><title>I</title><width>2147483648</width>"
+                          "</image><item/>")
+                  .numero,
+              6);
+    EXPECT_EQ(d.title, L"T");
+    EXPECT_EQ(d.image.sTitle(), L"I");
+    EXPECT_EQ(d.items.conteggio(), 0);
+    EXPECT_EQ(leggiCanale("<image><height>-1e300</height></image>").numero, 6);
+}
+
+TEST_F(Lettura, LeDateMancantiSonoAdesso) {
+    EXPECT_EQ(leggiCanale("<item/><item><pubDate/></item><item><pubDate>  </pubDate></item>"
+                          "<item><pubDate>ieri</pubDate></item>")
+                  .numero,
+              0);
+    attendiAdesso(d.lastBuildDate);
+    attendiAdesso(d.items(Data, 0));
+    attendiAdesso(d.items(Data, 1));
+    attendiAdesso(d.items(Data, 2));
+    EXPECT_EQ(d.items(Data, 3), L"ieri");
+}
+
+TEST_F(Lettura, UnLastBuildDateVuotoRestaVuoto) {
+    EXPECT_EQ(leggiCanale("<lastBuildDate></lastBuildDate>").numero, 0);
+    EXPECT_EQ(d.lastBuildDate, L"");
+}
+
+TEST_F(Lettura, DescrizioneDalPrimoNodoFiglio) {
+    const auto descrizione = [&](const std::string& contenuto) {
+        EXPECT_EQ(leggiCanale("<item><description>" + contenuto + "</description></item>").numero,
+                  0);
+        return inUtf8(d.items(Descrizione, 0));
+    };
+    EXPECT_EQ(descrizione("<![CDATA[a < b]]>"), "a < b");
+    EXPECT_EQ(descrizione("<![CDATA[  a\nb  ]]>"), "  a\r\nb  ");
+    EXPECT_EQ(descrizione(""), "");
+    EXPECT_EQ(descrizione("a &lt; b"), "a < b");
+    EXPECT_EQ(descrizione("<![CDATA[a]]>b"), "a");
+    EXPECT_EQ(descrizione("<b>x</b>y"), "x");
+    EXPECT_EQ(descrizione("<!--commento-->testo"), "commento");
+    EXPECT_EQ(descrizione("<![CDATA[]]>"), "");
+}
+
+TEST_F(Lettura, INomiSonoEsatti) {
+    EXPECT_EQ(leggi("<rss xmlns:a='u'><channel><a:title>no</a:title><a:link>no</a:link><a:item/>"
+                    "<a:image/><a:channel><title>no</title></a:channel><x><title>no</title></x>"
+                    "<Link>no</Link><title>T</title><item><Title>no</Title><PUBDATE>no</PUBDATE>"
+                    "<a:title>no</a:title><x><guid>no</guid></x><category>no</category>"
+                    "<enclosure/>testo<!--c--></item></channel></rss>")
+                  .numero,
+              0);
+    EXPECT_EQ(d.title, L"T");
+    EXPECT_EQ(d.link, L"");
+    EXPECT_EQ(d.items.conteggio(), 1);
+    EXPECT_EQ(d.items(Titolo, 0), L"");
+    EXPECT_EQ(d.items(Guid, 0), L"");
+    attendiAdesso(d.items(Data, 0));
+    EXPECT_FALSE(d.image.Modificato());
+}
+
+TEST_F(Lettura, NelCanaleVinceIlPrimoNellElementoLUltimo) {
+    EXPECT_EQ(leggiCanale("<title>1</title><title>2</title><image><url>1</url><url>2</url></image>"
+                          "<item><title>1</title><title>2</title><description>1</description>"
+                          "<description/></item>")
+                  .numero,
+              0);
+    EXPECT_EQ(d.title, L"1");
+    EXPECT_EQ(d.image.sUrl(), L"1");
+    EXPECT_EQ(d.items(Titolo, 0), L"2");
+    EXPECT_EQ(d.items(Descrizione, 0), L"");
+}
+
+TEST_F(Lettura, IlTestoEQuelloDeiDiscendenti) {
+    EXPECT_EQ(leggiCanale("<title>a<b>c<i>d</i></b><![CDATA[<e>]]></title>").numero, 0);
+    EXPECT_EQ(d.title, L"acd<e>");
+}
+
+TEST_F(Lettura, AcapoCrLfOvunqueTranneNelLinkDellElemento) {
+    const std::string t = "a\nb&#13;\nc&#13;d";
+    EXPECT_EQ(leggiCanale("<title>" + t + "</title><link>" + t + "</link><image><title>" + t +
+                          "</title></image><item><title>" + t + "</title><link>" + t +
+                          "</link><guid>" + t + "</guid></item>")
+                  .numero,
+              0);
+    const std::wstring conCrLf = L"a\r\nb\r\nc\rd";
+    EXPECT_EQ(d.title, conCrLf);
+    EXPECT_EQ(d.link, conCrLf);
+    EXPECT_EQ(d.image.sTitle(), conCrLf);
+    EXPECT_EQ(d.items(Titolo, 0), conCrLf);
+    EXPECT_EQ(d.items(Guid, 0), conCrLf);
+    EXPECT_EQ(d.items(Link, 0), L"a\nb\r\nc\rd");
+}
+
+TEST_F(Lettura, ElementiSenzaTitoloDelCanale) {
+    EXPECT_EQ(leggiCanale("<item><title>a</title></item>").numero, 0);
+    EXPECT_EQ(d.title, L"");
+    EXPECT_EQ(d.items.conteggio(), 1);
+}
+
+TEST_F(Lettura, SenzaElementiLaTabellaEVuota) {
+    d.items.dimensiona(4);
+    EXPECT_EQ(leggiCanale("<title>a</title>").numero, 0);
+    EXPECT_EQ(d.items.conteggio(), 0);
+    EXPECT_EQ(d.items.limiteSuperiore(), 0);
+    EXPECT_EQ(d.items(Data, 0), L"");
+}
+
+TEST_F(Lettura, TrentaduemilaSettecentosessantasetteElementiENonUnoDiPiu) {
+    std::string molti;
+    for (int i = 0; i < 32767; ++i) {
+        molti += "<item><guid>" + std::to_string(i) + "</guid></item>";
+    }
+    EXPECT_EQ(leggiCanale(molti).numero, 0);
+    EXPECT_EQ(d.items.conteggio(), 32767);
+    EXPECT_EQ(d.items(Guid, 32766), L"32766");
+    EXPECT_EQ(leggiCanale("<title>T</title>" + molti + "<item/>").numero, 6);
+    EXPECT_EQ(d.title, L"T");
+    EXPECT_EQ(d.items.conteggio(), 0);
+}
+
+TEST_F(Lettura, LeCodificheDelParser) {
+    EXPECT_EQ(leggi("<?xml version='1.0' encoding='ISO-8859-1'?><rss><channel><title>\xE8</title>"
+                    "</channel></rss>")
+                  .numero,
+              0);
+    EXPECT_EQ(d.title, L"è");
+    EXPECT_EQ(leggi("\xEF\xBB\xBF" + rssCon("<title>\xC3\xA8\xF0\x9F\x98\x80</title>")).numero, 0);
+    EXPECT_EQ(inUtf8(d.title), "\xC3\xA8\xF0\x9F\x98\x80");
+    std::string utf16 = "\xFF\xFE";
+    for (const char c : std::string("<rss><channel><title>x</title></channel></rss>")) {
+        utf16 += c;
+        utf16 += '\0';
+    }
+    EXPECT_EQ(leggi(utf16).numero, 0);
+    EXPECT_EQ(d.title, L"x");
+}
+
+TEST_F(Lettura, UnElementoDi9MegabyteEDiecimilaLivelli) {
+    EXPECT_EQ(leggiCanale("<title>" + std::string(9000000, 'x') + "</title>").numero, 0);
+    EXPECT_EQ(d.title.size(), 9000000U);
+    std::string livelli;
+    for (int i = 0; i < 10000; ++i) {
+        livelli += "<a>";
+    }
+    for (int i = 0; i < 10000; ++i) {
+        livelli += "</a>";
+    }
+    const auto e = leggiCanale("<title>T</title>" + livelli);
+    EXPECT_TRUE(e.numero == 0 || e.numero == 18343) << e.numero;
+    EXPECT_EQ(d.title, e.numero == 0 ? L"T" : L"");
+}

@@ -1,0 +1,307 @@
+#include "document/clsItemRss.h"
+#include "document/salvataggio_win.h"
+#include "support/maniglie_win.h"
+#include "support/xml_win.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/documento_win.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using enum CampoElemento;
+
+// A tree in one line: elements by name, texts as they are, CDATA in brackets.
+std::string albero(const NodoXml& nodo) {
+    const std::string nome = inUtf8(nodo.nome().vista());
+    if (nome == "#text") {
+        return inUtf8(nodo.testo().vista());
+    }
+    if (nome == "#cdata-section") {
+        return inUtf8(L"[" + nodo.testo().testo() + L"]");
+    }
+    std::string testo = nome + "(";
+    for (NodoXml figlio = nodo.primoFiglio(); figlio; figlio = figlio.fratello()) {
+        testo += albero(figlio);
+    }
+    return testo + ")";
+}
+
+class Scrittura : public testing::Test {
+protected:
+    // Writes the document and gives the tree of its `rss`.
+    std::string scritto() {
+        d.scrivi(percorso);
+        const DocumentoXml xml;
+        EXPECT_TRUE(xml.carica(percorso));
+        const auto radici = xml.elementi(L"rss");
+        EXPECT_EQ(radici.size(), 1U);
+        return radici.empty() ? "" : albero(radici.front());
+    }
+    // An existing file that a failure must leave as it is.
+    void attendiRifiuto(const wchar_t* coda) {
+        const auto esistente = cartella.scrivi(L"a.xml", "prima");
+        const auto e = d.provaScrivi(esistente);
+        EXPECT_EQ(e.numero, 5);
+        std::wstring su = esistente;
+        CharUpperBuffW(su.data(), static_cast<DWORD>(su.size()));
+        EXPECT_EQ(inUtf8(e.descrizione), inUtf8(su + coda));
+        EXPECT_EQ(leggiTutto(esistente), "prima");
+    }
+
+    CartellaProva cartella;
+    std::wstring percorso = cartella.file(L"a.xml");
+    Documento d;
+};
+
+} // namespace
+
+TEST_F(Scrittura, LAlberoInteroNellOrdine) {
+    d.title = L"T";
+    d.link = L"L";
+    d.description = L"D";
+    d.language = L"it";
+    d.copyright = L"C";
+    d.lastBuildDate = L"B";
+    d.webMaster = L"W";
+    d.image.sTitle(L"IT");
+    d.image.sUrl(L"IU");
+    d.image.sLink(L"IL");
+    d.image.nWidth(10);
+    d.image.nHeight(-20);
+    d.items.dimensiona(2);
+    for (int e = 0; e < 2; ++e) {
+        for (int c = 0; c < numeroCampi; ++c) {
+            d.items(static_cast<CampoElemento>(c), e) = std::to_wstring(e * 10 + c);
+        }
+    }
+    EXPECT_EQ(scritto(),
+              "rss(channel(title(T)link(L)description(D)language(it)copyright(C)lastBuildDate(B)"
+              "webMaster(W)image(title(IT)url(IU)link(IL)width(10)height(-20))"
+              "item(title(0)link(1)description([2])author(3)pubDate(4)guid(5))"
+              "item(title(10)link(11)description([12])author(13)pubDate(14)guid(15))))");
+}
+
+TEST_F(Scrittura, DichiarazioneCommentoEVersione) {
+    d.scrivi(percorso);
+    const std::string testo = leggiTutto(percorso);
+    const auto dichiarazione = testo.find("version=\"1.0\" encoding=\"ISO-8859-1\"");
+    const std::string inizioCommento = "<!--Feed RSS creato con Ostrelle";
+    const auto commento = testo.find(inizioCommento);
+    const auto rss = testo.find("<rss version=\"2.0\">");
+    EXPECT_TRUE(testo.starts_with("<?xml"));
+    EXPECT_LT(dichiarazione, commento);
+    EXPECT_LT(commento, rss);
+    ASSERT_NE(rss, std::string::npos);
+    const auto fine = testo.find("-->", commento);
+    EXPECT_EQ(testo.find("--", commento + 4), fine);
+    EXPECT_LT(fine, rss);
+}
+
+TEST_F(Scrittura, VuotoScriveTuttiGliElementiSenzaImmagine) {
+    EXPECT_EQ(scritto(), "rss(channel(title()link()description()language()copyright()"
+                         "lastBuildDate()webMaster()"
+                         "item(title()link()description([])author()pubDate()guid())))");
+    EXPECT_NE(leggiTutto(percorso).find("<description><![CDATA[]]></description>"),
+              std::string::npos);
+}
+
+TEST_F(Scrittura, ValgonoGliElementiFinoAlLimiteENonIlConteggio) {
+    ASSERT_EQ(d.items.conteggio(), 0);
+    d.items(Titolo, 0) = L"scritto lo stesso";
+    EXPECT_NE(scritto().find("item(title(scritto lo stesso)"), std::string::npos);
+}
+
+TEST_F(Scrittura, ImmagineToccataSiScriveConGliZeri) {
+    d.image.sTitle(L"x");
+    d.image.sTitle(L"");
+    EXPECT_NE(scritto().find("image(title()url()link()width(0)height(0))"), std::string::npos);
+}
+
+TEST_F(Scrittura, ImmagineLettaVuotaNonSiRiscrive) {
+    d.leggi(cartella.scrivi(
+        L"b.xml", rssCon("<image><title/><url/><link/><width>0</width><height/></image>")));
+    EXPECT_EQ(scritto().find("image"), std::string::npos);
+    d.leggi(cartella.scrivi(L"b.xml", rssCon("<image><width>1</width></image>")));
+    EXPECT_NE(scritto().find("image(title()url()link()width(1)height(0))"), std::string::npos);
+}
+
+TEST_F(Scrittura, SoloLaDescrizioneDellElementoStaInCData) {
+    d.description = L"a < b & c ]]>";
+    d.items(Descrizione, 0) = L"a < b & c";
+    d.items(Titolo, 0) = L"<t>";
+    d.scrivi(percorso);
+    const std::string testo = leggiTutto(percorso);
+    EXPECT_NE(testo.find("<description>a &lt; b &amp; c ]]&gt;</description>"), std::string::npos);
+    EXPECT_NE(testo.find("<description><![CDATA[a < b & c]]></description>"), std::string::npos);
+    EXPECT_NE(testo.find("<title>&lt;t&gt;</title>"), std::string::npos);
+}
+
+TEST_F(Scrittura, CioCheMancaAlLatin1) {
+    d.title = L"è €";
+    d.items(Descrizione, 0) = L"è € “–”";
+    d.scrivi(percorso);
+    const std::string testo = leggiTutto(percorso);
+    EXPECT_NE(testo.find("<title>\xE8 &#8364;</title>"), std::string::npos);
+    EXPECT_NE(testo.find("<![CDATA[\xE8 &#8364; &#8220;&#8211;&#8221;]]>"), std::string::npos);
+    Documento riletto;
+    riletto.leggi(percorso);
+    EXPECT_EQ(riletto.title, L"è €");
+    EXPECT_EQ(riletto.items(Descrizione, 0), L"è &#8364; &#8220;&#8211;&#8221;");
+    // What was a reference stays one: saving again changes nothing.
+    riletto.scrivi(cartella.file(L"b.xml"));
+    Documento ancora;
+    ancora.leggi(cartella.file(L"b.xml"));
+    EXPECT_EQ(ancora.items(Descrizione, 0), riletto.items(Descrizione, 0));
+}
+
+TEST_F(Scrittura, UnCarattereInammissibileSiRifiutaPrimaDelFile) {
+    d.items.dimensiona(3);
+    d.items(Descrizione, 2) = L"a\vb";
+    attendiRifiuto(L": carattere non ammesso in descrizione dell'elemento 3 (U+000B).");
+    d.items(Descrizione, 2) = L"a]]>b";
+    attendiRifiuto(L": sequenza ]]> non ammessa in descrizione dell'elemento 3.");
+    d.items(Titolo, 1) = std::wstring(1, static_cast<wchar_t>(0xD800));
+    attendiRifiuto(L": carattere non ammesso in titolo dell'elemento 2 (U+D800).");
+    d.image.sLink(L"\xFFFE");
+    attendiRifiuto(L": carattere non ammesso in link dell'immagine (U+FFFE).");
+    d.webMaster = std::wstring(1, L'\0');
+    attendiRifiuto(L": carattere non ammesso in webmaster del canale (U+0000).");
+    // The earlier field is the one named.
+    d.title = L"\x1F";
+    attendiRifiuto(L": carattere non ammesso in titolo del canale (U+001F).");
+}
+
+TEST_F(Scrittura, OgniCampoSiControlla) {
+    const auto rifiutato = [&](std::wstring& campo) {
+        campo = L"\x01";
+        const bool si = d.provaScrivi(percorso).numero == 5;
+        campo.clear();
+        return si && d.provaScrivi(percorso).numero == 0;
+    };
+    for (auto* const campo : d.canale()) {
+        EXPECT_TRUE(rifiutato(*campo));
+    }
+    for (int c = 0; c < numeroCampi; ++c) {
+        EXPECT_TRUE(rifiutato(d.items(static_cast<CampoElemento>(c), 0))) << c;
+    }
+    const auto conImmagine = [&](auto assegna) {
+        d.image = clsImgRss();
+        assegna(d.image);
+        const bool si = d.provaScrivi(percorso).numero == 5;
+        // An image that is not written is not looked at.
+        d.image.Modificato(false);
+        return si && d.provaScrivi(percorso).numero == 0;
+    };
+    EXPECT_TRUE(conImmagine([](clsImgRss& i) { i.sTitle(L"\x01"); }));
+    EXPECT_TRUE(conImmagine([](clsImgRss& i) { i.sUrl(L"\x01"); }));
+    EXPECT_TRUE(conImmagine([](clsImgRss& i) { i.sLink(L"\x01"); }));
+}
+
+TEST_F(Scrittura, IRecordCostruisconoIlLoroElementoStaccato) {
+    const DocumentoXml xml;
+    clsItemRss item;
+    item.sTitle(L"t");
+    item.sDescription(L"<€>");
+    const ElementoXml nodo = item.getNodoItem(xml);
+    EXPECT_EQ(albero(nodo), "item(title(t)link()description([<&#8364;>])author()pubDate()guid())");
+    EXPECT_FALSE(nodo.fratello());
+    EXPECT_TRUE(xml.elementi(L"item").empty());
+    clsImgRss image;
+    image.nWidth(7);
+    EXPECT_EQ(albero(image.getNodoImg(xml)), "image(title()url()link()width(7)height(0))");
+    EXPECT_TRUE(xml.elementi(L"image").empty());
+}
+
+TEST_F(Scrittura, UnFileDiSolaLetturaResta) {
+    const auto esistente = cartella.scrivi(L"a.xml", "prima");
+    ASSERT_TRUE(SetFileAttributesW(esistente.c_str(), FILE_ATTRIBUTE_READONLY));
+    const auto e = d.provaScrivi(esistente);
+    EXPECT_EQ(e.numero, 75);
+    EXPECT_EQ(e.descrizione, L"Errore di accesso al percorso/file");
+    EXPECT_EQ(leggiTutto(esistente), "prima");
+}
+
+TEST_F(Scrittura, UnFileApertoDaAltriResta) {
+    const auto esistente = cartella.scrivi(L"a.xml", "prima");
+    {
+        const ManigliaFile aperto(CreateFileW(esistente.c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                              nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                                              nullptr));
+        ASSERT_TRUE(aperto);
+        EXPECT_EQ(d.provaScrivi(esistente).numero, 70);
+    }
+    EXPECT_EQ(leggiTutto(esistente), "prima");
+}
+
+TEST_F(Scrittura, CartelleMancantiENomiImpossibili) {
+    const auto rifiuta = [&](const std::wstring& dove) {
+        const auto e = d.provaScrivi(dove);
+        EXPECT_NE(e.numero, 0) << inUtf8(dove);
+        EXPECT_FALSE(e.descrizione.empty()) << inUtf8(dove);
+    };
+    rifiuta(cartella.file(L"nessuna\\a.xml"));
+    rifiuta(cartella.percorso());
+    rifiuta(L"");
+    rifiuta(L"Q:\\a.xml");
+    rifiuta(cartella.file(L"a?.xml"));
+    EXPECT_TRUE(std::filesystem::is_directory(cartella.percorso()));
+}
+
+TEST_F(Scrittura, SovrascriveUnFilePiuLungo) {
+    static_cast<void>(cartella.scrivi(L"a.xml", std::string(100000, 'x')));
+    d.title = L"nuovo";
+    EXPECT_NE(scritto().find("title(nuovo)"), std::string::npos);
+    EXPECT_LT(std::filesystem::file_size(percorso), 10000U);
+}
+
+TEST_F(Scrittura, UnFileTroncoEDiscoPieno) {
+    const auto numero = [&](std::string_view contenuto) {
+        const auto file = cartella.scrivi(L"b.xml", contenuto);
+        return sollevatoDa([&] {
+                   verificaIntero(file);
+                   return true;
+               })
+            .numero;
+    };
+    EXPECT_EQ(numero("<rss></rss>"), 0);
+    EXPECT_EQ(numero("<rss></rss>\r\n\r\n"), 0);
+    EXPECT_EQ(numero(std::string(100000, 'x') + "</rss>\n"), 0);
+    EXPECT_EQ(numero(""), 61);
+    EXPECT_EQ(numero("<rss></rss"), 61);
+    EXPECT_EQ(numero("<rss></rss><!--"), 61);
+    EXPECT_EQ(numero("</rss>" + std::string(100, ' ') + "x"), 61);
+    EXPECT_EQ(sollevatoDa([&] {
+                  verificaIntero(cartella.file(L"nessuno.xml"));
+                  return true;
+              }).numero,
+              53);
+}
+
+// The small volume is made by the test script, where it may mount one.
+TEST_F(Scrittura, SuUnDiscoPienoErrore61) {
+    const char* const disco = std::getenv("OSTRELLE_DISCO_PICCOLO");
+    if (disco == nullptr || *disco == '\0') {
+        GTEST_SKIP() << "OSTRELLE_DISCO_PICCOLO names no small volume";
+    }
+    const std::wstring file = L"Z:" + daUtf8(disco) + L"\\pieno.xml";
+    d.description = std::wstring(1000000, L'x');
+    const auto e = d.provaScrivi(file);
+    DeleteFileW(file.c_str());
+    EXPECT_EQ(e.numero, 61);
+    EXPECT_EQ(e.descrizione, L"Disco pieno");
+    // With room it is no error.
+    d.description = L"x";
+    EXPECT_EQ(d.provaScrivi(file).numero, 0);
+    DeleteFileW(file.c_str());
+}
+
+TEST(ParserXml, SiTrova) {
+    EXPECT_TRUE(parserXmlPresente());
+}
