@@ -7,6 +7,7 @@
 #include <string_view>
 
 class ClsCodaEliminazione;
+class NodoXml;
 
 // Reads and writes the feed document. Keeps nothing between calls. The channel's strings stand in
 // the same order everywhere: title, link, description, language, copyright, lastBuildDate (RFC 822
@@ -32,6 +33,9 @@ public:
                           const clsImgRss& image, const TabellaElementi& items) const;
 
 private:
+    static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
+    static void LeggiElemento(const NodoXml& nodo, TabellaElementi& items, int indice);
+
     // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
     [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);
 };

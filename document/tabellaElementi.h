@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -48,6 +49,9 @@ public:
 
 private:
     using Elemento = std::array<std::wstring, numeroCampi>;
+
+    // Raises error 9 beyond the upper bound.
+    [[nodiscard]] std::size_t posizione(int indice) const;
 
     // Pointers, so that removing or moving among thousands shifts words and not texts.
     std::vector<std::unique_ptr<Elemento>> elementi_;

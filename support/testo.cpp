@@ -64,6 +64,13 @@ std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca, std::
     }
 }
 
+std::wstring aCapoCrLf(std::wstring_view testo) {
+    if (testo.find(L'\n') == std::wstring_view::npos) {
+        return std::wstring(testo);
+    }
+    return sostituisci(sostituisci(testo, L"\r\n", L"\n"), L"\n", L"\r\n");
+}
+
 std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore) {
     std::vector<std::wstring_view> pezzi;
     for (;;) {

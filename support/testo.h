@@ -22,6 +22,9 @@
 [[nodiscard]] std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca,
                                        std::wstring_view con);
 
+// Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
+[[nodiscard]] std::wstring aCapoCrLf(std::wstring_view testo);
+
 // The pieces between separators, empty ones included: "a;;b" gives three, "" gives one.
 [[nodiscard]] std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore);
 

@@ -1,0 +1,3 @@
+#include "datetime/ClsUTC.h"
+
+ClsUTC::ClsUTC() : ClsUTC(istanteAttuale(), formatoUtente()) {}

@@ -1,0 +1,80 @@
+#include "document/caratteriXml.h"
+
+#include "support/errore.h"
+#include "support/testo.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+constexpr char32_t ultimoLatin1 = 0xFF;
+
+constexpr bool ammesso(char32_t c) noexcept {
+    return c == U'\t' || c == U'\n' || c == U'\r' || (c >= 0x20 && c < 0xD800) ||
+           (c >= 0xE000 && c < 0xFFFE) || (c >= 0x10000 && c <= 0x10FFFF);
+}
+
+// "U+000B": at least four digits.
+std::wstring nomeCarattere(char32_t c) {
+    constexpr std::wstring_view cifre = L"0123456789ABCDEF";
+    std::wstring esadecimale;
+    for (; c != 0; c /= 16) {
+        esadecimale.insert(esadecimale.begin(), cifre[c % 16]);
+    }
+    esadecimale.insert(0, 4 - std::min<std::size_t>(esadecimale.size(), 4), L'0');
+    return L"U+" + esadecimale;
+}
+
+[[noreturn]] void rifiuta(std::wstring_view percorso, std::wstring_view perche,
+                          const NomeTesto& nome, std::wstring_view coda) {
+    std::wstring descrizione = maiuscolo(percorso);
+    descrizione += perche;
+    descrizione += nome.nome;
+    if (nome.elemento > 0) {
+        descrizione += L" dell'elemento " + std::to_wstring(nome.elemento);
+    }
+    descrizione += coda;
+    throw Errore(errori::chiamataNonValida, std::move(descrizione));
+}
+
+} // namespace
+
+std::optional<char32_t> primoVietato(std::wstring_view testo) noexcept {
+    for (std::size_t posizione = 0; posizione < testo.size();) {
+        const char32_t c = leggiCarattere(testo, posizione);
+        if (!ammesso(c)) {
+            return c;
+        }
+    }
+    return std::nullopt;
+}
+
+void verificaTesto(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
+    if (const auto vietato = primoVietato(testo)) {
+        rifiuta(percorso, L": carattere non ammesso in ", nome,
+                L" (" + nomeCarattere(*vietato) + L").");
+    }
+}
+
+void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
+    verificaTesto(testo, nome, percorso);
+    if (testo.find(L"]]>") != std::wstring_view::npos) {
+        rifiuta(percorso, L": sequenza ]]> non ammessa in ", nome, L".");
+    }
+}
+
+std::wstring conRiferimenti(std::wstring_view testo) {
+    std::wstring risultato;
+    risultato.reserve(testo.size());
+    for (std::size_t posizione = 0; posizione < testo.size();) {
+        const char32_t c = leggiCarattere(testo, posizione);
+        if (c > ultimoLatin1) {
+            risultato += L"&#" + std::to_wstring(static_cast<std::uint32_t>(c)) + L';';
+        } else {
+            risultato += static_cast<wchar_t>(c);
+        }
+    }
+    return risultato;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// What an XML file in ISO-8859-1 can hold.
+
+// The first code point that no XML document can hold: control characters other than tab, LF and
+// CR, lone surrogates, U+FFFE, U+FFFF.
+[[nodiscard]] std::optional<char32_t> primoVietato(std::wstring_view testo) noexcept;
+
+// How messages name a text: "titolo del canale"; for a text of an item, its field and the item's
+// position from 1: "titolo", 3.
+struct NomeTesto {
+    std::wstring_view nome;
+    int elemento = 0;
+};
+
+// Raises error 5 when the text cannot be held; `percorso` is the file to be written.
+void verificaTesto(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso);
+// The same for the text of a CDATA section, which cannot hold its own end either.
+void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso);
+
+// The text for a CDATA section, where the serialiser cannot write references: what ISO-8859-1
+// lacks, and only that, as decimal HTML references.
+[[nodiscard]] std::wstring conRiferimenti(std::wstring_view testo);

@@ -1,0 +1,50 @@
+#include "document/salvataggio_win.h"
+
+#include "support/errori_win.h"
+#include "support/file_win.h"
+#include "support/maniglie_win.h"
+#include "support/xml_win.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// The last bytes of a file, as many as hold the end of a document and a few line ends.
+std::string coda(const std::wstring& percorso) {
+    const ManigliaFile file(CreateFileW(percorso.c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+    std::array<char, 64> byte{};
+    LARGE_INTEGER lunghezza{};
+    if (!file || !GetFileSizeEx(file.get(), &lunghezza)) {
+        sollevaWin32();
+    }
+    LARGE_INTEGER inizio{};
+    inizio.QuadPart =
+        std::max<LONGLONG>(0, lunghezza.QuadPart - static_cast<LONGLONG>(byte.size()));
+    DWORD letti = 0;
+    if (!SetFilePointerEx(file.get(), inizio, nullptr, FILE_BEGIN) ||
+        !ReadFile(file.get(), byte.data(), static_cast<DWORD>(byte.size()), &letti, nullptr)) {
+        sollevaWin32();
+    }
+    return {byte.data(), letti};
+}
+
+} // namespace
+
+void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso) {
+    if (fileEsiste(percorso)) {
+        cancellaFile(percorso);
+    }
+    documento.salva(percorso);
+    verificaIntero(percorso);
+}
+
+void verificaIntero(const std::wstring& percorso) {
+    std::string fine = coda(percorso);
+    fine.resize(fine.find_last_not_of(" \t\r\n") + 1);
+    if (!fine.ends_with("</rss>")) {
+        solleva(errori::discoPieno);
+    }
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+class DocumentoXml;
+
+// Deletes the file that exists at `percorso`, then saves the finished document there. Raises the
+// failure of either; error 61 when the document saved is not whole.
+void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso);
+
+// Raises error 61 when the file does not end in "</rss>", white space aside: on a full disk the
+// DOM reports success and leaves a cut file.
+void verificaIntero(const std::wstring& percorso);

@@ -1,0 +1,165 @@
+#include "support/xml_win.h"
+
+#include "support/errori_win.h"
+#include "support/indirizzo.h"
+
+namespace {
+
+ComPtr<IXMLDOMDocument> creaDocumento() {
+    CLSID classe{};
+    ComPtr<IXMLDOMDocument> documento;
+    HRESULT hr = CLSIDFromProgID(L"MSXML2.DomDocument", &classe);
+    if (SUCCEEDED(hr)) {
+        void* oggetto = nullptr;
+        hr = CoCreateInstance(classe, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument, &oggetto);
+        documento = ComPtr<IXMLDOMDocument>(static_cast<IXMLDOMDocument*>(oggetto));
+    }
+    if (FAILED(hr)) {
+        solleva(errori::creazioneOggetto);
+    }
+    return documento;
+}
+
+// A node of any kind that the DOM made, as a plain node.
+template <class Interfaccia>
+ComPtr<IXMLDOMNode> comeNodo(const ComPtr<Interfaccia>& origine) {
+    if (origine.get() != nullptr) {
+        origine->AddRef();
+    }
+    return ComPtr<IXMLDOMNode>(origine.get());
+}
+
+std::wstring percorsoCompleto(const std::wstring& percorso) {
+    const DWORD serve = GetFullPathNameW(percorso.c_str(), 0, nullptr, nullptr);
+    std::wstring completo(serve, L'\0');
+    completo.resize(GetFullPathNameW(percorso.c_str(), serve, completo.data(), nullptr));
+    return completo;
+}
+
+} // namespace
+
+Bstr NodoXml::nome() const {
+    Bstr nome;
+    verifica(nodo_->get_nodeName(nome.riempi()));
+    return nome;
+}
+
+bool NodoXml::elemento() const {
+    DOMNodeType tipo{};
+    verifica(nodo_->get_nodeType(&tipo));
+    return tipo == NODE_ELEMENT;
+}
+
+Bstr NodoXml::testo() const {
+    Bstr testo;
+    verifica(nodo_->get_text(testo.riempi()));
+    return testo;
+}
+
+NodoXml NodoXml::primoFiglio() const {
+    ComPtr<IXMLDOMNode> nodo;
+    verifica(nodo_->get_firstChild(nodo.riempi()));
+    return NodoXml(std::move(nodo));
+}
+
+NodoXml NodoXml::fratello() const {
+    ComPtr<IXMLDOMNode> nodo;
+    verifica(nodo_->get_nextSibling(nodo.riempi()));
+    return NodoXml(std::move(nodo));
+}
+
+void NodoXml::aggiungi(const NodoXml& figlio) const {
+    verifica(nodo_->appendChild(figlio.get(), nullptr));
+}
+
+DocumentoXml::DocumentoXml() : documento_(creaDocumento()) {
+    verifica(documento_->put_async(VARIANT_FALSE));
+    verifica(documento_->put_validateOnParse(VARIANT_FALSE));
+    verifica(documento_->put_resolveExternals(VARIANT_FALSE));
+}
+
+bool DocumentoXml::carica(const std::wstring& percorso) const {
+    // The DOM unescapes what it is given as if it were an address, so an address it gets.
+    const Variante indirizzo(indirizzoFile(percorsoCompleto(percorso)));
+    VARIANT_BOOL riuscito = VARIANT_FALSE;
+    return documento_->load(indirizzo.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE;
+}
+
+void DocumentoXml::salva(const std::wstring& percorso) const {
+    const Variante destinazione(percorso);
+    const HRESULT hr = documento_->save(destinazione.get());
+    if (hr != S_OK) {
+        throw erroreHresult(hr);
+    }
+}
+
+std::vector<NodoXml> DocumentoXml::elementi(std::wstring_view nome) const {
+    ComPtr<IXMLDOMNodeList> lista;
+    verifica(documento_->getElementsByTagName(Bstr(nome).get(), lista.riempi()));
+    std::vector<NodoXml> trovati;
+    for (;;) {
+        ComPtr<IXMLDOMNode> nodo;
+        verifica(lista->nextNode(nodo.riempi()));
+        if (!nodo) {
+            return trovati;
+        }
+        // The query may go by local names.
+        if (NodoXml candidato(std::move(nodo)); candidato.nome().vista() == nome) {
+            trovati.push_back(std::move(candidato));
+        }
+    }
+}
+
+ElementoXml DocumentoXml::creaElemento(std::wstring_view nome) const {
+    ComPtr<IXMLDOMElement> elemento;
+    verifica(documento_->createElement(Bstr(nome).get(), elemento.riempi()));
+    return ElementoXml(comeNodo(elemento));
+}
+
+ElementoXml DocumentoXml::creaElemento(std::wstring_view nome, std::wstring_view testo) const {
+    ElementoXml elemento = creaElemento(nome);
+    verifica(elemento.get()->put_text(Bstr(testo).get()));
+    return elemento;
+}
+
+NodoXml DocumentoXml::creaCData(std::wstring_view testo) const {
+    ComPtr<IXMLDOMCDATASection> sezione;
+    verifica(documento_->createCDATASection(Bstr(testo).get(), sezione.riempi()));
+    return NodoXml(comeNodo(sezione));
+}
+
+NodoXml DocumentoXml::creaCommento(std::wstring_view testo) const {
+    ComPtr<IXMLDOMComment> commento;
+    verifica(documento_->createComment(Bstr(testo).get(), commento.riempi()));
+    return NodoXml(comeNodo(commento));
+}
+
+NodoXml DocumentoXml::creaIstruzione(std::wstring_view nome, std::wstring_view dati) const {
+    ComPtr<IXMLDOMProcessingInstruction> istruzione;
+    verifica(documento_->createProcessingInstruction(Bstr(nome).get(), Bstr(dati).get(),
+                                                     istruzione.riempi()));
+    return NodoXml(comeNodo(istruzione));
+}
+
+void DocumentoXml::creaAttributo(const ElementoXml& elemento, std::wstring_view nome,
+                                 std::wstring_view valore) const {
+    ComPtr<IXMLDOMAttribute> attributo;
+    verifica(documento_->createAttribute(Bstr(nome).get(), attributo.riempi()));
+    verifica(attributo->put_text(Bstr(valore).get()));
+    ComPtr<IXMLDOMNamedNodeMap> attributi;
+    verifica(elemento.get()->get_attributes(attributi.riempi()));
+    ComPtr<IXMLDOMNode> precedente;
+    verifica(attributi->setNamedItem(attributo.get(), precedente.riempi()));
+}
+
+void DocumentoXml::aggiungi(const NodoXml& figlio) const {
+    verifica(documento_->appendChild(figlio.get(), nullptr));
+}
+
+bool parserXmlPresente() noexcept {
+    try {
+        return static_cast<bool>(creaDocumento());
+    } catch (const Errore&) {
+        return false;
+    }
+}
