@@ -32,6 +32,20 @@ public:
                           const std::wstring& lastBuildDate, const std::wstring& webMaster,
                           const clsImgRss& image, const TabellaElementi& items) const;
 
+    // Writes the whole feed as an HTML page in the ANSI code page; the language is not shown. A
+    // file of that name is deleted first; a page that cannot be written whole is not left on disk.
+    // Raises the run-time error of the failure.
+    void CreaDocumentoHTML(const std::wstring& path, const std::wstring& title,
+                           const std::wstring& link, const std::wstring& description,
+                           const std::wstring& language, const std::wstring& copyright,
+                           const std::wstring& lastBuildDate, const std::wstring& webMaster,
+                           const clsImgRss& image, const TabellaElementi& items) const;
+
+    // Writes the items as a page of a new temporary name and gives its path. That page and the
+    // empty file it is named after are the queue's to delete, also when an error is raised.
+    [[nodiscard]] std::wstring VisualizzaItemHTML(const TabellaElementi& items,
+                                                  ClsCodaEliminazione& coda) const;
+
 private:
     static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
     static void LeggiElemento(const NodoXml& nodo, TabellaElementi& items, int indice);

@@ -1,0 +1,43 @@
+#include "datetime/ClsUTC.h"
+#include "document/clsFeedRss.h"
+#include "document/paginaWeb.h"
+#include "support/ClsCodaEliminazione.h"
+#include "support/ansi_win.h"
+#include "support/file_win.h"
+#include "support/formato.h"
+#include "support/koUtilita.h"
+#include "support/scrittura_win.h"
+
+namespace {
+
+// The bytes are complete before the disk is touched.
+void scriviPagina(const std::wstring& path, const std::wstring& testo) {
+    const std::string byte = inAnsiHtml(testo);
+    if (fileEsiste(path)) {
+        cancellaFile(path);
+    }
+    FileNuovo file(path);
+    file.scrivi(byte);
+    file.conferma();
+}
+
+} // namespace
+
+void clsFeedRss::CreaDocumentoHTML(const std::wstring& path, const std::wstring& title,
+                                   const std::wstring& link, const std::wstring& description,
+                                   const std::wstring& /*language*/, const std::wstring& copyright,
+                                   const std::wstring& lastBuildDate, const std::wstring& webMaster,
+                                   const clsImgRss& image, const TabellaElementi& items) const {
+    scriviPagina(path, paginaFeed(title, link, description, copyright, lastBuildDate, webMaster,
+                                  image, items, ClsUTC(), formatoUtente()));
+}
+
+std::wstring clsFeedRss::VisualizzaItemHTML(const TabellaElementi& items,
+                                            ClsCodaEliminazione& coda) const {
+    const std::wstring temporaneo = koUtilita::GetFileTemporaneo();
+    coda.Push(temporaneo);
+    std::wstring pagina = temporaneo + L".htm";
+    coda.Push(pagina);
+    scriviPagina(pagina, paginaElementi(items, ClsUTC(), formatoUtente()));
+    return pagina;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// Random numbers and the identifiers of new items. The generator belongs to the object, so that two
+// of them draw apart.
+class ModGlobale {
+public:
+    // Seeded from the system timer.
+    ModGlobale() noexcept;
+    // Always the same numbers for the same seed.
+    explicit ModGlobale(std::uint64_t seme) noexcept : stato_(seme) {}
+
+    // A whole number from `inferiore` to `superiore`, both included, each equally likely. Raises
+    // error 6 when the range holds more than 32767 numbers.
+    [[nodiscard]] float NumeroCasuale(std::int16_t inferiore, std::int16_t superiore);
+
+    // {XXXX-XXXX-XXXX-XXXX-XXXX-XXXX-XXXX-XXXX} of capital letters and digits. Seeds the generator
+    // from the timer first: two calls in the same tick may give the same text.
+    [[nodiscard]] std::wstring GeneraIdentificativo();
+
+private:
+    // In [0, 1), a multiple of 2^-24.
+    [[nodiscard]] float prossimo() noexcept;
+
+    std::uint64_t stato_;
+};

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "support/messaggi.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+struct HWND__; // NOLINT(bugprone-reserved-identifier): Windows' own name for what HWND points to
+
+// General helpers on the shell, the temporary folder and the user's number format. Has no state but
+// the service that shows its messages; make one where it is needed. Texts reach Windows in the ANSI
+// code page: a character it lacks becomes "?".
+class koUtilita {
+public:
+    explicit koUtilita(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
+
+    // Opens a document or an address with its default action; true when Windows started the
+    // program. A failure is told in a message box unless `muto`. `hWnd` owns what the shell shows.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): the user was told already
+    bool EseguiEx(HWND__* hWnd, const std::wstring& file, bool muto = false) const;
+
+    // The same for an address, the maker's site and a new mail to the author; failures are silent.
+    static void GoWeb(HWND__* hWnd, const std::wstring& indirizzoWeb);
+    static void Homepage(HWND__* hWnd);
+    static void EMail(HWND__* hWnd);
+
+    // The path without the blanks at its ends and with "\" as its last character; an empty one
+    // stays empty. The caller's variable becomes the result too.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): some callers want the variable only
+    static std::wstring AggiungiSepDir(std::wstring& percorso);
+
+    // A new empty file in the temporary folder, the caller's to delete; where Windows makes none, a
+    // fixed name in that folder, of a file that need not exist. Never fails.
+    [[nodiscard]] static std::wstring GetFileTemporaneo();
+    // The temporary folder, else the program's; ends in "\". Never fails.
+    [[nodiscard]] static std::wstring GetDirectoryTemp();
+
+    // The text before its first character 0.
+    [[nodiscard]] static std::wstring_view StripTerminator(std::wstring_view testo) noexcept;
+
+    // The code of "," or "."; 0 where the user's separator is another one or cannot be read.
+    [[nodiscard]] static std::uint8_t GetSeparatoreDecimale();
+    [[nodiscard]] static std::uint8_t GetSeparatoreMigliaia();
+
+    // Shows the exception being handled. Call it inside a catch.
+    void PrintErrore() const;
+
+private:
+    Messaggi& messaggi_;
+};

@@ -1,0 +1,8 @@
+#include "support/prodotto.h"
+
+#include "support/versione.h"
+
+std::wstring prodotto::versione(wchar_t separatore) {
+    return std::to_wstring(versioneMaggiore) + separatore + std::to_wstring(versioneMinore) +
+           separatore + std::to_wstring(versioneRevisione);
+}

@@ -1,0 +1,42 @@
+#include "support/scrittura_win.h"
+
+#include "support/errori_win.h"
+
+#include <algorithm>
+#include <utility>
+
+FileNuovo::FileNuovo(std::wstring percorso)
+    : percorso_(std::move(percorso)),
+      file_(CreateFileW(percorso_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                        FILE_ATTRIBUTE_NORMAL, nullptr)) {
+    if (!file_) {
+        sollevaWin32();
+    }
+}
+
+FileNuovo::~FileNuovo() {
+    if (file_) {
+        file_ = ManigliaFile();
+        DeleteFileW(percorso_.c_str());
+    }
+}
+
+void FileNuovo::scrivi(std::string_view byte) {
+    // WriteFile counts in 32 bits.
+    constexpr std::size_t massimo = 0x40000000;
+    while (!byte.empty()) {
+        const auto pezzo = static_cast<DWORD>(std::min(byte.size(), massimo));
+        DWORD scritti = 0;
+        if (!WriteFile(file_.get(), byte.data(), pezzo, &scritti, nullptr)) {
+            sollevaWin32();
+        }
+        if (scritti == 0) {
+            solleva(errori::discoPieno);
+        }
+        byte.remove_prefix(scritti);
+    }
+}
+
+void FileNuovo::conferma() noexcept {
+    const ManigliaFile chiuso = std::move(file_);
+}

@@ -1,0 +1,131 @@
+#include "tests/aiuti/registratore_win.h"
+
+#include "support/file_win.h"
+#include "tests/aiuti/attesa_win.h"
+
+#include <shlobj.h>
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::wstring copie = L"Software\\OstrelleProve\\Classi\\";
+const std::wstring classeNostra = L"OstrelleProve.Registratore";
+
+void scriviPredefinito(const std::wstring& chiave, const std::wstring& valore) {
+    const auto byte = static_cast<DWORD>((valore.size() + 1) * sizeof(wchar_t));
+    ASSERT_EQ(
+        RegSetKeyValueW(HKEY_CLASSES_ROOT, chiave.c_str(), nullptr, REG_SZ, valore.c_str(), byte),
+        ERROR_SUCCESS);
+}
+
+void copia(HKEY da, const std::wstring& origine, HKEY a, const std::wstring& meta) {
+    HKEY chiave = nullptr;
+    ASSERT_EQ(RegCreateKeyW(a, meta.c_str(), &chiave), ERROR_SUCCESS);
+    const ChiaveRegistro destinazione(chiave);
+    ASSERT_EQ(RegCopyTreeW(da, origine.c_str(), destinazione.get()), ERROR_SUCCESS);
+}
+
+bool esiste(HKEY radice, const std::wstring& nome) {
+    HKEY chiave = nullptr;
+    const bool aperta = RegOpenKeyW(radice, nome.c_str(), &chiave) == ERROR_SUCCESS;
+    const ChiaveRegistro padrone(chiave);
+    return aperta;
+}
+
+// A class as it was before; its copy goes.
+void rimetti(const std::wstring& classe) {
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, classe.c_str());
+    if (esiste(HKEY_CURRENT_USER, copie + classe)) {
+        copia(HKEY_CURRENT_USER, copie + classe, HKEY_CLASSES_ROOT, classe);
+        RegDeleteTreeW(HKEY_CURRENT_USER, (copie + classe).c_str());
+    }
+}
+
+std::wstring comandoRegistratore() {
+    return L'"' + cartellaProgramma() + L"\\registratore.exe\" \"%1\"";
+}
+
+} // namespace
+
+Registratore::Registratore()
+    : registrazione_(variabileRegistrazione, cartella_.file(L"lanci.txt")) {
+    const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"OstrelleProveRegistratore");
+    const DWORD esito = WaitForSingleObject(mutex, 120000);
+    EXPECT_TRUE(esito == WAIT_OBJECT_0 || esito == WAIT_ABANDONED);
+    turno_ = Maniglia<TrattiMutex>(mutex);
+}
+
+Registratore::~Registratore() {
+    std::ranges::for_each(classi_, rimetti);
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+void Registratore::salva(const std::wstring& classe) {
+    // A copy that is there already is of a test that crashed: it holds the true original.
+    if (esiste(HKEY_CLASSES_ROOT, classe) && !esiste(HKEY_CURRENT_USER, copie + classe)) {
+        copia(HKEY_CLASSES_ROOT, classe, HKEY_CURRENT_USER, copie + classe);
+    }
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, classe.c_str());
+    classi_.push_back(classe);
+}
+
+void Registratore::tipo(const std::wstring& estensione) {
+    tipo(estensione, comandoRegistratore());
+}
+
+void Registratore::tipo(const std::wstring& estensione, const std::wstring& comando) {
+    salva(estensione);
+    salva(classeNostra + estensione);
+    scriviPredefinito(estensione, classeNostra + estensione);
+    scriviPredefinito(classeNostra + estensione + L"\\shell\\open\\command", comando);
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+void Registratore::verboPredefinito(const std::wstring& estensione, const std::wstring& verbo) {
+    const std::wstring classe = classeNostra + estensione + L"\\shell";
+    scriviPredefinito(classe, verbo);
+    scriviPredefinito(classe + L'\\' + verbo + L"\\command", comandoRegistratore());
+}
+
+void Registratore::protocollo(const std::wstring& nome) {
+    salva(nome);
+    scriviPredefinito(nome, L"URL:" + nome);
+    RegSetKeyValueW(HKEY_CLASSES_ROOT, nome.c_str(), L"URL Protocol", REG_SZ, L"", sizeof(wchar_t));
+    scriviPredefinito(nome + L"\\shell\\open\\command", comandoRegistratore());
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+std::string Registratore::righe() const {
+    const std::wstring file = cartella_.file(L"lanci.txt");
+    return fileEsiste(file) ? leggiTutto(file) : std::string();
+}
+
+Registratore::Lancio Registratore::attendi() {
+    std::string riga;
+    const bool arrivata = attendiChe([&] {
+        const std::string tutte = righe();
+        const auto fine = tutte.find('\n', letti_);
+        if (fine == std::string::npos) {
+            return false;
+        }
+        riga = tutte.substr(letti_, fine - letti_);
+        letti_ = fine + 1;
+        return true;
+    });
+    EXPECT_TRUE(arrivata) << "the recorder was not started";
+    if (!arrivata) {
+        return {};
+    }
+    const auto primo = riga.find('\t');
+    const auto secondo = riga.find('\t', primo + 1);
+    std::wstring comando = daUtf8(riga.substr(0, primo));
+    // "program" "target"
+    const auto inizio = comando.find(L'"', 1) + 3;
+    EXPECT_GT(comando.size(), inizio) << riga;
+    return {comando.size() > inizio ? comando.substr(inizio, comando.size() - 1 - inizio) : L"",
+            daUtf8(riga.substr(primo + 1, secondo - primo - 1)),
+            std::stoi(riga.substr(secondo + 1))};
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "support/maniglie_win.h"
+#include "tests/aiuti/ambiente_win.h"
+#include "tests/aiuti/cartella_win.h"
+
+#include <string>
+#include <vector>
+
+// Where the recorder program writes.
+inline constexpr const wchar_t* variabileRegistrazione = L"OSTRELLE_REGISTRAZIONE";
+
+// Makes the recorder program the one that Windows starts for file types and addresses, for the life
+// of the object, and tells what it was started with. What was registered comes back at the end.
+// One at a time in the whole prefix: a second one waits. A program that the test starts inherits
+// the recording.
+class Registratore {
+public:
+    struct Lancio {
+        std::wstring obiettivo; // exactly what stood for %1
+        std::wstring cartella;  // the working folder
+        int stato;              // the show state
+    };
+
+    Registratore();
+    Registratore(const Registratore&) = delete;
+    Registratore& operator=(const Registratore&) = delete;
+    ~Registratore();
+
+    // A file extension, with its dot; a protocol, without ":".
+    void tipo(const std::wstring& estensione);
+    void protocollo(const std::wstring& nome);
+    // A file extension with a command of the test's own.
+    void tipo(const std::wstring& estensione, const std::wstring& comando);
+
+    // Makes a verb that is not "open" the default one of such a type, run by the recorder.
+    void verboPredefinito(const std::wstring& estensione, const std::wstring& verbo);
+
+    // The next start that was not given yet; fails the test when none comes in 30 seconds.
+    [[nodiscard]] Lancio attendi();
+
+private:
+    struct TrattiMutex {
+        using Tipo = HANDLE;
+        static Tipo vuota() noexcept { return nullptr; }
+        static void chiudi(Tipo mutex) noexcept {
+            ReleaseMutex(mutex);
+            CloseHandle(mutex);
+        }
+    };
+
+    void salva(const std::wstring& classe);
+    [[nodiscard]] std::string righe() const;
+
+    Maniglia<TrattiMutex> turno_;
+    CartellaProva cartella_;
+    VariabileAmbiente registrazione_;
+    std::vector<std::wstring> classi_;
+    std::size_t letti_ = 0;
+};
