@@ -43,6 +43,26 @@
 
 // The about box.
 #define IDD_FRMABOUT 300
+#define IDC_PICICON 3001
+#define IDC_IMAGE1 3002
+#define IDC_FRAME1 3003
+#define IDC_LBLTITLE 3004
+#define IDC_LBLVERSION 3005
+#define IDC_LBLPRODOTTO 3006
+#define IDC_LBLAUTORE 3007
+#define IDC_LBLSITO 3008
+#define IDC_CMDSYSINFO 3009
+// A picture of the type "GIF".
+#define IDR_LOGO 301
+
+// The toolbar's pictures, a strip for each size in pixels, 32 bits with straight alpha: new, open,
+// save, email, info.
+#define IDB_BARRA16 401
+#define IDB_BARRA24 402
+#define IDB_BARRA32 403
+
+// The pointer while a row of the grid is dragged.
+#define IDCUR_TRASCINA 411
 
 // The icon of the program and of its windows.
 #define IDI_OSTRELLE 1
