@@ -212,14 +212,15 @@ void Griglia::seleziona(int riga) {
     if (riga < 1 || riga >= righe_.righe()) {
         return;
     }
+    // Some list views scroll a row that gets the focus into full sight: undone, a row that a press
+    // selects must stay under the pointer.
+    const int cima = visibile(riga) ? rigaInCima() : riga;
     const bool prima = std::exchange(allineando_, true);
     ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
                           LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetSelectionMark(lista_, riga - 1);
     allineando_ = prima;
-    if (!visibile(riga)) {
-        rigaInCima(riga);
-    }
+    rigaInCima(cima);
     if (std::exchange(rigaCorrente_, riga) != riga) {
         osservatore_.grigliaRigaCambiata(riga);
     }

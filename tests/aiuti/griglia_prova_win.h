@@ -1,0 +1,97 @@
+#pragma once
+
+#include "document/tabellaElementi.h"
+#include "ui/controls/griglia_win.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+// A grid's owner for tests: writes down what it is told and moves items in the table.
+class OsservatoreProva final : public OsservatoreGriglia {
+public:
+    explicit OsservatoreProva(TabellaElementi& tabella) : tabella_(tabella) {}
+
+    void lega(Griglia& griglia) { griglia_ = &griglia; }
+
+    void grigliaDoppioClic(int riga) override;
+    void grigliaRigaCambiata(int riga) override;
+    void grigliaSposta(int da, int a) override;
+    void grigliaMenu(POINT punto) override { menu.push_back(punto); }
+    bool grigliaTasto(UINT tasto) override { return tasto == gestito; }
+    void grigliaEccezione() noexcept override { ++eccezioni; }
+
+    // Those that begin with "sposta"; with "doppio".
+    [[nodiscard]] std::vector<std::wstring> mosse() const { return scelti(L"sposta"); }
+    [[nodiscard]] std::vector<std::wstring> doppi() const { return scelti(L"doppio"); }
+
+    std::vector<std::wstring> eventi;
+    std::vector<POINT> menu;
+    UINT gestito = 0;
+    int eccezioni = 0;
+    // Moving an item raises an error.
+    bool fallisce = false;
+
+private:
+    [[nodiscard]] std::vector<std::wstring> scelti(std::wstring_view inizio) const;
+
+    TabellaElementi& tabella_;
+    Griglia* griglia_ = nullptr;
+};
+
+// A window on the screen with a filled grid, and a user's hands. Points are the screen's, in
+// pixels.
+class GrigliaProva final : private Finestra {
+public:
+    // With that many items, "titolo 0" and so on.
+    explicit GrigliaProva(int elementi);
+    ~GrigliaProva() override;
+    GrigliaProva(const GrigliaProva&) = delete;
+    GrigliaProva& operator=(const GrigliaProva&) = delete;
+
+    TabellaElementi tabella;
+    OsservatoreProva osservatore{tabella};
+    Griglia griglia{tabella, osservatore};
+
+    void aggiungi(const std::wstring& titolo, const std::wstring& descrizione);
+    [[nodiscard]] HWND lista() const noexcept { return griglia.lista(); }
+    [[nodiscard]] HWND cornice() const noexcept { return hwnd(); }
+
+    // What is shown.
+    [[nodiscard]] std::wstring testo(int riga, int colonna) const;
+    [[nodiscard]] std::wstring titolo(int colonna) const;
+    [[nodiscard]] std::vector<int> selezionate() const;
+    [[nodiscard]] std::vector<std::wstring> titoli() const;
+
+    // Where things are: the middle of a row in sight (and so much lower), of the header.
+    [[nodiscard]] POINT punto(int riga, int sotto = 0) const;
+    [[nodiscard]] POINT puntoTestata() const;
+    [[nodiscard]] int sinistra() const;
+
+    void allarga(int larghezza);
+    // Makes the list's inside so high.
+    void alta(int altezza);
+    void nascondiBarra();
+    void quandoPerdeIlFuoco(std::function<void()> azione) { alPerdere_ = std::move(azione); }
+
+    // Real input, through the system's queue.
+    void vai(POINT punto);
+    void pulsante(DWORD quale);
+    void rotella(int scatti);
+    void clic(POINT punto);
+    void doppioClic(POINT punto);
+    // Clicks beside the grid, so that the next press is not the second of a pair.
+    void nuovoClic();
+    void trascina(POINT da, POINT a, std::optional<POINT> poi = std::nullopt);
+    void premiTasto(UINT tasto, UINT con = 0);
+    void aspettaQuiete();
+
+private:
+    LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
+    void onEccezione() noexcept override { ++osservatore.eccezioni; }
+
+    std::function<void()> alPerdere_;
+};

@@ -1,0 +1,228 @@
+#include "tests/aiuti/griglia_prova_win.h"
+#include "ui/controls/griglia_win.h"
+#include "ui/main/GUI_win.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+using Testi = std::vector<std::wstring>;
+
+TEST(GrigliaTrascina, IlPrimoSulTerzo) {
+    GrigliaProva p(4);
+    p.trascina(p.punto(1), p.punto(3));
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+    EXPECT_EQ(p.titoli(), (Testi{L"titolo 1", L"titolo 2", L"titolo 0", L"titolo 3"}));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{3});
+    EXPECT_EQ(p.testo(3, 1), L"titolo 0\r\ndescrizione 0");
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST(GrigliaTrascina, LUltimoSulSecondo) {
+    GrigliaProva p(4);
+    p.trascina(p.punto(4), p.punto(2));
+    EXPECT_EQ(p.titoli(), (Testi{L"titolo 0", L"titolo 3", L"titolo 1", L"titolo 2"}));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+}
+
+TEST(GrigliaTrascina, PuntatoreERigaCorrenteSeguonoIlMouse) {
+    GrigliaProva p(4);
+    p.vai(p.punto(2));
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
+    EXPECT_EQ(p.griglia.trascinato(), 1);
+    EXPECT_EQ(GetCapture(), p.lista());
+    p.vai(p.punto(3));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{3});
+    p.vai(p.punto(6));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 6);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Vietato);
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_NO));
+    p.vai(p.punto(4));
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
+    EXPECT_NE(GetCursor(), LoadCursorW(nullptr, IDC_NO));
+    EXPECT_NE(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 3"});
+}
+
+TEST(GrigliaTrascina, SuSeStessoOSuUnaRigaVuotaNonCambiaNulla) {
+    GrigliaProva p(4);
+    const Testi prima = p.titoli();
+    p.trascina(p.punto(2), p.punto(3), p.punto(2));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    p.trascina(p.punto(2), p.punto(7));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 7);
+    EXPECT_EQ(p.griglia.ElementoSelezionato(), -1);
+    p.trascina(p.punto(7), p.punto(2));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    EXPECT_EQ(p.titoli(), prima);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+}
+
+TEST(GrigliaTrascina, NonDaiBordiNeDallIntestazione) {
+    GrigliaProva p(40);
+    const POINT fine = p.punto(3);
+    POINT sinistra = p.punto(1);
+    sinistra.x = p.sinistra() + 4;
+    p.trascina(sinistra, fine);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    p.trascina({fine.x, r.bottom - 4}, fine);
+    p.trascina(p.puntoTestata(), fine);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    // Without a scroll bar rows reach the right edge.
+    p.nascondiBarra();
+    p.trascina({r.right - 5, p.punto(1).y}, fine);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    p.trascina({r.right - 12, p.punto(1).y}, fine);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, EscLoAbbandona) {
+    GrigliaProva p(4);
+    p.vai(p.punto(1));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(3));
+    p.premiTasto(VK_ESCAPE);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(GetCapture(), nullptr);
+    p.vai(p.punto(2));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+}
+
+TEST(GrigliaTrascina, GliAltriTastiNonContano) {
+    GrigliaProva p(4);
+    p.vai(p.punto(1));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(3));
+    for (const UINT tasto : {VK_DOWN, VK_HOME, VK_END, VK_RETURN, VK_DELETE, VK_SPACE}) {
+        p.premiTasto(tasto);
+        EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+        EXPECT_EQ(p.griglia.trascinato(), 0);
+    }
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, CatturaPersaFuocoPersoOComandoLoAbbandonano) {
+    using Modo = void (*)(GrigliaProva&);
+    for (const Modo modo :
+         {Modo([](GrigliaProva&) { ReleaseCapture(); }),
+          Modo([](GrigliaProva& p) { SetCapture(p.cornice()); }),
+          Modo([](GrigliaProva& p) { SetFocus(p.cornice()); }),
+          Modo([](GrigliaProva& p) { SendMessageW(p.lista(), WM_CANCELMODE, 0, 0); }),
+          Modo([](GrigliaProva& p) { GUI::RiempiGriglia(p.griglia, false); }),
+          Modo([](GrigliaProva& p) { p.pulsante(MOUSEEVENTF_RIGHTDOWN); })}) {
+        GrigliaProva p(4);
+        p.vai(p.punto(1));
+        p.pulsante(MOUSEEVENTF_LEFTDOWN);
+        p.vai(p.punto(3));
+        ASSERT_EQ(p.griglia.trascinato(), 0);
+        modo(p);
+        EXPECT_EQ(p.griglia.trascinato(), -1);
+        EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+        p.pulsante(MOUSEEVENTF_LEFTUP);
+        p.pulsante(MOUSEEVENTF_RIGHTUP);
+        EXPECT_TRUE(p.osservatore.mosse().empty());
+        ReleaseCapture();
+    }
+}
+
+TEST(GrigliaTrascina, RiempireDopoLoSpostamentoTieneLaPrimaRigaInVista) {
+    GrigliaProva p(200);
+    p.griglia.rigaInCima(100);
+    p.trascina(p.punto(101), p.punto(104));
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 100 103"});
+    EXPECT_EQ(p.griglia.rigaInCima(), 100);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 104);
+}
+
+TEST(GrigliaTrascina, LaRotellaScorreEIlRilascioUsaLaRigaSottoIlPuntatore) {
+    GrigliaProva p(200);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.rotella(-1);
+    const int cima = p.griglia.rigaInCima();
+    EXPECT_GT(cima, 1);
+    EXPECT_EQ(p.griglia.rigaCorrente(), cima + 1);
+    EXPECT_EQ(p.griglia.trascinato(), 1);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 " + std::to_wstring(cima)});
+    EXPECT_EQ(p.griglia.rigaInCima(), cima);
+}
+
+TEST(GrigliaTrascina, VicinoAlBordoOgniMovimentoScorreDiUnaRiga) {
+    GrigliaProva p(200);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    const int x = p.punto(2).x;
+    for (int i = 0; i < 5; ++i) {
+        p.vai({x + i, r.bottom - 4});
+    }
+    EXPECT_EQ(p.griglia.rigaInCima(), 6);
+    EXPECT_GT(p.griglia.rigaCorrente(), 8);
+    // Beyond the edge, too; and back up over the header.
+    p.vai({x, r.bottom + 30});
+    EXPECT_EQ(p.griglia.rigaInCima(), 7);
+    p.vai({x, r.top + 5});
+    p.vai({x + 1, r.top + 5});
+    EXPECT_EQ(p.griglia.rigaInCima(), 5);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 5);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 4"});
+    EXPECT_EQ(p.griglia.rigaCorrente(), 5);
+}
+
+TEST(GrigliaTrascina, IlRilascioFuoriDallaGrigliaUsaLaRigaCorrente) {
+    GrigliaProva p(4);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    p.trascina(p.punto(1), p.punto(3), POINT{r.right + 25, p.punto(4).y});
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 3"});
+}
+
+TEST(GrigliaTrascina, UnTrascinamentoDuranteUnaFinestraModale) {
+    // The box that a control shows when it loses the focus runs before the press is over.
+    GrigliaProva p(4);
+    SetFocus(p.cornice());
+    p.quandoPerdeIlFuoco([&p] { p.pulsante(MOUSEEVENTF_LEFTUP); });
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(GetCapture(), nullptr);
+    p.vai(p.punto(4));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
+TEST(GrigliaTrascina, UnErroreDelProprietarioNonEsceDallaGriglia) {
+    GrigliaProva p(4);
+    p.osservatore.fallisce = true;
+    p.trascina(p.punto(1), p.punto(3));
+    EXPECT_EQ(p.osservatore.eccezioni, 1);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    p.osservatore.fallisce = false;
+    p.trascina(p.punto(1), p.punto(3));
+    EXPECT_EQ(p.osservatore.mosse(), (Testi{L"sposta 0 2", L"sposta 0 2"}));
+}

@@ -1,0 +1,314 @@
+#include "ui/controls/griglia_win.h"
+
+#include "support/errori_win.h"
+#include "tests/aiuti/griglia_prova_win.h"
+#include "ui/main/GUI_win.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+using enum CampoElemento;
+
+TEST(Griglia, VuotaMostra49RigheSenzaElemento) {
+    GrigliaProva p(0);
+    EXPECT_EQ(ListView_GetItemCount(p.lista()), 49);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
+    EXPECT_EQ(p.griglia.ElementoSelezionato(), -1);
+    EXPECT_EQ(p.testo(1, 0), L" ");
+    EXPECT_EQ(p.testo(1, 1), L" ");
+    EXPECT_EQ(p.testo(49, 2), L"-1");
+    EXPECT_EQ(p.titolo(0), L"Data/Orario");
+    EXPECT_EQ(p.titolo(1), L"Contenuto");
+    EXPECT_EQ(p.titolo(2), L"");
+}
+
+TEST(Griglia, LeCelleVengonoDallaTabella) {
+    GrigliaProva p(2);
+    p.tabella(Titolo, 1) = L" Due ";
+    p.tabella(Descrizione, 1) = L"a\tb";
+    p.tabella(Data, 1) = L"ieri";
+    EXPECT_EQ(p.testo(1, 0), L"15/11/2005 10:00:00");
+    EXPECT_EQ(p.testo(1, 1), L"titolo 0\r\ndescrizione 0");
+    EXPECT_EQ(p.testo(1, 2), L"0");
+    EXPECT_EQ(p.testo(2, 0), L"ieri");
+    EXPECT_EQ(p.testo(2, 1), L"Due\r\na    b");
+    EXPECT_EQ(p.testo(3, 2), L"-1");
+}
+
+TEST(Griglia, NumeroDiRigheAttornoA50EAlMassimo) {
+    for (const auto& [elementi, righe] :
+         {std::pair{1, 49}, {49, 49}, {50, 50}, {51, 51}, {32767, 32767}}) {
+        GrigliaProva p(0);
+        p.tabella.dimensiona(elementi);
+        GUI::RiempiGriglia(p.griglia, false);
+        EXPECT_EQ(ListView_GetItemCount(p.lista()), righe);
+        EXPECT_EQ(p.griglia.ElementoSelezionato(), 0);
+        p.griglia.seleziona(elementi);
+        EXPECT_EQ(p.griglia.ElementoSelezionato(), elementi - 1);
+        GUI::RiempiGriglia(p.griglia, true);
+        EXPECT_EQ(ListView_GetItemCount(p.lista()), 49);
+        EXPECT_EQ(p.griglia.ElementoSelezionato(), -1);
+    }
+}
+
+TEST(Griglia, LeColonneHannoLaLarghezzaDetta) {
+    GrigliaProva p(3);
+    RECT r{};
+    GetClientRect(p.griglia.hwnd(), &r);
+    const auto resto = larghezzeColonne(r.right * 15.0, 3, 2000.0)[1];
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
+    EXPECT_NEAR(ListView_GetColumnWidth(p.lista(), 1), resto / 15, 0.51);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 2), ListView_GetColumnWidth(p.lista(), 1));
+    // They follow the grid's width, down to none.
+    p.allarga(600);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 1), 600 - 133 - 20);
+    p.allarga(100);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 1), 0);
+}
+
+TEST(Griglia, NessunaBarraOrizzontale) {
+    GrigliaProva p(500);
+    EXPECT_EQ(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_HSCROLL, 0);
+    EXPECT_NE(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_VSCROLL, 0);
+    p.allarga(300);
+    p.aspettaQuiete();
+    EXPECT_EQ(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_HSCROLL, 0);
+    p.premiTasto(VK_RIGHT);
+    p.premiTasto(VK_RIGHT);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
+    EXPECT_EQ(r.left, 0);
+}
+
+TEST(Griglia, UnaRigaFuoriVistaDiventaLaPrimaInAlto) {
+    GrigliaProva p(200);
+    GUI::SelezionaRiga(p.griglia, 100);
+    EXPECT_EQ(p.griglia.rigaInCima(), 100);
+    GUI::SelezionaRiga(p.griglia, 102);
+    EXPECT_EQ(p.griglia.rigaInCima(), 100);
+    GUI::SelezionaRiga(p.griglia, 50);
+    EXPECT_EQ(p.griglia.rigaInCima(), 50);
+    GUI::SelezionaRiga(p.griglia, 200);
+    EXPECT_TRUE(p.griglia.visibile(200));
+    EXPECT_LT(p.griglia.rigaInCima(), 200);
+    // Rows that are none change nothing.
+    for (const int riga : {0, -1, 201, 100000}) {
+        GUI::SelezionaRiga(p.griglia, riga);
+        EXPECT_EQ(p.griglia.rigaCorrente(), 200);
+    }
+}
+
+TEST(Griglia, RiempireDiNuovoTornaAllaPrimaRiga) {
+    GrigliaProva p(200);
+    p.griglia.seleziona(150);
+    GUI::RiempiGriglia(p.griglia, false);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
+    EXPECT_EQ(p.griglia.rigaInCima(), 1);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{1});
+}
+
+TEST(Griglia, UnClicSelezionaTuttaLaRigaSoltanto) {
+    GrigliaProva p(5);
+    p.clic(p.punto(3));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{3});
+    EXPECT_EQ(GetFocus(), p.lista());
+    p.clic(p.punto(8));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 8);
+    EXPECT_EQ(p.griglia.ElementoSelezionato(), -1);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{8});
+    EXPECT_EQ(p.osservatore.eventi, (std::vector<std::wstring>{L"riga 3", L"riga 8"}));
+}
+
+TEST(Griglia, UnClicSullaRigaVisibileAMetaNonScorre) {
+    GrigliaProva p(200);
+    RECT r{};
+    GetClientRect(p.lista(), &r);
+    RECT prima{};
+    ListView_GetItemRect(p.lista(), 0, &prima, LVIR_BOUNDS);
+    const int altezza = prima.bottom - prima.top;
+    const int ultima = (r.bottom - prima.top) / altezza + 1;
+    // Half of the last row is in sight, or the height of the list is made to show it so.
+    p.alta(prima.top + (ultima - 1) * altezza + altezza / 2 + 4);
+    ASSERT_TRUE(p.griglia.visibile(ultima));
+    ASSERT_FALSE(p.griglia.visibile(ultima + 1));
+    p.clic(p.punto(ultima, -altezza / 4));
+    EXPECT_EQ(p.griglia.rigaCorrente(), ultima);
+    EXPECT_EQ(p.griglia.rigaInCima(), 1);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
+TEST(Griglia, ITastiMuovonoLaRigaCorrente) {
+    GrigliaProva p(200);
+    p.premiTasto(VK_DOWN);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
+    p.premiTasto(VK_END);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 200);
+    p.premiTasto(VK_HOME);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
+    EXPECT_EQ(p.griglia.rigaInCima(), 1);
+    p.premiTasto(VK_NEXT);
+    EXPECT_GT(p.griglia.rigaCorrente(), 5);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{p.griglia.rigaCorrente()});
+    // One row further than what is in sight scrolls by one row.
+    while (p.griglia.rigaInCima() == 1 && p.griglia.rigaCorrente() < 199) {
+        p.premiTasto(VK_DOWN);
+    }
+    EXPECT_EQ(p.griglia.rigaInCima(), 2);
+}
+
+TEST(Griglia, NemmenoConCtrlUnaRigaRestaSenzaSelezione) {
+    GrigliaProva p(20);
+    p.premiTasto(VK_SPACE, VK_CONTROL);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{1});
+    p.premiTasto(VK_DOWN, VK_CONTROL);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
+    p.premiTasto(VK_ADD, VK_CONTROL);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
+}
+
+TEST(Griglia, ChiSelezionaDaFuoriCambiaLaRigaCorrente) {
+    GrigliaProva p(20);
+    ListView_SetItemState(p.lista(), 6, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 7);
+    EXPECT_EQ(p.osservatore.eventi, std::vector<std::wstring>{L"riga 7"});
+}
+
+TEST(Griglia, IlDoppioClicDiceLaRiga) {
+    GrigliaProva p(3);
+    p.doppioClic(p.punto(2));
+    p.doppioClic(p.punto(7));
+    p.doppioClic(p.puntoTestata());
+    // Near the left edge a row is a row.
+    POINT bordo = p.punto(3);
+    bordo.x = p.sinistra() + 3;
+    p.doppioClic(bordo);
+    EXPECT_EQ(p.osservatore.doppi(),
+              (std::vector<std::wstring>{L"doppio 2", L"doppio 7", L"doppio 0", L"doppio 3"}));
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
+TEST(Griglia, IlPulsanteDestroSelezionaEPoiApreIlMenu) {
+    GrigliaProva p(5);
+    const POINT dove = p.punto(4);
+    p.vai(dove);
+    p.pulsante(MOUSEEVENTF_RIGHTDOWN);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 4);
+    EXPECT_TRUE(p.osservatore.menu.empty());
+    p.pulsante(MOUSEEVENTF_RIGHTUP);
+    ASSERT_EQ(p.osservatore.menu.size(), 1U);
+    EXPECT_EQ(p.osservatore.menu[0].x, dove.x);
+    EXPECT_EQ(p.osservatore.menu[0].y, dove.y);
+}
+
+TEST(Griglia, IlMenuDaTastieraSiApreAllaRigaCorrente) {
+    GrigliaProva p(5);
+    p.griglia.seleziona(3);
+    p.premiTasto(VK_APPS);
+    p.premiTasto(VK_F10, VK_SHIFT);
+    ASSERT_EQ(p.osservatore.menu.size(), 2U);
+    for (const POINT& m : p.osservatore.menu) {
+        EXPECT_EQ(m.y, p.punto(3).y);
+        EXPECT_GT(m.x, p.sinistra());
+    }
+}
+
+TEST(Griglia, UnTastoGestitoDalProprietarioNonArrivaAllaLista) {
+    GrigliaProva p(5);
+    p.osservatore.gestito = VK_DOWN;
+    p.premiTasto(VK_DOWN);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
+    p.premiTasto(VK_END);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 49);
+}
+
+TEST(Griglia, LIntestazioneNonSiTrascinaENonSiAllarga) {
+    GrigliaProva p(3);
+    POINT divisione = p.puntoTestata();
+    divisione.x = p.sinistra() + 133;
+    p.trascina(divisione, {divisione.x + 60, divisione.y});
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
+    p.doppioClic(divisione);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
+    p.trascina({divisione.x - 60, divisione.y}, {divisione.x + 90, divisione.y});
+    EXPECT_EQ(p.titolo(0), L"Data/Orario");
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
+TEST(Griglia, HaUnNomePerChiLaLegge) {
+    GrigliaProva p(0);
+    std::array<wchar_t, 100> testo{};
+    GetWindowTextW(p.lista(), testo.data(), static_cast<int>(testo.size()));
+    EXPECT_STREQ(testo.data(), L"Elementi del feed");
+}
+
+TEST(Griglia, DueRigheDiTestoEntranoInOgniRiga) {
+    const AspettoGriglia aspetto;
+    GrigliaProva p(1);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
+    EXPECT_EQ(r.bottom - r.top, aspetto.altezzaRiga());
+    const HDC dc = GetDC(p.lista());
+    const HGDIOBJ prima = SelectObject(dc, aspetto.carattere());
+    TEXTMETRICW misure{};
+    GetTextMetricsW(dc, &misure);
+    SelectObject(dc, prima);
+    ReleaseDC(p.lista(), dc);
+    EXPECT_GT(r.bottom - r.top, 2 * misure.tmHeight);
+    p.griglia.aggiornaAspetto();
+    ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
+    EXPECT_EQ(r.bottom - r.top, aspetto.altezzaRiga());
+}
+
+TEST(Griglia, TestiEnormiSiDipingonoInFretta) {
+    GrigliaProva p(0);
+    std::wstring righe;
+    for (int i = 0; i < 10000; ++i) {
+        righe += L"riga\r\n";
+    }
+    for (int i = 0; i < 40; ++i) {
+        p.aggiungi(std::wstring(1 << 20, i % 2 == 0 ? L'\u65E5' : L'\t'),
+                   i % 3 == 0 ? righe : std::wstring(1 << 20, L' ') + L"\xD800\u0301\u202E");
+    }
+    GUI::RiempiGriglia(p.griglia, false);
+    const ULONGLONG inizio = GetTickCount64();
+    for (int r = 1; r <= 40; ++r) {
+        p.griglia.seleziona(r);
+        RedrawWindow(p.lista(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
+    EXPECT_LT(GetTickCount64() - inizio, 5000U);
+    EXPECT_EQ(p.testo(1, 1).substr(0, 3), L"\u65E5\u65E5\u65E5");
+}
+
+TEST(Griglia, PuoSparirePrimaLaFinestraMadre) {
+    GrigliaProva p(5);
+    DestroyWindow(p.cornice());
+    EXPECT_EQ(p.griglia.hwnd(), nullptr);
+    EXPECT_EQ(p.griglia.lista(), nullptr);
+    p.griglia.seleziona(2);
+    p.griglia.abbandona();
+}
+
+TEST(Griglia, NonPerdeOggettiDiWindows) {
+    { const GrigliaProva p(100); }
+    const DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    for (int i = 0; i < 10; ++i) {
+        GrigliaProva p(100);
+        p.griglia.aggiornaAspetto();
+        p.trascina(p.punto(1), p.punto(3));
+        p.aspettaQuiete();
+    }
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), gdi);
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user);
+}
