@@ -31,7 +31,7 @@
 
 // The item editor. Its buttons have the numbers that Enter and Esc press.
 #define IDD_FRMEDITFEED 200
-#define IDC_FRAME1 2001
+#define IDC_FRAMEEDIT 2001
 #define IDC_EDITTITOLO 2002
 #define IDC_EDITLINK 2003
 #define IDC_EDITAUTORE 2004
