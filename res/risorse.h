@@ -29,8 +29,17 @@
 #define IDC_STATUSBAR 1103
 #define IDC_TOOLBAR 1104
 
-// The item editor.
+// The item editor. Its buttons have the numbers that Enter and Esc press.
 #define IDD_FRMEDITFEED 200
+#define IDC_FRAMEEDIT 2001
+#define IDC_EDITTITOLO 2002
+#define IDC_EDITLINK 2003
+#define IDC_EDITAUTORE 2004
+#define IDC_EDITDESCRIZIONE 2005
+#define IDC_EDITDATA 2006
+#define IDC_EDITORARIO 2007
+#define IDC_CMDSALVA 1
+#define IDC_CMDANNULLA 2
 
 // The about box.
 #define IDD_FRMABOUT 300

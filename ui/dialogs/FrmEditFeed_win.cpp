@@ -1,0 +1,136 @@
+#include "ui/dialogs/FrmEditFeed_win.h"
+
+#include "datetime/ClsUTC.h"
+#include "res/risorse.h"
+#include "support/koUtilita.h"
+#include "support/messaggi.h"
+#include "support/orologio.h"
+#include "support/testo.h"
+#include "ui/main/guardia_win.h"
+
+#include <exception>
+#include <utility>
+
+static_assert(IDC_CMDSALVA == IDOK && IDC_CMDANNULLA == IDCANCEL);
+
+void FrmEditFeed::mostra(HWND proprietaria) {
+    mostraModale(IDD_FRMEDITFEED, proprietaria);
+}
+
+// The fields are filled while Windows makes the dialog, which is still hidden then: a message about
+// the date comes before the dialog is seen, and the modal loop stays Windows' own. A window made
+// hidden beforehand would need a second loop, with its own care for the owner, the focus and
+// WM_QUIT.
+bool FrmEditFeed::inizializza() {
+    annullato_ = true;
+    txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
+    txtLink_ = CampoTesto(controllo(IDC_EDITLINK));
+    txtAutore_ = CampoTesto(controllo(IDC_EDITAUTORE));
+    txtDescrizione_ = CampoTesto(controllo(IDC_EDITDESCRIZIONE));
+    txtData_ = SelettoreData(controllo(IDC_EDITDATA), SelettoreData::Parte::Data);
+    txtOrario_ = SelettoreData(controllo(IDC_EDITORARIO), SelettoreData::Parte::Ora);
+    CaricaDati();
+    return true;
+}
+
+INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM /*lParam*/) {
+    if (msg != WM_COMMAND || HIWORD(wParam) != BN_CLICKED) {
+        return FALSE;
+    }
+    switch (LOWORD(wParam)) {
+    case IDC_CMDSALVA:
+        cmdSalva_Click();
+        return TRUE;
+    case IDC_CMDANNULLA: // the close box too
+        chiudi(IDC_CMDANNULLA);
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+void FrmEditFeed::eccezione() noexcept {
+    try {
+        koUtilita(messaggi_).PrintErrore();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
+    }
+}
+
+void FrmEditFeed::PulisciCampi() noexcept {
+    // Each assignment on its own: one that fails does not stop the others.
+    const auto ignorando = [](auto azione) {
+        try {
+            azione();
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): as told above
+        }
+    };
+    for (CampoTesto* const campo : {&txtTitolo_, &txtLink_, &txtAutore_, &txtDescrizione_}) {
+        ignorando([&] { campo->testo(L""); });
+    }
+    for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
+        ignorando([&] { selettore->valore(ultimaData_); });
+    }
+}
+
+void FrmEditFeed::CaricaDati() {
+    PulisciCampi();
+    txtTitolo_.testo(elemento_.sTitle());
+    txtLink_.testo(elemento_.sLink());
+    txtDescrizione_.testo(elemento_.sDescription());
+    txtAutore_.testo(elemento_.sAuthor());
+    try {
+        if (!elemento_.sPubDate().empty()) {
+            const auto data =
+                ClsUTC(orologio_.adesso(), formatoUtente()).ToDate(elemento_.sPubDate());
+            txtData_.valore(data);
+            txtOrario_.valore(data);
+        }
+    } catch (const std::exception&) {
+        messaggi_.avvisa(L"Valore data/orario non valido. E' stata impostato come data/orario "
+                         L"quella di sistema.",
+                         L"Attenzione", Icona::Informazione);
+        txtData_.valore(orologio_.adesso().locale);
+        txtOrario_.valore(orologio_.adesso().locale);
+    }
+}
+
+bool FrmEditFeed::SalvaDati() {
+    return protetto(
+        [&] {
+            elemento_.sTitle(std::wstring(rifila(txtTitolo_.testo())));
+            elemento_.sLink(std::wstring(rifila(txtLink_.testo())));
+            elemento_.sDescription(std::wstring(rifila(txtDescrizione_.testo())));
+            // Stored as typed, blanks and all.
+            elemento_.sAuthor(txtAutore_.testo());
+            dataOra_ = combina(txtData_, txtOrario_);
+            const ClsUTC utc(orologio_.adesso(), formatoUtente());
+            elemento_.sPubDate(utc.GetDataUtc(dataOra_, true));
+        },
+        [&] { koUtilita(messaggi_).PrintErrore(); });
+}
+
+void FrmEditFeed::cmdSalva_Click() {
+    if (rifila(txtTitolo_.testo()).empty()) {
+        rifiuta(L"E' obbligatorio indicare il Titolo. Impossibile salvare.");
+    } else if (rifila(txtLink_.testo()).empty()) {
+        rifiuta(L"E' obbligatorio indicare il link. Impossibile salvare.");
+    } else if (SalvaDati()) {
+        annullato_ = false;
+        chiudi(IDC_CMDSALVA);
+    }
+}
+
+void FrmEditFeed::rifiuta(const wchar_t* testo) {
+    messaggi_.avvisa(testo, L"Attenzione", Icona::Critica);
+}
+
+std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, DataOra ultimaData) {
+    FrmEditFeed editor(messaggi_, orologio_, ultimaData);
+    editor.Elemento() = elemento;
+    editor.mostra(GetActiveWindow());
+    if (editor.Annullato()) {
+        return std::nullopt;
+    }
+    elemento = std::move(editor.Elemento());
+    return editor.DataOra();
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "document/clsItemRss.h"
+#include "support/dataora.h"
+#include "ui/controls/campoTesto_win.h"
+#include "ui/controls/dialogo_win.h"
+#include "ui/controls/selettoreData_win.h"
+#include "ui/dialogs/editorElementi.h"
+
+class Messaggi;
+class Orologio;
+
+// The modal dialog that edits one item: fill Elemento, then mostra, then read Annullato and, where
+// it is False, Elemento and DataOra. The three stay readable after the window is gone.
+class FrmEditFeed final : public Dialogo {
+public:
+    // An item without a date is proposed with `ultimaData`. The services outlive the dialog.
+    FrmEditFeed(Messaggi& messaggi, const Orologio& orologio, ::DataOra ultimaData) noexcept
+        : messaggi_(messaggi), orologio_(orologio), ultimaData_(ultimaData) {}
+
+    // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
+    // Raises the failure to make it.
+    void mostra(HWND proprietaria);
+
+    // True until the item was saved, at each showing anew.
+    [[nodiscard]] bool Annullato() const noexcept { return annullato_; }
+    [[nodiscard]] clsItemRss& Elemento() noexcept { return elemento_; }
+    [[nodiscard]] const clsItemRss& Elemento() const noexcept { return elemento_; }
+    // The local date and time chosen.
+    [[nodiscard]] ::DataOra DataOra() const noexcept { return dataOra_; }
+
+    // Fills the controls from Elemento. A date that cannot be read, or that the pickers cannot
+    // hold, is told and replaced by now.
+    void CaricaDati();
+
+    // Writes the controls back into Elemento and DataOra. False after a failure, which was told.
+    [[nodiscard]] bool SalvaDati();
+
+private:
+    bool inizializza() override;
+    INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
+    void eccezione() noexcept override;
+
+    void PulisciCampi() noexcept;
+    void cmdSalva_Click();
+    // Says that a required field is missing.
+    void rifiuta(const wchar_t* testo);
+
+    Messaggi& messaggi_;
+    const Orologio& orologio_;
+    ::DataOra ultimaData_;
+
+    bool annullato_ = true;
+    clsItemRss elemento_;
+    ::DataOra dataOra_;
+
+    CampoTesto txtTitolo_;
+    CampoTesto txtLink_;
+    CampoTesto txtAutore_;
+    CampoTesto txtDescrizione_;
+    SelettoreData txtData_;
+    SelettoreData txtOrario_;
+};
+
+// The service on the real dialog, over the active window.
+class EditorElementiWindows final : public EditorElementi {
+public:
+    EditorElementiWindows(Messaggi& messaggi, const Orologio& orologio) noexcept
+        : messaggi_(messaggi), orologio_(orologio) {}
+
+    [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento,
+                                                  DataOra ultimaData) override;
+
+private:
+    Messaggi& messaggi_;
+    const Orologio& orologio_;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "support/dataora.h"
+
+#include <optional>
+
+class clsItemRss;
+
+// The item editor as a service: it is modal, so tests put a fake in its place.
+class EditorElementi {
+public:
+    EditorElementi() = default;
+    EditorElementi(const EditorElementi&) = delete;
+    EditorElementi& operator=(const EditorElementi&) = delete;
+    virtual ~EditorElementi() = default;
+
+    // Lets the user edit `elemento`; one without a date is proposed with `ultimaData`. Gives the
+    // local date and time chosen, or nothing when the user cancelled: `elemento` is then as it
+    // was. Raises the failure to show the editor.
+    [[nodiscard]] virtual std::optional<DataOra> modifica(clsItemRss& elemento,
+                                                          DataOra ultimaData) = 0;
+};
