@@ -1,8 +1,48 @@
+#include "support/ClsCodaEliminazione.h"
 #include "support/com_win.h"
+#include "support/dialoghiFile_win.h"
+#include "support/errori_win.h"
+#include "support/impostazioni_win.h"
+#include "support/messaggi_win.h"
+#include "support/orologio.h"
+#include "support/prodotto.h"
+#include "ui/main/FrmMain_win.h"
 
 #include <windows.h>
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
-    const Apartamento apartamento;
-    return 0;
+#include <commctrl.h>
+
+namespace {
+
+int esegui(int comeMostrare) {
+    MessaggiWindows messaggi;
+    DialoghiFileWindows dialoghi;
+    OrologioSistema orologio;
+    ImpostazioniRegistro impostazioni(prodotto::titolo);
+    // Deletes the preview files when this scope ends, after the last window.
+    ClsCodaEliminazione coda;
+    const Servizi servizi{messaggi, dialoghi, orologio, impostazioni, coda};
+
+    if (!FrmMain::Form_Initialize(messaggi)) {
+        return 0;
+    }
+    FrmMain finestra(servizi);
+    finestra.apri(comeMostrare);
+    return finestra.cicloMessaggi();
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int comeMostrare) {
+    // Libraries are the system's: never the current folder's or the document's.
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+    try {
+        const Apartamento apartamento;
+        return esegui(comeMostrare);
+    } catch (...) {
+        const Errore errore = erroreCorrente();
+        MessageBoxW(nullptr, errore.descrizione().c_str(),
+                    (L"Errore n° " + std::to_wstring(errore.numero())).c_str(), MB_ICONHAND);
+        return 1;
+    }
 }

@@ -26,6 +26,7 @@ inline constexpr std::int32_t chiamataNonValida = 5;
 inline constexpr std::int32_t overflow = 6;
 inline constexpr std::int32_t memoriaEsaurita = 7;
 inline constexpr std::int32_t indiceFuoriIntervallo = 9;
+inline constexpr std::int32_t divisionePerZero = 11;
 inline constexpr std::int32_t tipoNonCorrispondente = 13;
 inline constexpr std::int32_t nomeFileNonValido = 52;
 inline constexpr std::int32_t fileNonTrovato = 53;

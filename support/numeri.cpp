@@ -18,6 +18,13 @@ constexpr bool spazio(wchar_t c) noexcept {
     return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n';
 }
 
+// What the system takes for blank around a number.
+constexpr bool bianco(wchar_t c) noexcept {
+    return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
+           (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F ||
+           c == 0x205F || c == 0x3000;
+}
+
 // Gathers decimal digits and an exponent into a number. 19 digits fill a 64-bit mantissa; those
 // beyond only move the exponent.
 class Mantissa {
@@ -33,6 +40,12 @@ public:
         }
     }
     void esponente(int valore) noexcept { scala_ += valore; }
+    // A digit of another base; too great from 32 bits on.
+    void inBase(std::uint64_t base, int cifra) noexcept {
+        constexpr std::uint64_t limite = 0x80000000;
+        cifre_ = std::min(cifre_ * base + static_cast<std::uint64_t>(cifra), limite);
+        scala_ = cifre_ == limite ? 5000 : 0;
+    }
 
     [[nodiscard]] double valore() const noexcept {
         if (cifre_ == 0) {
@@ -84,6 +97,138 @@ private:
 
     std::wstring_view testo_;
     std::size_t dove_ = 0;
+};
+
+// What the system's conversion of a text to a number reads; see the header for what it leaves out.
+class LettoreNumero {
+public:
+    struct Letto {
+        double valore;
+        // Written with &H or &O.
+        bool inBase;
+    };
+
+    LettoreNumero(std::wstring_view testo, const FormatoLocale& formato) noexcept
+        : testo_(testo), formato_(formato) {}
+
+    // Infinite when the number is too great.
+    [[nodiscard]] std::optional<Letto> leggi() {
+        prima();
+        const bool inBase = prendi(L'&');
+        if (!(inBase ? base() : decimale()) || !dopo()) {
+            return std::nullopt;
+        }
+        const double valore = mantissa_.valore();
+        // A sign before &H is read and means nothing.
+        return Letto{negativo_ && !inBase ? -valore : valore, inBase};
+    }
+
+private:
+    [[nodiscard]] wchar_t guarda() const noexcept {
+        return testo_.empty() ? L'\0' : testo_.front();
+    }
+    bool prendi(wchar_t c) noexcept {
+        if (testo_.empty() || testo_.front() != c) {
+            return false;
+        }
+        testo_.remove_prefix(1);
+        return true;
+    }
+    void saltaBianchi() noexcept {
+        while (bianco(guarda())) {
+            testo_.remove_prefix(1);
+        }
+    }
+
+    // Before the digits: blanks, one sign of each kind, one parenthesis, in any order.
+    void prima() noexcept {
+        for (;;) {
+            saltaBianchi();
+            if (!piu_ && prendi(L'+')) {
+                piu_ = true;
+            } else if (!meno_ && prendi(L'-')) {
+                meno_ = negativo_ = true;
+            } else if (!aperta_ && prendi(L'(')) {
+                aperta_ = negativo_ = true;
+            } else {
+                return;
+            }
+        }
+    }
+
+    // After them: blanks, signs of a kind that did not stand before, the closing parenthesis.
+    [[nodiscard]] bool dopo() noexcept {
+        for (;;) {
+            saltaBianchi();
+            if (!meno_ && prendi(L'-')) {
+                negativo_ = true;
+            } else if (aperta_ && prendi(L')')) {
+                aperta_ = false;
+            } else if (piu_ || !prendi(L'+')) {
+                return testo_.empty() && !aperta_;
+            }
+        }
+    }
+
+    [[nodiscard]] bool decimale() noexcept {
+        bool lette = false;
+        bool decimali = false;
+        for (; !testo_.empty(); testo_.remove_prefix(1)) {
+            const wchar_t c = guarda();
+            if (cifra(c)) {
+                decimali ? mantissa_.decimale(c) : mantissa_.intero(c);
+                lette = true;
+            } else if (c == formato_.decimale && !decimali) {
+                decimali = true;
+            } else if (c != formato_.migliaia || !(lette || decimali)) {
+                break;
+            }
+        }
+        return lette && ((!prendi(L'e') && !prendi(L'E')) || esponente());
+    }
+
+    [[nodiscard]] bool esponente() noexcept {
+        const bool meno = prendi(L'-');
+        if (!meno) {
+            static_cast<void>(prendi(L'+'));
+        }
+        if (!cifra(guarda())) {
+            return false;
+        }
+        int valore = 0;
+        for (; cifra(guarda()); testo_.remove_prefix(1)) {
+            valore = std::min(valore * 10 + (guarda() - L'0'), 5000);
+        }
+        mantissa_.esponente(meno ? -valore : valore);
+        return true;
+    }
+
+    // The digits after &H or &O.
+    [[nodiscard]] bool base() noexcept {
+        const bool esadecimale = prendi(L'H') || prendi(L'h');
+        if (!esadecimale && !prendi(L'O') && !prendi(L'o')) {
+            return false;
+        }
+        bool lette = false;
+        for (;; lette = true, testo_.remove_prefix(1)) {
+            const wchar_t c = guarda();
+            if (esadecimale && ((c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F'))) {
+                mantissa_.inBase(16, (c | 0x20) - L'a' + 10);
+            } else if (cifra(c) && (esadecimale || c < L'8')) {
+                mantissa_.inBase(esadecimale ? 16 : 8, c - L'0');
+            } else {
+                return lette;
+            }
+        }
+    }
+
+    std::wstring_view testo_;
+    const FormatoLocale& formato_;
+    Mantissa mantissa_;
+    bool piu_ = false;
+    bool meno_ = false;
+    bool aperta_ = false;
+    bool negativo_ = false;
 };
 
 template <class Intero>
@@ -142,92 +287,19 @@ std::int32_t aInt32(double valore) {
 }
 
 std::optional<double> testoADouble(std::wstring_view testo, const FormatoLocale& formato) {
-    const auto bianco = [](wchar_t c) { return spazio(c) || c == L'\v' || c == L'\f'; };
-    const auto saltaBianchi = [&] {
-        while (!testo.empty() && bianco(testo.front())) {
-            testo.remove_prefix(1);
-        }
-    };
-    bool segno = false;
-    bool negativo = false;
-    bool parentesi = false;
-    // Before the digits: blanks, one sign, one parenthesis, in any order.
-    for (saltaBianchi(); !testo.empty(); saltaBianchi()) {
-        const wchar_t c = testo.front();
-        if ((c == L'+' || c == L'-') && !segno) {
-            segno = true;
-            negativo = c == L'-';
-        } else if (c == L'(' && !parentesi) {
-            parentesi = true;
-            negativo = true;
-        } else {
-            break;
-        }
-        testo.remove_prefix(1);
-    }
-    Mantissa mantissa;
-    bool lette = false;
-    while (!testo.empty() &&
-           (cifra(testo.front()) || (lette && testo.front() == formato.migliaia))) {
-        if (cifra(testo.front())) {
-            mantissa.intero(testo.front());
-            lette = true;
-        }
-        testo.remove_prefix(1);
-    }
-    if (!testo.empty() && testo.front() == formato.decimale) {
-        testo.remove_prefix(1);
-        while (!testo.empty() && cifra(testo.front())) {
-            mantissa.decimale(testo.front());
-            lette = true;
-            testo.remove_prefix(1);
-        }
-    }
-    if (!lette) {
-        return std::nullopt;
-    }
-    if (!testo.empty() && (testo.front() == L'e' || testo.front() == L'E')) {
-        testo.remove_prefix(1);
-        bool meno = false;
-        if (!testo.empty() && (testo.front() == L'+' || testo.front() == L'-')) {
-            meno = testo.front() == L'-';
-            testo.remove_prefix(1);
-        }
-        if (testo.empty() || !cifra(testo.front())) {
-            return std::nullopt;
-        }
-        int esponente = 0;
-        for (; !testo.empty() && cifra(testo.front()); testo.remove_prefix(1)) {
-            esponente = std::min(esponente * 10 + (testo.front() - L'0'), 5000);
-        }
-        mantissa.esponente(meno ? -esponente : esponente);
-    }
-    // After them: blanks, a sign if there was none, the closing parenthesis.
-    for (saltaBianchi(); !testo.empty(); saltaBianchi()) {
-        const wchar_t c = testo.front();
-        if ((c == L'+' || c == L'-') && !segno && !parentesi) {
-            segno = true;
-            negativo = c == L'-';
-        } else if (c == L')' && parentesi) {
-            parentesi = false;
-        } else {
-            return std::nullopt;
-        }
-        testo.remove_prefix(1);
-    }
-    const double valore = mantissa.valore();
-    if (parentesi || !std::isfinite(valore)) {
-        return std::nullopt;
-    }
-    return negativo ? -valore : valore;
+    const auto letto = LettoreNumero(testo, formato).leggi();
+    return letto && std::isfinite(letto->valore) ? std::optional(letto->valore) : std::nullopt;
 }
 
 std::int16_t testoAInt16(std::wstring_view testo, const FormatoLocale& formato) {
-    const auto valore = testoADouble(testo, formato);
-    if (!valore) {
+    const auto letto = LettoreNumero(testo, formato).leggi();
+    if (!letto) {
         solleva(errori::tipoNonCorrispondente);
     }
-    return aInt16(*valore);
+    // &H8000 to &HFFFF are the bits of a negative.
+    constexpr double giro = 0x10000;
+    const bool bit = letto->inBase && letto->valore >= giro / 2 && letto->valore < giro;
+    return aInt16(bit ? letto->valore - giro : letto->valore);
 }
 
 std::wstring formattaNumero(double valore, int cifreIntere, int decimali, wchar_t separatore) {

@@ -18,12 +18,17 @@
 [[nodiscard]] std::int16_t aInt16(double valore);
 [[nodiscard]] std::int32_t aInt32(double valore);
 
-// A text that must be a number, in the user's format: signs at either end, parentheses for a
-// negative, thousands, decimals, an exponent, &H and &O. Nothing when it is none.
+// A text that must be a number, in the user's format: blanks around it, a sign of each kind before
+// or after it, parentheses for a negative, thousands separators behind the first digit or the
+// decimal separator, decimals, an exponent; or &H and &O with up to 31 bits. Nothing when it is
+// none or too great. Left out on purpose, though the system's call lets some of it pass: a
+// parenthesis that stays open, an exponent before any digit, with two signs or with thousands
+// separators, thousands separators after a trailing blank or sign, the currency symbol.
 [[nodiscard]] std::optional<double> testoADouble(std::wstring_view testo,
                                                  const FormatoLocale& formato);
 
-// The same as a 16-bit integer. Raises error 13 when the text is no number, 6 out of range.
+// The same as a 16-bit integer, halves to even, &H8000 to &HFFFF negative. Raises error 13 when the
+// text is no number, 6 out of range.
 [[nodiscard]] std::int16_t testoAInt16(std::wstring_view testo, const FormatoLocale& formato);
 
 // A number with at least `cifreIntere` digits before the separator and exactly `decimali` after

@@ -22,8 +22,11 @@ CartellaProva::CartellaProva() {
 
 CartellaProva::~CartellaProva() {
     std::error_code errore;
-    for (const auto& voce : std::filesystem::recursive_directory_iterator(percorso_, errore)) {
-        SetFileAttributesW(voce.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    // Stepped by hand: the ++ of a range loop throws where a path is too long.
+    std::filesystem::recursive_directory_iterator voce(percorso_, errore);
+    for (; !errore && voce != std::filesystem::recursive_directory_iterator();
+         voce.increment(errore)) {
+        SetFileAttributesW(voce->path().c_str(), FILE_ATTRIBUTE_NORMAL);
     }
     std::filesystem::remove_all(percorso_, errore);
 }

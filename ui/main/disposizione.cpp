@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double margine = 50;
+constexpr double margine = margineTwips;
 constexpr double dueMargini = 100;
 // Below this the three image fields keep their width.
 constexpr double larghezzaMinima = 400;

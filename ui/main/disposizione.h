@@ -27,9 +27,8 @@ struct MisureFinestra {
     double altoDati;
     double altezzaDati;
     double larghezzaDati;
-    // The command strip at the right edge and the height of each of its buttons.
+    // The command strip at the right edge.
     double larghezzaPicCmd;
-    double altezzaPulsante;
 };
 
 // Where each goes; nothing where the window is too small and the control stays as it is.
@@ -42,5 +41,13 @@ struct Disposizione {
     std::optional<Riquadro> griglia;
     std::optional<Riquadro> picCmd;
 };
+
+// The design's distance from an edge.
+inline constexpr double margineTwips = 50;
+
+// Twips as whole pixels, for one direction's twips per pixel.
+[[nodiscard]] constexpr int aPixel(double twips, double twipsPerPixel) noexcept {
+    return static_cast<int>(twips / twipsPerPixel);
+}
 
 [[nodiscard]] Disposizione DisponiControlli(const MisureFinestra& misure) noexcept;

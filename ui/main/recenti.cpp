@@ -33,6 +33,12 @@ void ElencoRecenti::AggiungiRecente(std::wstring_view path) {
             ++k;
         }
     }
+    // A store with gaps was closed up: what stood further down would stand twice.
+    for (; k <= massimo; ++k) {
+        if (!impostazioni_.leggi(sezione, chiave(k), L"").empty()) {
+            impostazioni_.scrivi(sezione, chiave(k), L"");
+        }
+    }
     CaricaRecenti();
 }
 

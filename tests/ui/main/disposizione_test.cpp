@@ -1,0 +1,78 @@
+#include "ui/main/disposizione.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+MisureFinestra misure(double larghezza, double altezza) {
+    MisureFinestra m{};
+    m.larghezzaInterna = larghezza;
+    m.altezzaInterna = altezza;
+    m.altezzaStato = 330;
+    m.sinistraLogo = 7200;
+    m.larghezzaTitolo = 4950;
+    m.larghezzaLogo = 3000;
+    m.altoLarghezza = 1830;
+    m.altezzaGetSize = 360;
+    m.altoDati = 600;
+    m.altezzaDati = 2700;
+    m.larghezzaDati = 9000;
+    m.larghezzaPicCmd = 1800;
+    return m;
+}
+
+} // namespace
+
+TEST(Disposizione, IlRiquadroDeiDatiSegueLaLarghezza) {
+    const auto d = DisponiControlli(misure(15000, 9000));
+    ASSERT_TRUE(d.fraDati);
+    EXPECT_EQ(d.fraDati->sinistra, 50);
+    EXPECT_EQ(d.fraDati->larghezza, 14900);
+    EXPECT_FALSE(DisponiControlli(misure(100, 9000)).fraDati);
+    EXPECT_TRUE(DisponiControlli(misure(101, 9000)).fraDati);
+}
+
+TEST(Disposizione, ICampiDellImmagineNonSuperanoIlTitolo) {
+    EXPECT_EQ(DisponiControlli(misure(20000, 9000)).larghezzaImmagine, 4950);
+    // 11000 - 100 in the frame, less 7200 and 100.
+    EXPECT_EQ(DisponiControlli(misure(11000, 9000)).larghezzaImmagine, 3600);
+}
+
+TEST(Disposizione, SottoQuattrocentoICampiDellImmagineRestanoComeSono) {
+    EXPECT_EQ(DisponiControlli(misure(7800, 9000)).larghezzaImmagine, 400);
+    EXPECT_FALSE(DisponiControlli(misure(7799, 9000)).larghezzaImmagine);
+}
+
+TEST(Disposizione, LaGrigliaPrendeLAltezzaCheResta) {
+    const auto d = DisponiControlli(misure(15000, 9000));
+    ASSERT_TRUE(d.griglia);
+    EXPECT_EQ(d.griglia->alto + d.griglia->altezza + 330 + 100, 9000);
+    EXPECT_GE(d.griglia->alto, 600 + 2700);
+    EXPECT_FALSE(DisponiControlli(misure(15000, 600 + 2700)).griglia);
+}
+
+TEST(Disposizione, LaStrisciaStaAlBordoDestroConLaStessaAltezza) {
+    const auto d = DisponiControlli(misure(15000, 9000));
+    ASSERT_TRUE(d.picCmd);
+    EXPECT_EQ(d.picCmd->alto, d.griglia->alto);
+    EXPECT_EQ(d.picCmd->altezza, d.griglia->altezza);
+    EXPECT_EQ(d.picCmd->sinistra + d.picCmd->larghezza, 15000 - 50);
+    EXPECT_LE(d.griglia->sinistra + d.griglia->larghezza, d.picCmd->sinistra);
+}
+
+TEST(Disposizione, GetSizeEAllineatoAllaStrisciaEALarghezza) {
+    const auto d = DisponiControlli(misure(15000, 9000));
+    ASSERT_TRUE(d.cmdGetSize);
+    EXPECT_EQ(d.cmdGetSize->larghezza, d.picCmd->larghezza);
+    EXPECT_EQ(d.cmdGetSize->alto, 1830);
+    // In the frame's coordinates, which begin at the frame's left edge.
+    EXPECT_EQ(d.cmdGetSize->sinistra + d.fraDati->sinistra, d.picCmd->sinistra);
+}
+
+TEST(Disposizione, UnaFinestraMinimaNonMuoveNulla) {
+    const auto d = DisponiControlli(misure(0, 0));
+    EXPECT_FALSE(d.fraDati);
+    EXPECT_FALSE(d.griglia);
+    EXPECT_FALSE(d.picCmd);
+    EXPECT_FALSE(d.cmdGetSize);
+}

@@ -1,0 +1,68 @@
+#include "ui/main/recenti.h"
+
+#include "tests/aiuti/impostazioni_finte.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Voci = std::vector<std::wstring>;
+
+} // namespace
+
+TEST(Recenti, UnArchivioVuotoNonHaVoci) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti elenco(archivio);
+    elenco.CaricaRecenti();
+    EXPECT_TRUE(elenco.voci().empty());
+}
+
+TEST(Recenti, LoStessoPercorsoInAltreMaiuscoleEUnaVoceSola) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti elenco(archivio);
+    elenco.AggiungiRecente(L"C:\\Feed\\News.XML");
+    elenco.AggiungiRecente(L"c:\\feed\\altro.xml");
+    elenco.AggiungiRecente(L"c:\\feed\\news.xml");
+    EXPECT_EQ(elenco.voci(), (Voci{L"c:\\feed\\news.xml", L"c:\\feed\\altro.xml"}));
+}
+
+TEST(Recenti, DopoUndiciFileRestanoIDieciPiuRecenti) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti elenco(archivio);
+    for (int i = 1; i <= 11; ++i) {
+        elenco.AggiungiRecente(L"c:\\f" + std::to_wstring(i) + L".xml");
+    }
+    ASSERT_EQ(elenco.voci().size(), 10U);
+    EXPECT_EQ(elenco.voci().front(), L"c:\\f11.xml");
+    EXPECT_EQ(elenco.voci().back(), L"c:\\f2.xml");
+    EXPECT_EQ(archivio.leggi(L"url", L"murl1", L""), L"c:\\f11.xml");
+    EXPECT_EQ(archivio.leggi(L"url", L"murl10", L""), L"c:\\f2.xml");
+    EXPECT_EQ(archivio.leggi(L"url", L"murl11", L"-"), L"-");
+}
+
+TEST(Recenti, ValoriVuotiESpaziIntornoSiSaltanoOSiTolgono) {
+    ImpostazioniFinte archivio;
+    archivio.scrivi(L"url", L"murl1", L"   ");
+    archivio.scrivi(L"url", L"murl2", L"  C:\\Città\\È.XML ");
+    archivio.scrivi(L"url", L"murl7", L"c:\\b.xml");
+    ElencoRecenti elenco(archivio);
+    elenco.CaricaRecenti();
+    EXPECT_EQ(elenco.voci(), (Voci{L"c:\\città\\è.xml", L"c:\\b.xml"}));
+    // Adding closes the gaps up, and nothing is left to stand twice.
+    elenco.AggiungiRecente(L"c:\\n.xml");
+    EXPECT_EQ(elenco.voci(), (Voci{L"c:\\n.xml", L"c:\\città\\è.xml", L"c:\\b.xml"}));
+}
+
+TEST(Recenti, IlPiuRecenteGiaInElencoSaleInCimaSenzaLasciareBuchi) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti elenco(archivio);
+    for (const wchar_t* const path : {L"c:\\a", L"c:\\b", L"c:\\c"}) {
+        elenco.AggiungiRecente(path);
+    }
+    elenco.AggiungiRecente(L"c:\\a");
+    EXPECT_EQ(elenco.voci(), (Voci{L"c:\\a", L"c:\\c", L"c:\\b"}));
+}
+
+TEST(Recenti, LaECommercialeSiVedeComeTale) {
+    EXPECT_EQ(didascaliaMenu(L"c:\\a&b&&c.xml"), L"c:\\a&&b&&&&c.xml");
+}

@@ -1,0 +1,114 @@
+#include "ui/controls/aspettoGriglia_win.h"
+
+#include "support/errori_win.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace {
+
+// The window's device context, for measures.
+class ContestoSchermo {
+public:
+    ContestoSchermo() noexcept : dc_(GetDC(nullptr)) {}
+    ContestoSchermo(const ContestoSchermo&) = delete;
+    ContestoSchermo& operator=(const ContestoSchermo&) = delete;
+    ~ContestoSchermo() { ReleaseDC(nullptr, dc_); }
+    [[nodiscard]] HDC get() const noexcept { return dc_; }
+
+private:
+    HDC dc_;
+};
+
+// A font in use; the one before comes back at the end.
+class Selezione {
+public:
+    Selezione(HDC dc, HGDIOBJ oggetto) noexcept : dc_(dc), prima_(SelectObject(dc, oggetto)) {}
+    Selezione(const Selezione&) = delete;
+    Selezione& operator=(const Selezione&) = delete;
+    ~Selezione() { SelectObject(dc_, prima_); }
+
+private:
+    HDC dc_;
+    HGDIOBJ prima_;
+};
+
+int altezza(HDC dc, HFONT carattere) noexcept {
+    const Selezione selezione(dc, carattere);
+    TEXTMETRICW misure{};
+    GetTextMetricsW(dc, &misure);
+    return misure.tmHeight;
+}
+
+void scrivi(HDC dc, HFONT carattere, const std::wstring& testo, RECT posto) noexcept {
+    const Selezione selezione(dc, carattere);
+    DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &posto,
+              DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_LEFT | DT_TOP);
+}
+
+} // namespace
+
+AspettoGriglia::AspettoGriglia() {
+    NONCLIENTMETRICSW misure{};
+    misure.cbSize = sizeof(misure);
+    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(misure), &misure, 0)) {
+        sollevaWin32();
+    }
+    LOGFONTW font = misure.lfMessageFont;
+    normale_ = Carattere(CreateFontIndirectW(&font));
+    font.lfWeight = FW_BOLD;
+    grassetto_ = Carattere(CreateFontIndirectW(&font));
+    const ContestoSchermo schermo;
+    altezzaTesto_ =
+        std::max(altezza(schermo.get(), normale_.get()), altezza(schermo.get(), grassetto_.get()));
+    margine_ = twipsInPixel(60, LOGPIXELSY);
+    // Two lines, the margins, and the line that ends the row.
+    altezzaRiga_ = 2 * altezzaTesto_ + 2 * margine_ + 1;
+}
+
+void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
+                             const Posto& posto) const {
+    RECT tutta = posto.data;
+    tutta.right = std::max(posto.data.right, posto.contenuto.right);
+    const int sfondo = !posto.selezionata ? COLOR_WINDOW
+                       : posto.fuoco      ? COLOR_HIGHLIGHT
+                                          : COLOR_BTNFACE;
+    const int testo = !posto.selezionata ? COLOR_WINDOWTEXT
+                      : posto.fuoco      ? COLOR_HIGHLIGHTTEXT
+                                         : COLOR_BTNTEXT;
+    FillRect(dc, &tutta, GetSysColorBrush(sfondo));
+    const RECT linea{tutta.left, tutta.bottom - 1, tutta.right, tutta.bottom};
+    FillRect(dc, &linea, GetSysColorBrush(COLOR_3DLIGHT));
+    const RECT divisione{posto.data.right - 1, tutta.top, posto.data.right, tutta.bottom};
+    FillRect(dc, &divisione, GetSysColorBrush(COLOR_3DLIGHT));
+
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(testo));
+    const int rientro = 2 * margine_;
+    const auto riquadro = [&](const RECT& colonna, int riga_) {
+        RECT r = colonna;
+        r.left += rientro;
+        r.right -= rientro;
+        r.top += margine_ + riga_ * altezzaTesto_;
+        r.bottom = r.top + altezzaTesto_;
+        return r;
+    };
+    // A character is rarely narrower than a pixel: what is cut off here would not fit anyway.
+    const auto massimo =
+        static_cast<std::size_t>(std::max(1L, posto.contenuto.right - posto.contenuto.left));
+    scrivi(dc, normale_.get(), inUnaRiga(righe.cella(riga, 0), massimo), riquadro(posto.data, 0));
+    const auto contenuto = righe.contenuto(riga, massimo);
+    scrivi(dc, grassetto_.get(), contenuto.titolo, riquadro(posto.contenuto, 0));
+    scrivi(dc, normale_.get(), contenuto.descrizione, riquadro(posto.contenuto, 1));
+    if (posto.selezionata && posto.fuoco) {
+        RECT cornice = tutta;
+        --cornice.bottom;
+        DrawFocusRect(dc, &cornice);
+    }
+}
+
+int twipsInPixel(double twips, int asse) noexcept {
+    const ContestoSchermo schermo;
+    return static_cast<int>(std::ceil(twips * GetDeviceCaps(schermo.get(), asse) / 1440));
+}

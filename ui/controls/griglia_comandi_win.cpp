@@ -1,0 +1,280 @@
+// The grid's mouse and keys.
+
+#include "ui/controls/griglia_win.h"
+
+#include <windowsx.h>
+
+#include <commctrl.h>
+
+#include <utility>
+
+namespace {
+
+POINT puntoDi(LPARAM l) noexcept {
+    return {GET_X_LPARAM(l), GET_Y_LPARAM(l)};
+}
+
+POINT sulloSchermo(HWND hwnd, POINT punto) noexcept {
+    ClientToScreen(hwnd, &punto);
+    return punto;
+}
+
+bool premuto(int tasto) noexcept {
+    return GetKeyState(tasto) < 0;
+}
+
+// The left button, as the user knows it: the physical one is the right button of the left-handed.
+bool sinistroGiu() noexcept {
+    return premuto(VK_LBUTTON);
+}
+
+} // namespace
+
+LRESULT Griglia::inoltra(UINT codice, WPARAM w, LPARAM l) const noexcept {
+    return DefSubclassProc(lista_, codice, w, l);
+}
+
+LRESULT Griglia::messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) {
+    return hwnd == lista_ ? messaggioLista(codice, w, l) : messaggioTestata(codice, w, l);
+}
+
+LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
+    switch (codice) {
+    case WM_NCCALCSIZE: {
+        // The index column lies beyond the right edge, and no scroll bar leads there.
+        const LONG_PTR stile = GetWindowLongPtrW(lista_, GWL_STYLE);
+        if ((stile & WS_HSCROLL) != 0) {
+            SetWindowLongPtrW(lista_, GWL_STYLE, stile & ~WS_HSCROLL);
+        }
+        return inoltra(codice, w, l);
+    }
+    case WM_HSCROLL:
+    case WM_MOUSEHWHEEL:
+        return 0;
+    case WM_NOTIFY:
+        switch (reinterpret_cast<const NMHDR*>(l)->code) {
+        case HDN_BEGINTRACKA:
+        case HDN_BEGINTRACKW:
+            return TRUE;
+        case HDN_DIVIDERDBLCLICKA:
+        case HDN_DIVIDERDBLCLICKW:
+            return 0;
+        default:
+            return inoltra(codice, w, l);
+        }
+    case WM_LBUTTONDOWN:
+        premi(puntoDi(l));
+        return 0;
+    case WM_LBUTTONDBLCLK: {
+        const int riga = rigaA(puntoDi(l).y);
+        abbandona();
+        prendiFuoco();
+        seleziona(riga);
+        osservatore_.grigliaDoppioClic(riga < 0 ? 0 : riga);
+        return 0;
+    }
+    case WM_MOUSEMOVE:
+        if (premuto_) {
+            muovi(puntoDi(l));
+            return 0;
+        }
+        return inoltra(codice, w, l);
+    case WM_LBUTTONUP:
+        lascia();
+        return 0;
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK: {
+        const int riga = rigaA(puntoDi(l).y);
+        abbandona();
+        prendiFuoco();
+        seleziona(riga);
+        return 0;
+    }
+    case WM_RBUTTONUP:
+        osservatore_.grigliaMenu(sulloSchermo(lista_, puntoDi(l)));
+        return 0;
+    case WM_CONTEXTMENU:
+        if (l == -1) {
+            menuDaTastiera();
+        } else {
+            osservatore_.grigliaMenu(puntoDi(l));
+        }
+        return 0;
+    case WM_CAPTURECHANGED:
+    case WM_CANCELMODE:
+    case WM_KILLFOCUS:
+        abbandona();
+        return inoltra(codice, w, l);
+    case WM_MOUSEWHEEL: {
+        if ((LOWORD(w) & MK_SHIFT) != 0) {
+            return 0;
+        }
+        const LRESULT esito = inoltra(codice, w, l);
+        if (premuto_) {
+            segui(ultimo_);
+        }
+        return esito;
+    }
+    case WM_GETDLGCODE: {
+        const LRESULT esito = inoltra(codice, w, l);
+        return premuto_ ? esito | DLGC_WANTALLKEYS : esito;
+    }
+    case WM_KEYDOWN:
+        return tasto(codice, w, l);
+    case WM_CHAR:
+        // No search by typing: the first column is a date.
+        return 0;
+    default:
+        return inoltra(codice, w, l);
+    }
+}
+
+LRESULT Griglia::messaggioTestata(UINT codice, WPARAM w, LPARAM l) {
+    switch (codice) {
+    case WM_LBUTTONDOWN:
+        abbandona();
+        prendiFuoco();
+        return 0;
+    case WM_LBUTTONDBLCLK:
+        osservatore_.grigliaDoppioClic(0);
+        return 0;
+    case WM_RBUTTONDOWN:
+        abbandona();
+        prendiFuoco();
+        return 0;
+    case WM_RBUTTONUP:
+        osservatore_.grigliaMenu(sulloSchermo(testata_, puntoDi(l)));
+        return 0;
+    case WM_SETCURSOR:
+        SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+        return TRUE;
+    default:
+        return DefSubclassProc(testata_, codice, w, l);
+    }
+}
+
+void Griglia::prendiFuoco() const noexcept {
+    if (GetFocus() != lista_) {
+        SetFocus(lista_);
+    }
+}
+
+void Griglia::premi(POINT punto) {
+    const int riga = rigaA(punto.y);
+    abbandona();
+    // The control that loses the focus may show a box, and the button is up when it is gone.
+    prendiFuoco();
+    seleziona(riga);
+    if (riga < 1 || GetFocus() != lista_ || !sinistroGiu()) {
+        return;
+    }
+    SetCapture(lista_);
+    premuto_ = true;
+    pressione_ = punto;
+    ultimo_ = punto;
+    POINT nella = punto;
+    MapWindowPoints(lista_, hwnd(), &nella, 1);
+    if (iniziaTrascinamento(area(), nella.x, nella.y)) {
+        trascinamento_.premi(ElementoSelezionato());
+        puntatori_.mostra(puntatore());
+    }
+}
+
+void Griglia::muovi(POINT punto) {
+    // Windows repeats the last move when something under the pointer changes.
+    if (punto.x == ultimo_.x && punto.y == ultimo_.y) {
+        return;
+    }
+    if (!sinistroGiu()) {
+        abbandona();
+        return;
+    }
+    ultimo_ = punto;
+    POINT nella = punto;
+    MapWindowPoints(lista_, hwnd(), &nella, 1);
+    const int spostamento = nella.y - punto.y;
+    if (const int passo = passoScorrimento(area(), nella.y, pressione_.y + spostamento)) {
+        ListView_Scroll(lista_, 0, passo * altezzaRiga());
+    }
+    segui(punto);
+}
+
+void Griglia::segui(POINT punto) {
+    seleziona(rigaVicina(punto.y));
+    trascinamento_.segui(ElementoSelezionato());
+    if (trascinamento_.attivo()) {
+        puntatori_.mostra(puntatore());
+    }
+}
+
+void Griglia::lascia() {
+    const bool premutaQui = premuto_;
+    Trascinamento::Esito esito;
+    if (trascinamento_.attivo()) {
+        esito = trascinamento_.rilascia(ElementoSelezionato());
+        puntatori_.mostra(puntatore());
+    }
+    abbandona();
+    if (!premutaQui) {
+        return;
+    }
+    if (esito.sposta) {
+        const int cima = rigaInCima();
+        osservatore_.grigliaSposta(esito.da, esito.a);
+        rigaInCima(cima);
+    }
+    seleziona(esito.a >= 0 ? esito.a + 1 : rigaCorrente_);
+}
+
+void Griglia::abbandona() noexcept {
+    const bool attivo = trascinamento_.attivo();
+    trascinamento_.abbandona();
+    if (std::exchange(premuto_, false) && GetCapture() == lista_) {
+        ReleaseCapture();
+    }
+    if (attivo) {
+        puntatori_.mostra(Puntatore::Predefinito);
+    }
+}
+
+void Griglia::menuDaTastiera() {
+    POINT punto{altezzaTestata(), altezzaTestata()};
+    RECT r{};
+    if (visibile(rigaCorrente_) &&
+        ListView_GetItemRect(lista_, rigaCorrente_ - 1, &r, LVIR_BOUNDS)) {
+        punto.y = (r.top + r.bottom) / 2;
+    }
+    osservatore_.grigliaMenu(sulloSchermo(lista_, punto));
+}
+
+LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
+    if (premuto_) {
+        if (w == VK_ESCAPE) {
+            abbandona();
+        }
+        return 0;
+    }
+    switch (w) {
+    case VK_LEFT:
+    case VK_RIGHT:
+        return 0;
+    case VK_ADD:
+        // Would fit the columns to their texts.
+        if (premuto(VK_CONTROL)) {
+            return 0;
+        }
+        break;
+    default:
+        break;
+    }
+    if (osservatore_.grigliaTasto(static_cast<UINT>(w))) {
+        return 0;
+    }
+    // The list brings the row into sight after it has told the change: only then is it known
+    // whether it has to become the top row.
+    const bool prima = std::exchange(allineando_, true);
+    const LRESULT esito = inoltra(codice, w, l);
+    allineando_ = prima;
+    allinea();
+    return esito;
+}

@@ -1,0 +1,160 @@
+#pragma once
+
+#include "ui/controls/aspettoGriglia_win.h"
+#include "ui/controls/finestra_win.h"
+#include "ui/controls/puntatori_win.h"
+#include "ui/controls/righeGriglia.h"
+#include "ui/controls/sottoclasse_win.h"
+#include "ui/controls/trascinamento.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// What the grid tells its owner. Rows are the grid's: 0 is the header, r shows item r - 1. The
+// calls are the last thing the grid does for an event, so that a box may be shown in them.
+class OsservatoreGriglia {
+public:
+    OsservatoreGriglia() noexcept = default;
+    OsservatoreGriglia(const OsservatoreGriglia&) = delete;
+    OsservatoreGriglia& operator=(const OsservatoreGriglia&) = delete;
+    virtual ~OsservatoreGriglia() = default;
+
+    // A double click, on that row; 0 on the header and below the last row. Outside the header the
+    // row has become the current one.
+    virtual void grigliaDoppioClic(int riga) = 0;
+    // Another row is the current one.
+    virtual void grigliaRigaCambiata(int riga) = 0;
+    // A dragged item was released on another. The table has to be changed and the grid filled
+    // again; the grid then brings back its top row and selects the item's new row.
+    virtual void grigliaSposta(int da, int a) = 0;
+    // The context menu is asked for, at a point of the screen in pixels; the row that it speaks of
+    // is the current one.
+    virtual void grigliaMenu(POINT punto) = 0;
+    // A key went down (a VK_ code) while nothing is dragged; True when it is dealt with.
+    virtual bool grigliaTasto(UINT tasto) = 0;
+    // Called inside the catch of an exception that left one of the above: see `erroreCorrente`.
+    virtual void grigliaEccezione() noexcept = 0;
+};
+
+// The item grid: a list view that asks for its texts when it shows them, in a window of its own, so
+// that it lives in any parent without duties for it. One row is always the current one, and the
+// only one selected. The left button drags rows. GUI_win.h fills it.
+class Griglia final : public Finestra, private GestoreSottoclasse {
+public:
+    static constexpr const wchar_t* classe = L"OstrelleGriglia";
+
+    // Neither is owned; both must live as long.
+    Griglia(const TabellaElementi& tabella, OsservatoreGriglia& osservatore);
+    Griglia(const Griglia&) = delete;
+    Griglia& operator=(const Griglia&) = delete;
+    ~Griglia() override;
+
+    // Makes the windows, `posto` in pixels of the parent (left, top, width, height). `nome` is the
+    // name that assistive programs give the list. Raises the run-time error of a failure.
+    void creaIn(HWND padre, int id, const wchar_t* nome, const RECT& posto);
+
+    // The list view itself.
+    [[nodiscard]] HWND lista() const noexcept { return lista_; }
+    [[nodiscard]] const RigheGriglia& righe() const noexcept { return righe_; }
+
+    // Only the header is left, with these captions; no row is the current one.
+    void intesta(std::vector<std::wstring> titoli, int colonne);
+    // Widths in twips by `larghezzeColonne`, kept up with the grid's own width from here on.
+    void allarga(std::optional<double> primaLarghezza);
+    void elenca(const ClsUTC& utc, FormatoLocale formato);
+    void completa();
+
+    // The current row; 0 when there is none.
+    [[nodiscard]] int rigaCorrente() const noexcept { return rigaCorrente_; }
+    // The item of the current row, or -1.
+    [[nodiscard]] int ElementoSelezionato() const noexcept {
+        return righe_.elemento(rigaCorrente_);
+    }
+    // Makes a row the current and selected one; when no part of it was visible it becomes the top
+    // row (the rows below permitting). A row outside the grid changes nothing.
+    void seleziona(int riga);
+    // The first row in sight under the header, at least 1.
+    [[nodiscard]] int rigaInCima() const noexcept;
+    void rigaInCima(int riga) noexcept;
+    [[nodiscard]] bool visibile(int riga) const noexcept;
+
+    // 0, 12 or 99, and the item being dragged, or -1.
+    [[nodiscard]] Puntatore puntatore() const noexcept { return trascinamento_.puntatore(); }
+    [[nodiscard]] int trascinato() const noexcept { return trascinamento_.trascinato(); }
+    // Gives up a drag, if there is one; for a command that begins during it.
+    void abbandona() noexcept;
+
+    // Fonts and metrics read anew, after the user changed them.
+    void aggiornaAspetto();
+
+    // While one lives, the grid does not redraw. They nest.
+    class Sospensione {
+    public:
+        explicit Sospensione(Griglia& griglia) noexcept;
+        Sospensione(const Sospensione&) = delete;
+        Sospensione& operator=(const Sospensione&) = delete;
+        ~Sospensione();
+
+    private:
+        Griglia& griglia_;
+    };
+
+private:
+    LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
+    LRESULT messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) override;
+    void onEccezione() noexcept override { osservatore_.grigliaEccezione(); }
+
+    void creaLista();
+    void disponi();
+    void applicaLarghezze();
+    LRESULT notifica(NMHDR& avviso);
+    void disegna(const DRAWITEMSTRUCT& disegno) const;
+    LRESULT messaggioLista(UINT codice, WPARAM w, LPARAM l);
+    LRESULT messaggioTestata(UINT codice, WPARAM w, LPARAM l);
+    LRESULT inoltra(UINT codice, WPARAM w, LPARAM l) const noexcept;
+
+    void prendiFuoco() const noexcept;
+    void premi(POINT punto);
+    void muovi(POINT punto);
+    void segui(POINT punto);
+    void lascia();
+    void menuDaTastiera();
+    LRESULT tasto(UINT codice, WPARAM w, LPARAM l);
+    // The row whose focus or selection the list changed by itself becomes the current one.
+    void allinea();
+    void numeroRighe() noexcept;
+
+    [[nodiscard]] int altezzaRiga() const noexcept;
+    [[nodiscard]] int altezzaTestata() const noexcept;
+    // The row at a height of the list; 0 on the header, -1 below the last row.
+    [[nodiscard]] int rigaA(int y) const noexcept;
+    // The same for a pointer that may be anywhere: the nearest row in sight.
+    [[nodiscard]] int rigaVicina(int y) const noexcept;
+    [[nodiscard]] AreaRighe area() const noexcept;
+
+    RigheGriglia righe_;
+    OsservatoreGriglia& osservatore_;
+    AspettoGriglia aspetto_;
+    Puntatori puntatori_;
+    Trascinamento trascinamento_;
+    std::wstring nome_;
+    HWND lista_ = nullptr;
+    HWND testata_ = nullptr;
+    Sottoclasse sottoclasseLista_;
+    Sottoclasse sottoclasseTestata_;
+
+    std::optional<double> primaLarghezza_;
+    int larghezza_ = -1;
+    int rigaCorrente_ = 0;
+    int sospensioni_ = 0;
+    // True while the grid itself changes the list's states, or the list works on a key: what the
+    // list tells then is looked at afterwards.
+    bool allineando_ = false;
+    // The left button is down since a press on a row: the current row follows the pointer.
+    bool premuto_ = false;
+    POINT pressione_{};
+    POINT ultimo_{};
+};

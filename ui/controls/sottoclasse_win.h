@@ -1,0 +1,35 @@
+#pragma once
+
+#include <windows.h>
+
+// Who sees the messages of another window before that window does.
+class GestoreSottoclasse {
+public:
+    GestoreSottoclasse() noexcept = default;
+    GestoreSottoclasse(const GestoreSottoclasse&) = delete;
+    GestoreSottoclasse& operator=(const GestoreSottoclasse&) = delete;
+    virtual ~GestoreSottoclasse() = default;
+
+    // Answers a message; what it does not care for goes to DefSubclassProc.
+    virtual LRESULT messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) = 0;
+    // Called inside the catch of an exception that left `messaggioDi`: see `erroreCorrente`.
+    virtual void onEccezione() noexcept = 0;
+};
+
+// The subclassing of one window by one handler, for the life of this object or of the window,
+// whichever ends first. The handler is not owned and must live as long.
+class Sottoclasse {
+public:
+    Sottoclasse() noexcept = default;
+    // Raises error 7 when the window cannot be subclassed (another thread's, or no memory).
+    Sottoclasse(HWND hwnd, GestoreSottoclasse& gestore);
+    Sottoclasse(const Sottoclasse&) = delete;
+    Sottoclasse(Sottoclasse&& altra) noexcept;
+    Sottoclasse& operator=(const Sottoclasse&) = delete;
+    Sottoclasse& operator=(Sottoclasse&& altra) noexcept;
+    ~Sottoclasse();
+
+private:
+    HWND hwnd_ = nullptr;
+    GestoreSottoclasse* gestore_ = nullptr;
+};

@@ -1,0 +1,337 @@
+#include "ui/main/FrmMain_win.h"
+
+#include "datetime/ClsUTC.h"
+#include "res/risorse.h"
+#include "support/ClsCodaEliminazione.h"
+#include "support/ClsSizerImg.h"
+#include "support/file_win.h"
+#include "support/koUtilita.h"
+#include "support/messaggi.h"
+#include "support/orologio.h"
+#include "support/prodotto.h"
+#include "support/testo.h"
+#include "support/xml_win.h"
+#include "ui/main/guardia_win.h"
+#include "ui/main/menu_win.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr const wchar_t* classe = L"OstrelleFrmMain";
+
+// The size the window opens with, and its parts, in pixels at 96 dpi.
+constexpr int larghezzaIniziale = 1000;
+constexpr int altezzaIniziale = 700;
+constexpr int larghezzaPicCmd = 124;
+constexpr int altezzaPulsante = 26;
+constexpr int larghezzaPannelloDimensioni = 110;
+
+constexpr double twipsAlPollice = 1440;
+
+struct Dpi {
+    int x = 96;
+    int y = 96;
+};
+
+Dpi dpiDi(HWND finestra) noexcept {
+    Dpi dpi;
+    if (const HDC dc = GetDC(finestra)) {
+        dpi = {GetDeviceCaps(dc, LOGPIXELSX), GetDeviceCaps(dc, LOGPIXELSY)};
+        ReleaseDC(finestra, dc);
+    }
+    return dpi;
+}
+
+} // namespace
+
+bool FrmMain::Form_Initialize(Messaggi& messaggi) {
+    if (parserXmlPresente()) {
+        return true;
+    }
+    messaggi.avvisa(L"Per poter utilizzare il programma è necessario che sul sistema sia presente "
+                    L"il Parser Microsoft XML 3.0 o versione successiva (msxml3.dll). E' possibile "
+                    L"scaricare liberamente tale componente dal sito della Microsoft (" +
+                        std::wstring(prodotto::sitoParser) + L")",
+                    L"Attenzione", Icona::Informazione);
+    return false;
+}
+
+FrmMain::FrmMain(const Servizi& servizi)
+    : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this),
+      griglia_(elementi_, *this),
+      documento_(servizi, *this, stato_, campi_, elementi_, recenti_),
+      ultimaData_(servizi.orologio.adesso().locale) {}
+
+void FrmMain::apri(int comeMostrare) {
+    WNDCLASSEXW descrizione{};
+    descrizione.lpszClassName = classe;
+    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    descrizione.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_OSTRELLE));
+    descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    registra(descrizione);
+
+    ManigliaMenu menu = creaBarraMenu();
+    const Dpi dpi = dpiDi(nullptr);
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const int larghezza = std::min<int>(MulDiv(larghezzaIniziale, dpi.x, 96), area.right - area.left);
+    const int altezza = std::min<int>(MulDiv(altezzaIniziale, dpi.y, 96), area.bottom - area.top);
+    const int sinistra = area.left + (area.right - area.left - larghezza) / 2;
+    const int alto = area.top + (area.bottom - area.top - altezza) / 2;
+    crea(classe, std::wstring(prodotto::titolo).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+         WS_EX_CONTROLPARENT, RECT{sinistra, alto, sinistra + larghezza, alto + altezza}, nullptr,
+         menu.get());
+    static_cast<void>(menu.cedi()); // the window's from here on
+    ShowWindow(hwnd(), comeMostrare);
+    UpdateWindow(hwnd());
+}
+
+int FrmMain::cicloMessaggi() {
+    MSG msg{};
+    while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
+        smista(msg);
+    }
+    return static_cast<int>(msg.wParam);
+}
+
+void FrmMain::smista(MSG& msg) {
+    if (hwnd() != nullptr && IsDialogMessageW(hwnd(), &msg)) {
+        return;
+    }
+    TranslateMessage(&msg);
+    DispatchMessageW(&msg);
+}
+
+LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
+    switch (codice) {
+    case WM_CREATE:
+        creaControlli();
+        Form_Load();
+        return 0;
+    case WM_SIZE:
+        SendMessageW(statusBar_, WM_SIZE, w, l);
+        DisponiFinestra();
+        return 0;
+    case WM_COMMAND:
+        esegui(LOWORD(w));
+        return 0;
+    case WM_CLOSE:
+        if (Form_QueryUnload()) {
+            distruggi();
+        }
+        return 0;
+    case WM_QUERYENDSESSION:
+        return Form_QueryUnload() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+        if (w != FALSE) {
+            // The process does not come back from here: what goes at its end goes now.
+            servizi_.coda.CancellaFile();
+        }
+        return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(w) == WA_INACTIVE) {
+            fuoco_ = GetFocus();
+            return 0;
+        }
+        break;
+    case WM_SETFOCUS:
+        SetFocus(IsChild(hwnd(), fuoco_) ? fuoco_ : GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
+        return 0;
+    case WM_ERASEBKGND: {
+        const LRESULT esito = predefinito(codice, w, l);
+        sfondo_.disegna(reinterpret_cast<HDC>(w));
+        return esito;
+    }
+    case WM_DESTROY:
+        Form_Unload();
+        PostQuitMessage(0);
+        return 0;
+    default:
+        break;
+    }
+    return predefinito(codice, w, l);
+}
+
+void FrmMain::creaControlli() {
+    campi_.crea(IDD_FRADATI, hwnd());
+    const auto carattere = reinterpret_cast<HFONT>(SendMessageW(campi_.hwnd(), WM_GETFONT, 0, 0));
+    const Dpi dpi = dpiDi(hwnd());
+    griglia_.creaIn(hwnd(), IDC_GRIGLIA, L"Elementi", RECT{});
+    striscia_.altezzaPulsante(MulDiv(altezzaPulsante, dpi.y, 96));
+    striscia_.crea(hwnd(), carattere);
+    statusBar_ = CreateWindowExW(0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP,
+                                 0, 0, 0, 0, hwnd(),
+                                 reinterpret_cast<HMENU>(UINT_PTR{IDC_STATUSBAR}),
+                                 GetModuleHandleW(nullptr), nullptr);
+    if (statusBar_ == nullptr) {
+        sollevaWin32();
+    }
+}
+
+void FrmMain::Form_Load() {
+    const ClsUTC utc(servizi_.orologio.adesso(), formatoUtente());
+    ImpostaStato(utc.GetDataUtc(utc.adessoLocale(), true));
+    NuovoDocumento();
+    std::wstring cartella = cartellaProgramma();
+    sfondo_ = GUI::ApplicaSfondo(koUtilita::AggiungiSepDir(cartella));
+    CaricaRecenti();
+}
+
+bool FrmMain::Form_QueryUnload() {
+    // A dialog of ours is up, over a command that is not finished.
+    if (occupata_) {
+        return false;
+    }
+    bool chiudere = false;
+    occupata_ = true;
+    protetto(
+        [&] {
+            campi_.confermaNumeri();
+            chiudere = documento_.ChiediSalvataggio();
+        },
+        [&] { MostraErrore(); });
+    occupata_ = false;
+    return chiudere;
+}
+
+void FrmMain::Form_Unload() noexcept {
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND altra, LPARAM questa) noexcept -> BOOL {
+            if (GetWindow(altra, GW_OWNER) == reinterpret_cast<HWND>(questa)) {
+                DestroyWindow(altra);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(hwnd()));
+}
+
+void FrmMain::ImpostaTitolo(std::wstring_view nome) {
+    SetWindowTextW(hwnd(), stato_.ImpostaTitolo(nome).c_str());
+}
+
+void FrmMain::ImpostaStato(std::wstring_view testo) {
+    SendMessageW(statusBar_, SB_SETTEXTW, 0,
+                 reinterpret_cast<LPARAM>(std::wstring(rifila(testo)).c_str()));
+}
+
+void FrmMain::NuovoDocumento() {
+    campi_.Svuota(servizi_.orologio.adesso().locale);
+    elementi_.svuota();
+    ImpostaTitolo(StatoDocumento::nuovoDocumento);
+    RiempiGriglia(true);
+    // Last: the changes made above are not the user's.
+    stato_.modificato(false);
+}
+
+void FrmMain::RiempiGriglia(bool soloIntestazioni) {
+    GUI::RiempiGriglia(griglia_, soloIntestazioni);
+}
+
+void FrmMain::CaricaRecenti() {
+    recenti_.CaricaRecenti();
+    mostraRecenti(GetMenu(hwnd()), recenti_.voci());
+}
+
+void FrmMain::MostraErrore() {
+    const Errore errore = erroreCorrente();
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    servizi_.messaggi.avvisa(errore.descrizione(),
+                             L"Errore n° " + std::to_wstring(errore.numero()), Icona::Critica);
+}
+
+void FrmMain::riportaErrore() noexcept {
+    try {
+        MostraErrore();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
+    }
+}
+
+void FrmMain::esegui(int id) {
+    if (occupata_) {
+        return;
+    }
+    occupata_ = true;
+    protetto(
+        [&] {
+            // A command does not move the focus: what it saves must be within the limits already.
+            campi_.confermaNumeri();
+            comando(id);
+        },
+        [&] { MostraErrore(); });
+    occupata_ = false;
+    if (id == mnChiudi) {
+        SendMessageW(hwnd(), WM_CLOSE, 0, 0);
+    }
+}
+
+void FrmMain::comando(int id) {
+    switch (id) {
+    case mnNuovo:
+        documento_.mnNuovo_Click();
+        break;
+    case mnApri:
+        documento_.Apri(L"");
+        break;
+    case mnsalva:
+        documento_.Salva(false);
+        break;
+    case mnSalvaCon:
+        documento_.Salva(true);
+        break;
+    case mnAggiorna:
+        RiempiGriglia(false);
+        break;
+    default:
+        if (id > mnrec && id <= ultimoRecente) {
+            // A copy: the list is read anew while the file opens.
+            const std::wstring percorso = recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
+            documento_.Apri(percorso);
+        }
+        break;
+    }
+}
+
+void FrmMain::DisponiFinestra() {
+    const Dpi dpi = dpiDi(hwnd());
+    const double twipsX = twipsAlPollice / dpi.x;
+    const double twipsY = twipsAlPollice / dpi.y;
+    RECT interno{};
+    RECT stato{};
+    RECT esterno{};
+    GetClientRect(hwnd(), &interno);
+    GetClientRect(statusBar_, &stato);
+    GetWindowRect(hwnd(), &esterno);
+
+    MisureFinestra misure{};
+    misure.larghezzaInterna = interno.right * twipsX;
+    misure.altezzaInterna = interno.bottom * twipsY;
+    misure.altezzaStato = stato.bottom * twipsY;
+    misure.altoDati = margineTwips;
+    misure.larghezzaPicCmd = MulDiv(larghezzaPicCmd, dpi.x, 96) * twipsX;
+    campi_.misura(misure, twipsX, twipsY);
+
+    const Disposizione disposizione = DisponiControlli(misure);
+    campi_.disponi(disposizione, twipsX, twipsY);
+    const auto sposta = [&](HWND controllo, const std::optional<Riquadro>& r) {
+        if (r) {
+            SetWindowPos(controllo, nullptr, aPixel(r->sinistra, twipsX), aPixel(r->alto, twipsY),
+                         aPixel(r->larghezza, twipsX), aPixel(r->altezza, twipsY),
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+        }
+    };
+    sposta(griglia_.hwnd(), disposizione.griglia);
+    sposta(striscia_.hwnd(), disposizione.picCmd);
+
+    const std::array<int, 2> pannelli{
+        static_cast<int>(interno.right) - MulDiv(larghezzaPannelloDimensioni, dpi.x, 96), -1};
+    SendMessageW(statusBar_, SB_SETPARTS, pannelli.size(),
+                 reinterpret_cast<LPARAM>(pannelli.data()));
+    const std::wstring dimensioni = L"(" + std::to_wstring(esterno.right - esterno.left) + L"," +
+                                    std::to_wstring(esterno.bottom - esterno.top) + L")";
+    SendMessageW(statusBar_, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(dimensioni.c_str()));
+}

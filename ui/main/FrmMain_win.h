@@ -1,0 +1,97 @@
+#pragma once
+
+#include "document/tabellaElementi.h"
+#include "support/maniglie_win.h"
+#include "ui/controls/finestra_win.h"
+#include "ui/controls/griglia_win.h"
+#include "ui/main/GUI_win.h"
+#include "ui/main/campiCanale_win.h"
+#include "ui/main/comandi.h"
+#include "ui/main/comandiDocumento_win.h"
+#include "ui/main/recenti.h"
+#include "ui/main/servizi.h"
+#include "ui/main/statoDocumento.h"
+#include "ui/main/strisciaComandi_win.h"
+
+#include <string>
+#include <string_view>
+
+// The program's only main window and the owner of the document. Composes what the fields, the grid
+// and the commands do; holds no rule of theirs.
+class FrmMain final : public Finestra,
+                      private ProprietarioCampi,
+                      private FinestraDocumento,
+                      private OsservatoreGriglia {
+public:
+    // False, after a message, when the system has no XML parser: the program then ends without
+    // ever showing a window.
+    [[nodiscard]] static bool Form_Initialize(Messaggi& messaggi);
+
+    explicit FrmMain(const Servizi& servizi);
+    ~FrmMain() override { distruggi(); }
+
+    // Makes the window (Form_Load runs) and shows it. Raises the failure to make it.
+    void apri(int comeMostrare);
+
+    // Runs messages until the window is gone; gives the program's exit code.
+    int cicloMessaggi();
+
+    // One message on its way: accelerators, then the dialog keys, then the rest.
+    void smista(MSG& messaggio);
+
+    void ImpostaTitolo(std::wstring_view nome) override;
+    void ImpostaStato(std::wstring_view testo);
+    void ImpostaModificato() noexcept override { stato_.modificato(true); }
+    void NuovoDocumento() override;
+    void RiempiGriglia(bool soloIntestazioni) override;
+    void CaricaRecenti() override;
+    void MostraErrore() override;
+
+    // Runs a command as menu, toolbar and keys do. Ignored while another one is at work: a message
+    // box or a file dialog runs messages of its own.
+    void esegui(int comando);
+
+    [[nodiscard]] const StatoDocumento& stato() const noexcept { return stato_; }
+    [[nodiscard]] CampiCanale& campi() noexcept { return campi_; }
+    [[nodiscard]] TabellaElementi& elementi() noexcept { return elementi_; }
+    [[nodiscard]] Griglia& griglia() noexcept { return griglia_; }
+    [[nodiscard]] ComandiDocumento& documento() noexcept { return documento_; }
+    // The date a new item is proposed with.
+    [[nodiscard]] DataOra ultimaData() const noexcept { return ultimaData_; }
+
+private:
+    LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
+    void onEccezione() noexcept override { riportaErrore(); }
+    void riportaErrore() noexcept override;
+    void cmdGetSize_Click() override;
+
+    void grigliaDoppioClic(int riga) override;
+    void grigliaRigaCambiata(int riga) override;
+    void grigliaSposta(int da, int a) override;
+    void grigliaMenu(POINT punto) override;
+    bool grigliaTasto(UINT tasto) override;
+    void grigliaEccezione() noexcept override { riportaErrore(); }
+
+    void Form_Load();
+    // False cancels the close.
+    [[nodiscard]] bool Form_QueryUnload();
+    void Form_Unload() noexcept;
+
+    void creaControlli();
+    void comando(int id);
+    void DisponiFinestra();
+
+    Servizi servizi_;
+    StatoDocumento stato_;
+    TabellaElementi elementi_;
+    ElencoRecenti recenti_;
+    CampiCanale campi_;
+    Griglia griglia_;
+    Sfondo sfondo_;
+    StrisciaComandi striscia_;
+    ComandiDocumento documento_;
+    DataOra ultimaData_;
+    HWND statusBar_ = nullptr;
+    HWND fuoco_ = nullptr;
+    bool occupata_ = false;
+};

@@ -1,0 +1,213 @@
+#include "ui/main/campiCanale_win.h"
+
+#include "support/errore.h"
+#include "support/testo.h"
+
+#include "res/risorse.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+namespace {
+
+// In the order of CampoCanale.
+constexpr std::array<int, CampiCanale::numeroTesti> controlliTesto{
+    IDC_TXTTITOLO,    IDC_TXTLINKHOME, IDC_TXTDESCRIZIONE, IDC_CBOLINGUA, IDC_TXTCOPYRIGHT,
+    IDC_TXTWEBMASTER, IDC_TXTLOGO,     IDC_TXTURL,         IDC_TXTLINKIMG};
+
+constexpr std::array<int, 3> campiImmagine{IDC_TXTLOGO, IDC_TXTURL, IDC_TXTLINKIMG};
+
+constexpr double massimoPixel = 10000;
+
+// Runs one assignment of the reset; a control that refuses it does not stop the others.
+template <class Azione>
+void ignorando(Azione azione) noexcept {
+    try {
+        azione();
+    } catch (const Errore&) { // NOLINT(bugprone-empty-catch): the reset passes over failures
+    }
+}
+
+} // namespace
+
+bool CampiCanale::inizializza() {
+    for (std::size_t i = 0; i < numeroTesti; ++i) {
+        testi_[i] = CampoTesto(controllo(controlliTesto[i]));
+    }
+    // The user may type any other code.
+    ComboBox_AddString(controllo(IDC_CBOLINGUA), L"it");
+    txtData_ = SelettoreData(controllo(IDC_TXTDATA), SelettoreData::Parte::Data);
+    txtOrario_ = SelettoreData(controllo(IDC_TXTORARIO), SelettoreData::Parte::Ora);
+    // No label of its own stands before it: screen readers take the window's text.
+    SetWindowTextW(controllo(IDC_TXTORARIO), L"Ora:");
+    for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
+        numero->CifreDecimali(0);
+        numero->Massimo(massimoPixel);
+        numero->osservatore(this);
+    }
+    suggerimento(IDC_LBLURL, L"URL (Percorso)");
+    suggerimento(IDC_LBLLARGHEZZA, L"Larghezza in pixels");
+    suggerimento(IDC_LBLALTEZZA, L"Altezza in pixels");
+    return false;
+}
+
+void CampiCanale::suggerimento(int etichetta, const wchar_t* testo) {
+    if (suggerimenti_ == nullptr) {
+        // Owned by the frame's window and destroyed with it.
+        suggerimenti_ = CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
+                                        0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr);
+    }
+    std::wstring modificabile(testo);
+    TTTOOLINFOW info{};
+    info.cbSize = TTTOOLINFOW_V1_SIZE;
+    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    info.hwnd = hwnd();
+    info.uId = reinterpret_cast<UINT_PTR>(controllo(etichetta));
+    info.lpszText = modificabile.data();
+    SendMessageW(suggerimenti_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
+    if (msg == WM_COMMAND) {
+        const int id = LOWORD(wParam);
+        const UINT codice = HIWORD(wParam);
+        if (id == IDC_CMDGETSIZE && codice == BN_CLICKED) {
+            proprietario_.cmdGetSize_Click();
+            return TRUE;
+        }
+        const auto* const campo = std::ranges::find(controlliTesto, id);
+        if (campo == controlliTesto.end()) {
+            return FALSE;
+        }
+        CampoTesto& testo = testi_[static_cast<std::size_t>(campo - controlliTesto.begin())];
+        const bool combo = id == IDC_CBOLINGUA;
+        if ((codice == (combo ? CBN_EDITCHANGE : EN_CHANGE) && testo.cambiato()) ||
+            (combo && codice == CBN_SELCHANGE && testo.sceltoDiverso())) {
+            proprietario_.ImpostaModificato();
+        }
+        return TRUE;
+    }
+    if (msg == WM_NOTIFY) {
+        const auto* const notifica = reinterpret_cast<const NMHDR*>(lParam);
+        if (notifica->code == DTN_DATETIMECHANGE) {
+            SelettoreData& selettore = notifica->idFrom == IDC_TXTDATA ? txtData_ : txtOrario_;
+            if (selettore.cambiato()) {
+                proprietario_.ImpostaModificato();
+            }
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+void CampiCanale::CambioValore(KOInputNumerico& /*controllo*/, double /*valore*/) {
+    proprietario_.ImpostaModificato();
+}
+
+std::wstring CampiCanale::testo(CampoCanale campo) const {
+    return testi_[static_cast<std::size_t>(campo)].testo();
+}
+
+void CampiCanale::testo(CampoCanale campo, std::wstring_view valore) {
+    if (testi_[static_cast<std::size_t>(campo)].testo(valore)) {
+        proprietario_.ImpostaModificato();
+    }
+}
+
+DataOra CampiCanale::dataOra() const {
+    return combina(txtData_, txtOrario_);
+}
+
+void CampiCanale::dataOra(DataOra valore) {
+    for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
+        if (selettore->valore(valore)) {
+            proprietario_.ImpostaModificato();
+        }
+    }
+}
+
+KOInputNumerico& CampiCanale::txtLarghezza() const {
+    return *KOInputNumerico::da(controllo(IDC_TXTLARGHEZZA));
+}
+
+KOInputNumerico& CampiCanale::txtAltezza() const {
+    return *KOInputNumerico::da(controllo(IDC_TXTALTEZZA));
+}
+
+bool CampiCanale::vuoti() const {
+    return std::ranges::all_of(
+        testi_, [](const CampoTesto& campo) { return rifila(campo.testo()).empty(); });
+}
+
+void CampiCanale::Svuota(DataOra adesso) noexcept {
+    for (std::size_t i = 0; i < numeroTesti; ++i) {
+        ignorando([&] { testo(static_cast<CampoCanale>(i), L""); });
+    }
+    tag_.clear();
+    for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
+        ignorando([&] {
+            if (selettore->valore(adesso)) {
+                proprietario_.ImpostaModificato();
+            }
+        });
+    }
+    ignorando([&] { txtLarghezza().Valore(0); });
+    ignorando([&] { txtAltezza().Valore(0); });
+}
+
+void CampiCanale::confermaNumeri() {
+    const HWND fuoco = GetFocus();
+    for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
+        if (fuoco != nullptr && IsChild(numero->hwnd(), fuoco)) {
+            numero->conferma();
+        }
+    }
+}
+
+RECT CampiCanale::rettangolo(int id) const noexcept {
+    RECT r{};
+    GetWindowRect(controllo(id), &r);
+    MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&r), 2);
+    return r;
+}
+
+void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) const {
+    const RECT logo = rettangolo(IDC_TXTLOGO);
+    const RECT titolo = rettangolo(IDC_TXTTITOLO);
+    const RECT numero = rettangolo(IDC_TXTLARGHEZZA);
+    const RECT pulsante = rettangolo(IDC_CMDGETSIZE);
+    RECT dati{};
+    GetClientRect(hwnd(), &dati);
+    misure.sinistraLogo = logo.left * twipsX;
+    misure.larghezzaTitolo = (titolo.right - titolo.left) * twipsX;
+    misure.larghezzaLogo = (logo.right - logo.left) * twipsX;
+    misure.altoLarghezza = numero.top * twipsY;
+    misure.altezzaGetSize = (pulsante.bottom - pulsante.top) * twipsY;
+    misure.altezzaDati = dati.bottom * twipsY;
+    misure.larghezzaDati = dati.right * twipsX;
+}
+
+void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, double twipsY) {
+    const auto pixelX = [&](double twips) { return aPixel(twips, twipsX); };
+    const auto pixelY = [&](double twips) { return aPixel(twips, twipsY); };
+    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE;
+    if (const auto& r = disposizione.fraDati) {
+        SetWindowPos(hwnd(), nullptr, pixelX(r->sinistra), pixelY(r->alto), pixelX(r->larghezza),
+                     pixelY(r->altezza), fermo);
+        SetWindowPos(controllo(IDC_FRADATI), nullptr, 0, 0, pixelX(r->larghezza),
+                     pixelY(r->altezza), fermo);
+    }
+    if (disposizione.larghezzaImmagine) {
+        for (const int id : campiImmagine) {
+            const RECT r = rettangolo(id);
+            SetWindowPos(controllo(id), nullptr, 0, 0, pixelX(*disposizione.larghezzaImmagine),
+                         r.bottom - r.top, fermo | SWP_NOMOVE);
+        }
+    }
+    if (const auto& r = disposizione.cmdGetSize) {
+        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, pixelX(r->sinistra), pixelY(r->alto),
+                     pixelX(r->larghezza), pixelY(r->altezza), fermo);
+    }
+}
