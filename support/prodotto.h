@@ -12,6 +12,7 @@ inline constexpr std::wstring_view titolo = L"Ostrelle";
 
 // Without a trailing "/": pages of the site are appended with theirs.
 inline constexpr std::wstring_view sito = L"https://www.quorvex.example";
+inline constexpr std::wstring_view autore = L"Gli autori di Ostrelle";
 inline constexpr std::wstring_view postaAutore = L"autore@quorvex.example";
 
 // Follows the title in the feed's comment, with the blank between them.

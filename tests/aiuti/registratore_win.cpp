@@ -44,8 +44,12 @@ void rimetti(const std::wstring& classe) {
     }
 }
 
+std::wstring eseguibile() {
+    return cartellaProgramma() + L"\\registratore.exe";
+}
+
 std::wstring comandoRegistratore() {
-    return L'"' + cartellaProgramma() + L"\\registratore.exe\" \"%1\"";
+    return L'"' + eseguibile() + L"\" \"%1\"";
 }
 
 } // namespace
@@ -61,6 +65,10 @@ Registratore::Registratore()
 Registratore::~Registratore() {
     std::ranges::for_each(classi_, rimetti);
     SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+void Registratore::copiaIn(const std::wstring& percorso) {
+    ASSERT_TRUE(CopyFileW(eseguibile().c_str(), percorso.c_str(), TRUE));
 }
 
 void Registratore::salva(const std::wstring& classe) {
@@ -121,11 +129,13 @@ Registratore::Lancio Registratore::attendi() {
     }
     const auto primo = riga.find('\t');
     const auto secondo = riga.find('\t', primo + 1);
-    std::wstring comando = daUtf8(riga.substr(0, primo));
-    // "program" "target"
-    const auto inizio = comando.find(L'"', 1) + 3;
-    EXPECT_GT(comando.size(), inizio) << riga;
-    return {comando.size() > inizio ? comando.substr(inizio, comando.size() - 1 - inizio) : L"",
+    // "program" or "program" "target"
+    const std::wstring comando = daUtf8(riga.substr(0, primo));
+    const auto virgolette = comando.find(L'"', 1);
+    EXPECT_NE(virgolette, std::wstring::npos) << riga;
+    const bool conArgomento = comando.size() > virgolette + 3;
+    return {comando.substr(1, virgolette - 1),
+            conArgomento ? comando.substr(virgolette + 3, comando.size() - virgolette - 4) : L"",
             daUtf8(riga.substr(primo + 1, secondo - primo - 1)),
             std::stoi(riga.substr(secondo + 1))};
 }

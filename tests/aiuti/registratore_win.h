@@ -17,7 +17,8 @@ inline constexpr const wchar_t* variabileRegistrazione = L"OSTRELLE_REGISTRAZION
 class Registratore {
 public:
     struct Lancio {
-        std::wstring obiettivo; // exactly what stood for %1
+        std::wstring programma; // as the command line names it, without its quotes
+        std::wstring obiettivo; // exactly what stood for %1; empty where there was no argument
         std::wstring cartella;  // the working folder
         int stato;              // the show state
     };
@@ -26,6 +27,9 @@ public:
     Registratore(const Registratore&) = delete;
     Registratore& operator=(const Registratore&) = delete;
     ~Registratore();
+
+    // Puts the recorder itself where a program is looked for.
+    static void copiaIn(const std::wstring& percorso);
 
     // A file extension, with its dot; a protocol, without ":".
     void tipo(const std::wstring& estensione);

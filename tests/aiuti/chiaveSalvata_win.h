@@ -1,0 +1,28 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+// A key of the registry that a test has for itself: missing at first; at the end of the object's
+// life what was there comes back. Keys under HKEY_LOCAL_MACHINE are the whole prefix's: use them
+// in tests that run one at a time.
+class ChiaveSalvata {
+public:
+    ChiaveSalvata(HKEY radice, std::wstring nome);
+    ChiaveSalvata(const ChiaveSalvata&) = delete;
+    ChiaveSalvata& operator=(const ChiaveSalvata&) = delete;
+    ~ChiaveSalvata();
+
+    [[nodiscard]] const std::wstring& nome() const noexcept { return nome_; }
+
+    // A string value; its end is marked.
+    void testo(const std::wstring& valore, const std::wstring& contenuto) const;
+    // A value of any type with exactly these bytes.
+    void grezzo(const std::wstring& valore, DWORD tipo, std::string_view byte) const;
+
+private:
+    HKEY radice_;
+    std::wstring nome_;
+};

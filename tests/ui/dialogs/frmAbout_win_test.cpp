@@ -1,0 +1,285 @@
+#include "ui/dialogs/frmAbout_win.h"
+
+#include "res/risorse.h"
+#include "support/prodotto.h"
+#include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/schermo_win.h"
+
+#include <optional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The box beside the test, so that the test can look at it and press keys.
+class FrmAboutAperta : public testing::Test {
+protected:
+    void SetUp() override {
+        about.crea(IDD_FRMABOUT, nullptr);
+        ShowWindow(about.hwnd(), SW_SHOW);
+        portaAvanti(about.hwnd());
+        UpdateWindow(about.hwnd());
+        ASSERT_EQ(fuoco(), IDOK);
+    }
+
+    [[nodiscard]] HWND controllo(int id) const { return GetDlgItem(about.hwnd(), id); }
+    [[nodiscard]] std::wstring testo(int id) const { return testoDi(controllo(id)); }
+    [[nodiscard]] static int fuoco() { return GetDlgCtrlID(GetFocus()); }
+    [[nodiscard]] RECT posto(int id) const {
+        RECT r{};
+        GetWindowRect(controllo(id), &r);
+        MapWindowPoints(nullptr, about.hwnd(), reinterpret_cast<POINT*>(&r), 2);
+        return r;
+    }
+    // The colours of a control as the screen shows them.
+    [[nodiscard]] std::vector<COLORREF> colori(int id) const {
+        RECT r{};
+        GetWindowRect(controllo(id), &r);
+        const HDC schermo = GetDC(nullptr);
+        std::vector<COLORREF> visti;
+        for (int y = r.top; y < r.bottom; ++y) {
+            for (int x = r.left; x < r.right; ++x) {
+                visti.push_back(GetPixel(schermo, x, y));
+            }
+        }
+        ReleaseDC(nullptr, schermo);
+        return visti;
+    }
+
+    MessaggiFinti messaggi;
+    FrmAbout about{messaggi};
+    const ConFiltro filtro{
+        [this](MSG& msg) { return IsDialogMessageW(about.hwnd(), &msg) != FALSE; }};
+};
+
+// The box as the program shows it, closed by `azione`.
+void mostraE(std::function<void(HWND)> azione) {
+    MessaggiFinti messaggi;
+    const QuandoAppare guardia(L"#32770", L"Informazioni su Ostrelle", std::move(azione));
+    FrmAbout(messaggi).mostra(nullptr);
+}
+
+} // namespace
+
+TEST(FrmAboutTesti, LaRigaDellaVersioneHaSetteBlanksEAnno) {
+    EXPECT_EQ(FrmAbout::rigaVersione(L"1.0.5"), L"Versione 1.0.5       Anno: 2005");
+}
+
+TEST_F(FrmAboutAperta, MostraITestiDelProdotto) {
+    EXPECT_EQ(testoDi(about.hwnd()), L"Informazioni su Ostrelle");
+    EXPECT_EQ(testo(IDC_LBLTITLE), L"Ostrelle");
+    EXPECT_EQ(testo(IDC_LBLVERSION), L"Versione " + prodotto::versione() + L"       Anno: 2005");
+    EXPECT_EQ(testo(IDC_LBLPRODOTTO), L"Autore:");
+    EXPECT_EQ(testo(IDC_LBLAUTORE), prodotto::autore);
+    EXPECT_EQ(testo(IDC_LBLSITO), prodotto::sito);
+    EXPECT_EQ(testo(IDOK), L"OK");
+    EXPECT_EQ(testo(IDC_CMDSYSINFO), L"&System Info...");
+}
+
+TEST_F(FrmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
+    const RECT riquadro = posto(IDC_FRAME1);
+    for (const int id :
+         {IDC_LBLTITLE, IDC_LBLVERSION, IDC_LBLPRODOTTO, IDC_LBLAUTORE, IDC_LBLSITO}) {
+        const RECT r = posto(id);
+        RECT comune{};
+        IntersectRect(&comune, &r, &riquadro);
+        EXPECT_TRUE(EqualRect(&comune, &r)) << id;
+    }
+}
+
+TEST_F(FrmAboutAperta, TabPassaPerCollegamentoOkEInformazioni) {
+    premi(VK_TAB);
+    EXPECT_EQ(fuoco(), IDC_CMDSYSINFO);
+    premi(VK_TAB);
+    EXPECT_EQ(fuoco(), IDC_LBLSITO);
+    premi(VK_TAB);
+    EXPECT_EQ(fuoco(), IDOK);
+    premi(VK_TAB, {VK_SHIFT});
+    EXPECT_EQ(fuoco(), IDC_LBLSITO);
+}
+
+TEST_F(FrmAboutAperta, InvioSuOkChiude) {
+    premi(VK_RETURN);
+    EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
+}
+
+TEST_F(FrmAboutAperta, EscChiudeDaOgniControllo) {
+    SetFocus(controllo(IDC_LBLSITO));
+    premi(VK_ESCAPE);
+    EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
+}
+
+TEST_F(FrmAboutAperta, UnClicSuOkChiude) {
+    clic(controllo(IDOK));
+    EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
+}
+
+TEST_F(FrmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
+    Registratore registratore;
+    registratore.protocollo(L"https");
+    clic(controllo(IDC_LBLSITO));
+    EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
+    premi(VK_RETURN);
+    EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
+    premi(VK_SPACE);
+    EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
+    EXPECT_NE(about.hwnd(), nullptr);
+    EXPECT_EQ(fuoco(), IDC_LBLSITO);
+}
+
+TEST_F(FrmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
+    SetFocus(controllo(IDC_LBLSITO));
+    EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDC_LBLSITO);
+    SetFocus(controllo(IDOK));
+    EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDOK);
+    premi(VK_RETURN);
+    EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
+}
+
+TEST_F(FrmAboutAperta, UnSitoCheNonSiApreSiDice) {
+    SetWindowTextW(controllo(IDC_LBLSITO), L"Z:\\non c'è.htm");
+    messaggi.attendi(L"Z:\\non c'è.htm: file non trovato!", L"Errore", Icona::Critica);
+    clic(controllo(IDC_LBLSITO));
+    EXPECT_NE(about.hwnd(), nullptr);
+}
+
+TEST_F(FrmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
+    const HWND sito = controllo(IDC_LBLSITO);
+    SendMessageW(sito, WM_SETCURSOR, reinterpret_cast<WPARAM>(sito),
+                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_HAND));
+    const HWND ok = controllo(IDOK);
+    SendMessageW(ok, WM_SETCURSOR, reinterpret_cast<WPARAM>(ok),
+                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
+TEST_F(FrmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
+    pompa();
+    const auto visti = colori(IDC_LBLSITO);
+    const RECT r = posto(IDC_LBLSITO);
+    const auto larghezza = r.right - r.left;
+    // The underline: a row of the control that is hot-light nearly from end to end.
+    long lunga = 0;
+    for (long y = 0; y < r.bottom - r.top; ++y) {
+        const auto riga = visti.begin() + y * larghezza;
+        lunga = std::max(lunga, static_cast<long>(std::count(riga, riga + larghezza,
+                                                             GetSysColor(COLOR_HOTLIGHT))));
+    }
+    EXPECT_GT(lunga, larghezza * 8 / 10);
+}
+
+TEST_F(FrmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
+    const RECT r = posto(IDC_LBLSITO);
+    const RECT autore = posto(IDC_LBLAUTORE);
+    EXPECT_LT(r.right, autore.right);
+    EXPECT_GT(r.right - r.left, 50);
+}
+
+TEST_F(FrmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
+    pompa();
+    const RECT r = posto(IDC_IMAGE1);
+    const int dpi = static_cast<int>(GetDpiForSystem());
+    EXPECT_EQ(r.right - r.left, MulDiv(160, dpi, 96));
+    EXPECT_EQ(r.bottom - r.top, MulDiv(80, dpi, 96));
+    // Its sky above, its sea below: the picture is there and not upside down.
+    const auto visti = colori(IDC_IMAGE1);
+    EXPECT_EQ(visti.front(), RGB(0x1b, 0x3f, 0x5c));
+    EXPECT_EQ(visti.back(), RGB(0x2f, 0x73, 0x97));
+}
+
+TEST_F(FrmAboutAperta, LIconaEQuellaDelProgramma) {
+    EXPECT_NE(SendMessageW(controllo(IDC_PICICON), STM_GETICON, 0, 0), 0);
+    pompa();
+    const auto visti = colori(IDC_PICICON);
+    EXPECT_GT(std::count(visti.begin(), visti.end(), RGB(0x1b, 0x3f, 0x5c)), 50);
+}
+
+TEST_F(FrmAboutAperta, SystemInfoSenzaProgrammaLoDice) {
+    const ChiaveSalvata msinfo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO");
+    const ChiaveSalvata luogo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location");
+    messaggi.attendi(L"Le informazioni sul sistema non sono attualmente disponibili.", L"Errore",
+                     Icona::Critica);
+    clic(controllo(IDC_CMDSYSINFO));
+    EXPECT_NE(about.hwnd(), nullptr);
+}
+
+TEST_F(FrmAboutAperta, AltSAvviaLeInformazioni) {
+    const ChiaveSalvata msinfo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO");
+    Registratore registratore;
+    const CartellaProva cartella;
+    const std::wstring programma = cartella.file(L"MSINFO32.EXE");
+    Registratore::copiaIn(programma);
+    msinfo.testo(L"PATH", programma);
+    premi(L'S', {VK_MENU});
+    EXPECT_EQ(registratore.attendi().programma, programma);
+    EXPECT_TRUE(attendi([&] { return DeleteFileW(programma.c_str()) != FALSE; }));
+}
+
+TEST(FrmAboutModale, EscInvioELaCrocettaChiudono) {
+    mostraE([](HWND) { premi(VK_ESCAPE); });
+    mostraE([](HWND) { premi(VK_RETURN); });
+    mostraE([](HWND box) { PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0); });
+}
+
+TEST(FrmAboutModale, LaProprietariaAspetta) {
+    const HWND proprietaria = CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200,
+                                            nullptr, nullptr, nullptr, nullptr);
+    std::optional<bool> abilitata;
+    MessaggiFinti messaggi;
+    const QuandoAppare guardia(L"#32770", L"Informazioni su Ostrelle", [&](HWND box) {
+        abilitata = IsWindowEnabled(proprietaria) != FALSE;
+        SendMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+    FrmAbout(messaggi).mostra(proprietaria);
+    EXPECT_EQ(abilitata, false);
+    EXPECT_TRUE(IsWindowEnabled(proprietaria));
+    DestroyWindow(proprietaria);
+}
+
+TEST(Disegni, LeStrisceDellaBarraHannoCinqueFigureConTrasparenza) {
+    for (const auto& [numero, lato] :
+         {std::pair{IDB_BARRA16, 16L}, std::pair{IDB_BARRA24, 24L}, std::pair{IDB_BARRA32, 32L}}) {
+        const auto bitmap =
+            static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(numero),
+                                            IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+        ASSERT_NE(bitmap, nullptr);
+        DIBSECTION dib{};
+        ASSERT_EQ(GetObjectW(bitmap, sizeof(dib), &dib), static_cast<int>(sizeof(dib)));
+        EXPECT_EQ(dib.dsBm.bmWidth, 5 * lato);
+        EXPECT_EQ(dib.dsBm.bmHeight, lato);
+        ASSERT_EQ(dib.dsBm.bmBitsPixel, 32);
+        // Clear pixels in every picture, and opaque ones.
+        const auto* const punti = static_cast<const DWORD*>(dib.dsBm.bmBits);
+        for (long figura = 0; figura < 5; ++figura) {
+            long chiari = 0;
+            long pieni = 0;
+            for (long y = 0; y < lato; ++y) {
+                for (long x = figura * lato; x < (figura + 1) * lato; ++x) {
+                    const DWORD alfa = punti[y * 5 * lato + x] >> 24;
+                    chiari += alfa == 0 ? 1 : 0;
+                    pieni += alfa == 0xff ? 1 : 0;
+                }
+            }
+            EXPECT_GT(chiari, lato * lato / 20) << lato << ' ' << figura;
+            EXPECT_GT(pieni, lato * lato / 4) << lato << ' ' << figura;
+        }
+        DeleteObject(bitmap);
+    }
+}
+
+TEST(Disegni, IlPuntatoreDelTrascinamentoSiCarica) {
+    const HCURSOR puntatore =
+        LoadCursorW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDCUR_TRASCINA));
+    ASSERT_NE(puntatore, nullptr);
+    ICONINFO info{};
+    ASSERT_TRUE(GetIconInfo(puntatore, &info));
+    DeleteObject(info.hbmMask);
+    DeleteObject(info.hbmColor);
+    EXPECT_FALSE(info.fIcon);
+    EXPECT_EQ(info.xHotspot, 0U);
+    EXPECT_EQ(info.yHotspot, 0U);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "support/com_win.h"
+#include "support/maniglie_win.h"
+#include "support/messaggi.h"
+#include "ui/controls/dialogo_win.h"
+
+#include <windows.h>
+
+#include <ocidl.h>
+
+#include <string>
+#include <string_view>
+
+// The about box: title, version, author and site of the program, and the start of the
+// system-information program.
+class FrmAbout final : public Dialogo {
+public:
+    // `messaggi` outlives the box.
+    explicit FrmAbout(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
+    FrmAbout(const FrmAbout&) = delete;
+    FrmAbout& operator=(const FrmAbout&) = delete;
+    ~FrmAbout() override = default;
+
+    // Shows the box and waits until it was closed. Raises the failure to make it.
+    void mostra(HWND proprietaria);
+
+    // The text of lblVersion for a version in plain decimal ("1.0.5").
+    [[nodiscard]] static std::wstring rigaVersione(std::wstring_view versione);
+
+protected:
+    bool inizializza() override;
+    INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
+    void eccezione() noexcept override;
+
+private:
+    bool comando(WORD id, WORD notifica);
+    void disegna(const DRAWITEMSTRUCT& voce) const;
+    void disegnaSito(const DRAWITEMSTRUCT& voce) const;
+    void misuraSito() const;
+    void misuraLogo() const;
+    void lblSito_Click() const;
+
+    Messaggi& messaggi_;
+    Carattere carattereTitolo_;
+    Carattere carattereSito_;
+    ComPtr<IPicture> logo_;
+};

@@ -1,0 +1,111 @@
+#include "ui/dialogs/infoSistema_win.h"
+
+#include "support/ansi_win.h"
+#include "support/file_win.h"
+#include "support/maniglie_win.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace {
+
+constexpr REGSAM lettura = 0x20019;
+
+// The bytes from the last to the first, in hexadecimal without leading zeros, as one number; none
+// when it has more than 64 bits, which only a number value of a wrong size can have.
+std::optional<std::uint64_t> numero(std::string_view byte) noexcept {
+    std::uint64_t risultato = 0;
+    for (auto b = byte.rbegin(); b != byte.rend(); ++b) {
+        const auto cifre = static_cast<unsigned char>(*b);
+        const int bit = cifre < 0x10 ? 4 : 8;
+        if (risultato >> (64 - bit) != 0) {
+            return std::nullopt;
+        }
+        risultato = risultato << bit | cifre;
+    }
+    return risultato;
+}
+
+std::optional<std::wstring> trovaProgramma() {
+    std::wstring valore;
+    if (GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", L"PATH",
+                    valore)) {
+        return valore;
+    }
+    if (GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location", L"MSINFO",
+                    valore)) {
+        valore += L"\\MSINFO32.EXE";
+        if (fileEsiste(valore)) {
+            return valore;
+        }
+    }
+    return std::nullopt;
+}
+
+bool avvia(const std::wstring& programma) {
+    // In quotes, or a folder with a blank in its name could start a program of a shorter name.
+    std::wstring comando = programma.starts_with(L'"') ? programma : L'"' + programma + L'"';
+    STARTUPINFOW avvio{};
+    avvio.cb = sizeof(avvio);
+    avvio.dwFlags = STARTF_USESHOWWINDOW;
+    avvio.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION processo{};
+    if (CreateProcessW(nullptr, comando.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                       &avvio, &processo) == FALSE) {
+        return false;
+    }
+    CloseHandle(processo.hThread);
+    CloseHandle(processo.hProcess);
+    return true;
+}
+
+bool avviaInfoSistema() noexcept {
+    try {
+        const auto programma = trovaProgramma();
+        return programma && !programma->empty() && avvia(*programma);
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace
+
+bool GetKeyValue(HKEY radice, const std::wstring& percorso, const std::wstring& nome,
+                 std::wstring& valore) {
+    HKEY maniglia = nullptr;
+    if (RegOpenKeyExA(radice, inAnsi(percorso).c_str(), 0, lettura, &maniglia) != ERROR_SUCCESS) {
+        return false;
+    }
+    const ChiaveRegistro chiave(maniglia);
+    std::array<char, 1024> buffer{};
+    DWORD tipo = REG_NONE;
+    auto lunghezza = static_cast<DWORD>(buffer.size());
+    if (RegQueryValueExA(chiave.get(), inAnsi(nome).c_str(), nullptr, &tipo,
+                         reinterpret_cast<BYTE*>(buffer.data()), &lunghezza) != ERROR_SUCCESS) {
+        return false;
+    }
+    const bool vuoto = lunghezza == 0;
+    std::string_view letto(buffer.data(), lunghezza);
+    if (letto.ends_with('\0')) {
+        letto.remove_suffix(1);
+    }
+    if (tipo == REG_DWORD && !vuoto) {
+        const auto risultato = numero(letto);
+        if (!risultato) {
+            return false;
+        }
+        valore = std::to_wstring(*risultato);
+    } else {
+        valore = tipo == REG_SZ ? daAnsi(letto) : std::wstring();
+    }
+    return true;
+}
+
+void StartSysInfo(Messaggi& messaggi) {
+    if (!avviaInfoSistema()) {
+        messaggi.avvisa(L"Le informazioni sul sistema non sono attualmente disponibili.", L"Errore",
+                        Icona::Critica);
+    }
+}
