@@ -6,6 +6,7 @@
 #include "support/messaggi_win.h"
 #include "support/orologio.h"
 #include "support/prodotto.h"
+#include "ui/dialogs/FrmEditFeed_win.h"
 #include "ui/main/FrmMain_win.h"
 
 #include <windows.h>
@@ -21,7 +22,8 @@ int esegui(int comeMostrare) {
     ImpostazioniRegistro impostazioni(prodotto::titolo);
     // Deletes the preview files when this scope ends, after the last window.
     ClsCodaEliminazione coda;
-    const Servizi servizi{messaggi, dialoghi, orologio, impostazioni, coda};
+    EditorElementiWindows editor(messaggi, orologio);
+    const Servizi servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor};
 
     if (!FrmMain::Form_Initialize(messaggi)) {
         return 0;

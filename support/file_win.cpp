@@ -25,7 +25,9 @@ void cancellaFile(const std::wstring& percorso) {
     }
 }
 
-std::wstring cartellaProgramma() {
+namespace {
+
+std::wstring percorsoProgramma() {
     std::wstring percorso(MAX_PATH, L'\0');
     for (;;) {
         const DWORD lunghezza =
@@ -35,12 +37,23 @@ std::wstring cartellaProgramma() {
         }
         if (lunghezza < percorso.size()) {
             percorso.resize(lunghezza);
-            break;
+            return percorso;
         }
         percorso.resize(percorso.size() * 2);
     }
+}
+
+} // namespace
+
+std::wstring cartellaProgramma() {
+    std::wstring percorso = percorsoProgramma();
     const auto barra = percorso.find_last_of(L'\\');
     const bool radice = barra == 2 && percorso[1] == L':';
     percorso.resize(radice ? barra + 1 : barra);
     return percorso;
+}
+
+std::wstring nomeProgramma() {
+    const std::wstring percorso = percorsoProgramma();
+    return percorso.substr(percorso.find_last_of(L'\\') + 1);
 }

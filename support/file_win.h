@@ -12,3 +12,6 @@ void cancellaFile(const std::wstring& percorso);
 
 // The folder of the running program, without a trailing "\" but at the root of a drive.
 [[nodiscard]] std::wstring cartellaProgramma();
+
+// The file name of the running program, without its folder.
+[[nodiscard]] std::wstring nomeProgramma();

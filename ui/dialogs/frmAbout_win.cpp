@@ -78,18 +78,18 @@ void ridimensiona(HWND finestra, SIZE lati) noexcept {
 
 } // namespace
 
-void FrmAbout::mostra(HWND proprietaria) {
+void frmAbout::mostra(HWND proprietaria) {
     mostraModale(IDD_FRMABOUT, proprietaria);
 }
 
-std::wstring FrmAbout::rigaVersione(std::wstring_view versione) {
+std::wstring frmAbout::rigaVersione(std::wstring_view versione) {
     std::wstring riga(L"Versione ");
     riga += versione;
     riga += L"       Anno: 2005";
     return riga;
 }
 
-bool FrmAbout::inizializza() {
+bool frmAbout::inizializza() {
     const std::wstring titolo(prodotto::titolo);
     SetWindowTextW(hwnd(), (L"Informazioni su " + titolo).c_str());
     SetWindowTextW(controllo(IDC_LBLVERSION), rigaVersione(prodotto::versione()).c_str());
@@ -114,7 +114,7 @@ bool FrmAbout::inizializza() {
     return false;
 }
 
-INT_PTR FrmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
+INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
     switch (msg) {
     case WM_COMMAND:
         return comando(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
@@ -133,11 +133,11 @@ INT_PTR FrmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void FrmAbout::eccezione() noexcept {
+void frmAbout::eccezione() noexcept {
     koUtilita(messaggi_).PrintErrore();
 }
 
-bool FrmAbout::comando(WORD id, WORD notifica) {
+bool frmAbout::comando(WORD id, WORD notifica) {
     if (id == IDOK || id == IDCANCEL) {
         chiudi(id);
         return true;
@@ -167,11 +167,11 @@ bool FrmAbout::comando(WORD id, WORD notifica) {
     return false;
 }
 
-void FrmAbout::lblSito_Click() const {
+void frmAbout::lblSito_Click() const {
     koUtilita(messaggi_).EseguiEx(hwnd(), testoFinestra(controllo(IDC_LBLSITO)));
 }
 
-void FrmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
+void frmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
     if (voce.CtlID == IDC_LBLSITO) {
         disegnaSito(voce);
     } else if (voce.CtlID == IDC_IMAGE1 && logo_) {
@@ -186,7 +186,7 @@ void FrmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
     }
 }
 
-void FrmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
+void frmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
     const HDC dc = voce.hDC;
     FillRect(dc, &voce.rcItem, GetSysColorBrush(COLOR_3DFACE));
     const HGDIOBJ prima = SelectObject(dc, carattereSito_.get());
@@ -203,7 +203,7 @@ void FrmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
 }
 
 // The link is as large as its text and a margin for the focus: only what looks like a link is one.
-void FrmAbout::misuraSito() const {
+void frmAbout::misuraSito() const {
     const HWND sito = controllo(IDC_LBLSITO);
     const std::wstring testo = testoFinestra(sito);
     const DcFinestra dc(sito);
@@ -218,7 +218,7 @@ void FrmAbout::misuraSito() const {
                         std::min(lati.cy + margine, posto.bottom)});
 }
 
-void FrmAbout::misuraLogo() const {
+void frmAbout::misuraLogo() const {
     const DcFinestra dc(hwnd());
     ridimensiona(controllo(IDC_IMAGE1), daMostrare(*logo_.get(), dc.get()));
 }

@@ -14,13 +14,13 @@
 
 // The about box: title, version, author and site of the program, and the start of the
 // system-information program.
-class FrmAbout final : public Dialogo {
+class frmAbout final : public Dialogo {
 public:
     // `messaggi` outlives the box.
-    explicit FrmAbout(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
-    FrmAbout(const FrmAbout&) = delete;
-    FrmAbout& operator=(const FrmAbout&) = delete;
-    ~FrmAbout() override = default;
+    explicit frmAbout(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
+    frmAbout(const frmAbout&) = delete;
+    frmAbout& operator=(const frmAbout&) = delete;
+    ~frmAbout() override = default;
 
     // Shows the box and waits until it was closed. Raises the failure to make it.
     void mostra(HWND proprietaria);

@@ -3,7 +3,6 @@
 #include "datetime/ClsUTC.h"
 #include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
-#include "support/ClsSizerImg.h"
 #include "support/file_win.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
@@ -11,8 +10,8 @@
 #include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
+#include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
-#include "ui/main/menu_win.h"
 
 #include <commctrl.h>
 
@@ -62,8 +61,12 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 
 FrmMain::FrmMain(const Servizi& servizi)
     : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this), griglia_(elementi_, *this),
+      ultimaData_(servizi.orologio.adesso().locale),
       documento_(servizi, *this, stato_, campi_, elementi_, recenti_),
-      ultimaData_(servizi.orologio.adesso().locale) {}
+      comandiElementi_(servizi.messaggi, servizi.editor, *this, elementi_, ultimaData_),
+      pagina_(servizi, *this, campi_, elementi_), aiuto_(servizi.messaggi),
+      acceleratori_(creaAcceleratori(scorciatoie())),
+      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {}
 
 void FrmMain::apri(int comeMostrare) {
     WNDCLASSEXW descrizione{};
@@ -99,8 +102,13 @@ int FrmMain::cicloMessaggi() {
 }
 
 void FrmMain::smista(MSG& msg) {
-    if (hwnd() != nullptr && IsDialogMessageW(hwnd(), &msg)) {
-        return;
+    if (hwnd() != nullptr && (msg.hwnd == hwnd() || IsChild(hwnd(), msg.hwnd))) {
+        if ((GetFocus() == griglia_.lista() &&
+             TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
+            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
+            IsDialogMessageW(hwnd(), &msg)) {
+            return;
+        }
     }
     TranslateMessage(&msg);
     DispatchMessageW(&msg);
@@ -113,12 +121,18 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         Form_Load();
         return 0;
     case WM_SIZE:
-        SendMessageW(statusBar_, WM_SIZE, w, l);
+        SendMessageW(StatusBar1_, WM_SIZE, w, l);
         DisponiFinestra();
         return 0;
     case WM_COMMAND:
         esegui(LOWORD(w));
         return 0;
+    case WM_NOTIFY:
+        if (auto* const avviso = reinterpret_cast<NMHDR*>(l); avviso->code == TTN_GETDISPINFOW) {
+            BarraStrumenti::suggerimento(*reinterpret_cast<NMTTDISPINFOW*>(avviso));
+            return 0;
+        }
+        break;
     case WM_CLOSE:
         if (Form_QueryUnload()) {
             distruggi();
@@ -158,16 +172,17 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
 
 void FrmMain::creaControlli() {
     KOInputNumerico::registraClasse();
+    const Dpi dpi = dpiDi(hwnd());
+    Toolbar1_.crea(hwnd(), IDC_TOOLBAR, dpi.y);
     campi_.crea(IDD_FRADATI, hwnd());
     const auto carattere = reinterpret_cast<HFONT>(SendMessageW(campi_.hwnd(), WM_GETFONT, 0, 0));
-    const Dpi dpi = dpiDi(hwnd());
     griglia_.creaIn(hwnd(), IDC_GRIGLIA, L"Elementi", RECT{});
     striscia_.altezzaPulsante(MulDiv(altezzaPulsante, dpi.y, 96));
     striscia_.crea(hwnd(), carattere);
-    statusBar_ = CreateWindowExW(
+    StatusBar1_ = CreateWindowExW(
         0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, hwnd(),
         reinterpret_cast<HMENU>(UINT_PTR{IDC_STATUSBAR}), GetModuleHandleW(nullptr), nullptr);
-    if (statusBar_ == nullptr) {
+    if (StatusBar1_ == nullptr) {
         sollevaWin32();
     }
 }
@@ -190,7 +205,7 @@ bool FrmMain::Form_QueryUnload() {
     occupata_ = true;
     protetto(
         [&] {
-            campi_.confermaNumeri();
+            KOInputNumerico::lasciaQuelloColFuoco();
             chiudere = documento_.ChiediSalvataggio();
         },
         [&] { MostraErrore(); });
@@ -215,7 +230,7 @@ void FrmMain::ImpostaTitolo(std::wstring_view nome) {
 }
 
 void FrmMain::ImpostaStato(std::wstring_view testo) {
-    SendMessageW(statusBar_, SB_SETTEXTW, 0,
+    SendMessageW(StatusBar1_, SB_SETTEXTW, 0,
                  reinterpret_cast<LPARAM>(std::wstring(rifila(testo)).c_str()));
 }
 
@@ -259,7 +274,8 @@ void FrmMain::esegui(int id) {
     protetto(
         [&] {
             // A command does not move the focus: what it saves must be within the limits already.
-            campi_.confermaNumeri();
+            KOInputNumerico::lasciaQuelloColFuoco();
+            griglia_.abbandona();
             comando(id);
         },
         [&] { MostraErrore(); });
@@ -283,6 +299,27 @@ void FrmMain::comando(int id) {
     case mnSalvaCon:
         documento_.Salva(true);
         break;
+    case mnsalvahtm:
+        pagina_.EsportaHTML();
+        break;
+    case mnaddFeed:
+        comandiElementi_.cmdAggiungi_Click();
+        break;
+    case mnEditFeed:
+        comandiElementi_.cmdModifica_Click();
+        break;
+    case mnDelFeed:
+        comandiElementi_.cmdCancella_Click();
+        break;
+    case mnvisualhtml:
+        pagina_.mnvisualhtml_Click();
+        break;
+    case spostaSu:
+        spostaSelezionato(-1);
+        break;
+    case spostaGiu:
+        spostaSelezionato(1);
+        break;
     case mnAggiorna:
         RiempiGriglia(false);
         break;
@@ -292,6 +329,8 @@ void FrmMain::comando(int id) {
             const std::wstring percorso =
                 recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
             documento_.Apri(percorso);
+        } else {
+            aiuto_.esegui(static_cast<Comando>(id), hwnd());
         }
         break;
     }
@@ -308,8 +347,21 @@ void FrmMain::grigliaRigaCambiata(int riga) {
 }
 
 void FrmMain::grigliaSposta(int da, int a) {
-    elementi_.sposta(da, a);
+    comandiElementi_.SpostaElemento(da, a);
     RiempiGriglia(false);
+}
+
+void FrmMain::spostaSelezionato(int passo) {
+    const int da = ElementoSelezionato();
+    const int a = da + passo;
+    if (da < 0 || a < 0 || a >= elementi_.conteggio()) {
+        return;
+    }
+    const int cima = griglia_.rigaInCima();
+    comandiElementi_.SpostaElemento(da, a);
+    RiempiGriglia(false);
+    griglia_.rigaInCima(cima);
+    SelezionaRiga(rigaDi(a));
 }
 
 void FrmMain::grigliaMenu(POINT punto) {
@@ -329,14 +381,14 @@ void FrmMain::DisponiFinestra() {
     RECT stato{};
     RECT esterno{};
     GetClientRect(hwnd(), &interno);
-    GetClientRect(statusBar_, &stato);
+    GetClientRect(StatusBar1_, &stato);
     GetWindowRect(hwnd(), &esterno);
 
     MisureFinestra misure{};
     misure.larghezzaInterna = interno.right * twipsX;
     misure.altezzaInterna = interno.bottom * twipsY;
     misure.altezzaStato = stato.bottom * twipsY;
-    misure.altoDati = margineTwips;
+    misure.altoDati = Toolbar1_.disponi() * twipsY + margineTwips;
     misure.larghezzaPicCmd = MulDiv(larghezzaPicCmd, dpi.x, 96) * twipsX;
     campi_.misura(misure, twipsX, twipsY);
 
@@ -354,9 +406,9 @@ void FrmMain::DisponiFinestra() {
 
     const std::array<int, 2> pannelli{
         static_cast<int>(interno.right) - MulDiv(larghezzaPannelloDimensioni, dpi.x, 96), -1};
-    SendMessageW(statusBar_, SB_SETPARTS, pannelli.size(),
+    SendMessageW(StatusBar1_, SB_SETPARTS, pannelli.size(),
                  reinterpret_cast<LPARAM>(pannelli.data()));
     const std::wstring dimensioni = L"(" + std::to_wstring(esterno.right - esterno.left) + L"," +
                                     std::to_wstring(esterno.bottom - esterno.top) + L")";
-    SendMessageW(statusBar_, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(dimensioni.c_str()));
+    SendMessageW(StatusBar1_, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(dimensioni.c_str()));
 }

@@ -5,9 +5,14 @@
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"
+#include "ui/main/barraStrumenti_win.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/comandi.h"
+#include "ui/main/comandiAiuto_win.h"
 #include "ui/main/comandiDocumento_win.h"
+#include "ui/main/comandiElementi_win.h"
+#include "ui/main/comandiPagina_win.h"
+#include "ui/main/menu_win.h"
 #include "ui/main/recenti.h"
 #include "ui/main/servizi.h"
 #include "ui/main/statoDocumento.h"
@@ -21,6 +26,8 @@
 class FrmMain final : public Finestra,
                       private ProprietarioCampi,
                       private FinestraDocumento,
+                      private FinestraElementi,
+                      private FinestraPagina,
                       private OsservatoreGriglia {
 public:
     // False, after a message, when the system has no XML parser: the program then ends without
@@ -44,6 +51,10 @@ public:
     void ImpostaModificato() noexcept override { stato_.modificato(true); }
     void NuovoDocumento() override;
     void RiempiGriglia(bool soloIntestazioni) override;
+    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
+    [[nodiscard]] int ElementoSelezionato() const override {
+        return griglia_.ElementoSelezionato();
+    }
     void CaricaRecenti() override;
     void MostraErrore() override;
 
@@ -64,6 +75,7 @@ private:
     void onEccezione() noexcept override { riportaErrore(); }
     void riportaErrore() noexcept override;
     void cmdGetSize_Click() override;
+    [[nodiscard]] HWND finestra() const noexcept override { return hwnd(); }
 
     void grigliaDoppioClic(int riga) override;
     void grigliaRigaCambiata(int riga) override;
@@ -79,6 +91,8 @@ private:
 
     void creaControlli();
     void comando(int id);
+    // A drag by one row, with the keyboard.
+    void spostaSelezionato(int passo);
     void DisponiFinestra();
 
     Servizi servizi_;
@@ -89,9 +103,15 @@ private:
     Griglia griglia_;
     Sfondo sfondo_;
     StrisciaComandi striscia_;
-    ComandiDocumento documento_;
+    BarraStrumenti Toolbar1_;
     DataOra ultimaData_;
-    HWND statusBar_ = nullptr;
+    ComandiDocumento documento_;
+    ComandiElementi comandiElementi_;
+    ComandiPagina pagina_;
+    ComandiAiuto aiuto_;
+    Acceleratori acceleratori_;
+    Acceleratori acceleratoriGriglia_;
+    HWND StatusBar1_ = nullptr;
     HWND fuoco_ = nullptr;
     bool occupata_ = false;
 };

@@ -45,7 +45,7 @@ bool CampiCanale::inizializza() {
     for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
         numero->CifreDecimali(0);
         numero->Massimo(massimoPixel);
-        numero->osservatore(this);
+        numero->osserva(this);
     }
     suggerimento(IDC_LBLURL, L"URL (Percorso)");
     suggerimento(IDC_LBLLARGHEZZA, L"Larghezza in pixels");
@@ -129,11 +129,11 @@ void CampiCanale::dataOra(DataOra valore) {
 }
 
 KOInputNumerico& CampiCanale::txtLarghezza() const {
-    return *KOInputNumerico::da(controllo(IDC_TXTLARGHEZZA));
+    return *Finestra::da<KOInputNumerico>(controllo(IDC_TXTLARGHEZZA));
 }
 
 KOInputNumerico& CampiCanale::txtAltezza() const {
-    return *KOInputNumerico::da(controllo(IDC_TXTALTEZZA));
+    return *Finestra::da<KOInputNumerico>(controllo(IDC_TXTALTEZZA));
 }
 
 bool CampiCanale::vuoti() const {
@@ -155,15 +155,6 @@ void CampiCanale::Svuota(DataOra adesso) noexcept {
     }
     ignorando([&] { txtLarghezza().Valore(0); });
     ignorando([&] { txtAltezza().Valore(0); });
-}
-
-void CampiCanale::confermaNumeri() {
-    const HWND fuoco = GetFocus();
-    for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
-        if (fuoco != nullptr && IsChild(numero->hwnd(), fuoco)) {
-            numero->conferma();
-        }
-    }
 }
 
 RECT CampiCanale::rettangolo(int id) const noexcept {

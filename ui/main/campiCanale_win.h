@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/controls/KOInputNumerico.h"
+#include "ui/controls/KOInputNumerico_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
 #include "ui/controls/selettoreData_win.h"
@@ -43,7 +43,7 @@ enum class CampoCanale : std::uint8_t {
 };
 
 // The frame fraDati with the channel's fields. The values live in the controls.
-class CampiCanale final : public Dialogo, private OsservatoreNumerico {
+class CampiCanale final : public Dialogo, private EventiNumerico {
 public:
     static constexpr std::size_t numeroTesti = 9;
 
@@ -71,9 +71,6 @@ public:
     // The empty state of every kind of control; what a control refuses is passed over.
     void Svuota(DataOra adesso) noexcept;
 
-    // The numeric box that has the focus, if any, runs its leave rule.
-    void confermaNumeri();
-
     // Fills in what the layout needs to know of the frame.
     void misura(MisureFinestra& misure, double twipsX, double twipsY) const;
     // Places the frame and the fields that follow its width.
@@ -85,6 +82,9 @@ private:
     void eccezione() noexcept override { proprietario_.riportaErrore(); }
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;
+    void onEccezione(KOInputNumerico& /*controllo*/) noexcept override {
+        proprietario_.riportaErrore();
+    }
 
     void suggerimento(int etichetta, const wchar_t* testo);
     [[nodiscard]] RECT rettangolo(int id) const noexcept;

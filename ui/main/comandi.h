@@ -4,7 +4,8 @@
 #include <span>
 #include <string_view>
 
-// The commands of the main window: their numbers, and the menus that name them.
+// The commands of the main window: their numbers, and the one table from which menus, toolbar,
+// context menu and keys take what they show and run.
 
 enum Comando : std::uint16_t {
     nessunComando = 0,
@@ -12,12 +13,24 @@ enum Comando : std::uint16_t {
     mnApri,
     mnsalva,
     mnSalvaCon,
+    mnsalvahtm,
     mnrecenti,
     mnChiudi,
     mnaddFeed,
     mnEditFeed,
     mnDelFeed,
+    mnvisualhtml,
     mnAggiorna,
+    mnGuida,
+    mniaco,
+    mnguidaonline,
+    mnautore,
+    mnVerificaUpgrade,
+    mnBug,
+    mninfo,
+    // Keys only: the selected item one place up or down.
+    spostaSu,
+    spostaGiu,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
 };
@@ -41,3 +54,29 @@ struct MenuPrincipale {
 
 // The menu mnContenuto, which is the grid's context menu too.
 [[nodiscard]] const MenuPrincipale& mnContenuto() noexcept;
+
+// A button of the toolbar, with the place of its picture in the strip.
+struct PulsanteBarra {
+    std::wstring_view chiave;
+    std::wstring_view suggerimento;
+    Comando comando;
+};
+
+[[nodiscard]] std::span<const PulsanteBarra> pulsantiBarra() noexcept;
+
+// The command of a toolbar key, compared exactly; none for a key that is unknown.
+[[nodiscard]] Comando comandoDaChiave(std::wstring_view chiave) noexcept;
+
+// A key that runs a command.
+struct Scorciatoia {
+    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt };
+    // A virtual key code.
+    std::uint16_t tasto;
+    Modificatore modificatore;
+    Comando comando;
+};
+
+// Wherever the focus is.
+[[nodiscard]] std::span<const Scorciatoia> scorciatoie() noexcept;
+// While the grid has it.
+[[nodiscard]] std::span<const Scorciatoia> scorciatoieGriglia() noexcept;

@@ -1,13 +1,14 @@
 #include "ui/main/comandiDocumento_win.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/clsFeedRss.h"
 #include "support/dialoghiFile.h"
 #include "support/file_win.h"
 #include "support/messaggi.h"
-#include "support/numeri.h"
 #include "support/orologio.h"
 #include "support/testo.h"
 #include "ui/main/campiCanale_win.h"
+#include "ui/main/canale_win.h"
 #include "ui/main/guardia_win.h"
 #include "ui/main/recenti.h"
 #include "ui/main/statoDocumento.h"
@@ -15,16 +16,11 @@
 namespace {
 
 constexpr std::int32_t fileRecenteMancante = 8292;
-constexpr std::int32_t nessunElemento = 12883;
 
 const RichiestaFile richiestaApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*",
                                   4100, L""};
 const RichiestaFile richiestaSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
                                    2050, L".xml"};
-
-std::wstring rifilato(const CampiCanale& campi, CampoCanale campo) {
-    return std::wstring(rifila(campi.testo(campo)));
-}
 
 } // namespace
 
@@ -100,48 +96,16 @@ void ComandiDocumento::riempiCampi(const std::wstring& percorso, const Canale& c
     }
 }
 
-void ComandiDocumento::richiediElementi() const {
-    if (elementi_.conteggio() == 0) {
-        throw Errore(nessunElemento, L"Per salvare il documento è necessario immettere almeno un "
-                                     L"contenuto. Salvataggio non consentito.");
-    }
-}
-
-ComandiDocumento::Canale ComandiDocumento::raccogli() const {
-    Canale c;
-    c.title = rifilato(campi_, CampoCanale::Titolo);
-    c.link = rifilato(campi_, CampoCanale::LinkHome);
-    // The description keeps its leading blanks.
-    c.description = rifilaDestra(campi_.testo(CampoCanale::Descrizione));
-    c.language = rifilato(campi_, CampoCanale::Lingua);
-    c.copyright = rifilato(campi_, CampoCanale::Copyright);
-    c.webMaster = rifilato(campi_, CampoCanale::WebMaster);
-    c.lastBuildDate = ClsUTC().GetDataUtc(campi_.dataOra(), true);
-    // Without a title an image has no size; address and link stand on their own.
-    if (auto titolo = rifilato(campi_, CampoCanale::Logo); !titolo.empty()) {
-        c.image.sTitle(std::move(titolo));
-        c.image.nWidth(aInt32(campi_.txtLarghezza().Valore()));
-        c.image.nHeight(aInt32(campi_.txtAltezza().Valore()));
-    }
-    if (auto url = rifilato(campi_, CampoCanale::Url); !url.empty()) {
-        c.image.sUrl(std::move(url));
-    }
-    if (auto link = rifilato(campi_, CampoCanale::LinkImg); !link.empty()) {
-        c.image.sLink(std::move(link));
-    }
-    return c;
-}
-
 bool ComandiDocumento::Salva(bool conNome) {
     return protetto(
         [&] {
-            richiediElementi();
+            richiediElementi(elementi_);
             std::wstring percorso(rifila(campi_.Tag()));
             if (conNome || percorso.empty()) {
                 percorso = servizi_.dialoghi.salva(richiestaSalva);
             }
             const Clessidra clessidra;
-            const Canale c = raccogli();
+            const Canale c = raccogliCanale(campi_);
             clsFeedRss().CreaDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
                                           c.copyright, c.lastBuildDate, c.webMaster, c.image,
                                           elementi_);

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "document/clsFeedRss.h"
+#include "document/tabellaElementi.h"
 #include "ui/main/servizi.h"
 
 #include <string>
 #include <string_view>
 
 class CampiCanale;
+struct Canale;
 class ElencoRecenti;
 class StatoDocumento;
 
@@ -50,23 +51,8 @@ public:
     void mnNuovo_Click();
 
 private:
-    // The channel as the writers take it.
-    struct Canale {
-        std::wstring title;
-        std::wstring link;
-        std::wstring description;
-        std::wstring language;
-        std::wstring copyright;
-        std::wstring lastBuildDate;
-        std::wstring webMaster;
-        clsImgRss image;
-    };
-
     void leggi(const std::wstring& percorso);
     void riempiCampi(const std::wstring& percorso, const Canale& canale);
-    [[nodiscard]] Canale raccogli() const;
-    // Raises 12883 when there is nothing to write.
-    void richiediElementi() const;
 
     Servizi servizi_;
     FinestraDocumento& finestra_;

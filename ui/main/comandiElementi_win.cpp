@@ -7,6 +7,11 @@
 #include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
 
+void avvisaNessunaSelezione(Messaggi& messaggi) {
+    messaggi.avvisa(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                    Icona::Informazione);
+}
+
 template <class Comando>
 void ComandiElementi::esegui(Comando comando) {
     protetto(comando, [&] { koUtilita(messaggi_).PrintErrore(); });
@@ -17,8 +22,7 @@ void ComandiElementi::conSelezionato(Comando comando) {
     esegui([&] {
         const int selezionato = finestra_.ElementoSelezionato();
         if (selezionato < 0) {
-            messaggi_.avvisa(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                             Icona::Informazione);
+            avvisaNessunaSelezione(messaggi_);
             return;
         }
         comando(selezionato);

@@ -24,6 +24,9 @@ protected:
     ~FinestraElementi() = default;
 };
 
+// Says that a command needs an item selected in the grid.
+void avvisaNessunaSelezione(Messaggi& messaggi);
+
 // Add, edit and delete, on the window's table. A command that fails is reported and leaves the
 // table as it was.
 class ComandiElementi {

@@ -1,8 +1,9 @@
 #include "ui/main/menu_win.h"
 
 #include "support/errori_win.h"
-#include "ui/main/comandi.h"
 #include "ui/main/recenti.h"
+
+#include <vector>
 
 namespace {
 
@@ -44,6 +45,24 @@ HMENU sottomenuRecenti(HMENU barra) {
 }
 
 } // namespace
+
+Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie) {
+    std::vector<ACCEL> voci;
+    for (const Scorciatoia& s : scorciatoie) {
+        BYTE come = FVIRTKEY;
+        if (s.modificatore == Scorciatoia::Controllo) {
+            come |= FCONTROL;
+        } else if (s.modificatore == Scorciatoia::Alt) {
+            come |= FALT;
+        }
+        voci.push_back({come, s.tasto, s.comando});
+    }
+    Acceleratori tabella(CreateAcceleratorTableW(voci.data(), static_cast<int>(voci.size())));
+    if (!tabella) {
+        sollevaWin32();
+    }
+    return tabella;
+}
 
 ManigliaMenu creaBarraMenu() {
     ManigliaMenu barra(CreateMenu());

@@ -1,9 +1,19 @@
 #pragma once
 
 #include "support/maniglie_win.h"
+#include "ui/main/comandi.h"
 
 #include <span>
 #include <string>
+
+struct TrattiAcceleratori {
+    using Tipo = HACCEL;
+    static Tipo vuota() noexcept { return nullptr; }
+    static void chiudi(Tipo tabella) noexcept { DestroyAcceleratorTable(tabella); }
+};
+using Acceleratori = Maniglia<TrattiAcceleratori>;
+
+[[nodiscard]] Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie);
 
 // The main window's menu bar, made from the table of commands.
 [[nodiscard]] ManigliaMenu creaBarraMenu();

@@ -2,6 +2,7 @@
 
 class ClsCodaEliminazione;
 class DialoghiFile;
+class EditorElementi;
 class Impostazioni;
 class Messaggi;
 class Orologio;
@@ -13,4 +14,5 @@ struct Servizi {
     Orologio& orologio;
     Impostazioni& impostazioni;
     ClsCodaEliminazione& coda;
+    EditorElementi& editor;
 };

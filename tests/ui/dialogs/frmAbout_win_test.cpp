@@ -15,7 +15,7 @@
 namespace {
 
 // The box beside the test, so that the test can look at it and press keys.
-class FrmAboutAperta : public testing::Test {
+class frmAboutAperta : public testing::Test {
 protected:
     void SetUp() override {
         about.crea(IDD_FRMABOUT, nullptr);
@@ -50,7 +50,7 @@ protected:
     }
 
     MessaggiFinti messaggi;
-    FrmAbout about{messaggi};
+    frmAbout about{messaggi};
     const ConFiltro filtro{
         [this](MSG& msg) { return IsDialogMessageW(about.hwnd(), &msg) != FALSE; }};
 };
@@ -59,16 +59,16 @@ protected:
 void mostraE(std::function<void(HWND)> azione) {
     MessaggiFinti messaggi;
     const QuandoAppare guardia(L"#32770", L"Informazioni su Ostrelle", std::move(azione));
-    FrmAbout(messaggi).mostra(nullptr);
+    frmAbout(messaggi).mostra(nullptr);
 }
 
 } // namespace
 
-TEST(FrmAboutTesti, LaRigaDellaVersioneHaSetteBlanksEAnno) {
-    EXPECT_EQ(FrmAbout::rigaVersione(L"1.0.5"), L"Versione 1.0.5       Anno: 2005");
+TEST(frmAboutTesti, LaRigaDellaVersioneHaSetteBlanksEAnno) {
+    EXPECT_EQ(frmAbout::rigaVersione(L"1.0.5"), L"Versione 1.0.5       Anno: 2005");
 }
 
-TEST_F(FrmAboutAperta, MostraITestiDelProdotto) {
+TEST_F(frmAboutAperta, MostraITestiDelProdotto) {
     EXPECT_EQ(testoDi(about.hwnd()), L"Informazioni su Ostrelle");
     EXPECT_EQ(testo(IDC_LBLTITLE), L"Ostrelle");
     EXPECT_EQ(testo(IDC_LBLVERSION), L"Versione " + prodotto::versione() + L"       Anno: 2005");
@@ -79,7 +79,7 @@ TEST_F(FrmAboutAperta, MostraITestiDelProdotto) {
     EXPECT_EQ(testo(IDC_CMDSYSINFO), L"&System Info...");
 }
 
-TEST_F(FrmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
+TEST_F(frmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
     const RECT riquadro = posto(IDC_FRAME1);
     for (const int id :
          {IDC_LBLTITLE, IDC_LBLVERSION, IDC_LBLPRODOTTO, IDC_LBLAUTORE, IDC_LBLSITO}) {
@@ -90,7 +90,7 @@ TEST_F(FrmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
     }
 }
 
-TEST_F(FrmAboutAperta, TabPassaPerCollegamentoOkEInformazioni) {
+TEST_F(frmAboutAperta, TabPassaPerCollegamentoOkEInformazioni) {
     premi(VK_TAB);
     EXPECT_EQ(fuoco(), IDC_CMDSYSINFO);
     premi(VK_TAB);
@@ -101,23 +101,23 @@ TEST_F(FrmAboutAperta, TabPassaPerCollegamentoOkEInformazioni) {
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
 }
 
-TEST_F(FrmAboutAperta, InvioSuOkChiude) {
+TEST_F(frmAboutAperta, InvioSuOkChiude) {
     premi(VK_RETURN);
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
 
-TEST_F(FrmAboutAperta, EscChiudeDaOgniControllo) {
+TEST_F(frmAboutAperta, EscChiudeDaOgniControllo) {
     SetFocus(controllo(IDC_LBLSITO));
     premi(VK_ESCAPE);
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
 
-TEST_F(FrmAboutAperta, UnClicSuOkChiude) {
+TEST_F(frmAboutAperta, UnClicSuOkChiude) {
     clic(controllo(IDOK));
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
 
-TEST_F(FrmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
+TEST_F(frmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
     Registratore registratore;
     registratore.protocollo(L"https");
     clic(controllo(IDC_LBLSITO));
@@ -130,7 +130,7 @@ TEST_F(FrmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
 }
 
-TEST_F(FrmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
+TEST_F(frmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
     SetFocus(controllo(IDC_LBLSITO));
     EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDC_LBLSITO);
     SetFocus(controllo(IDOK));
@@ -139,14 +139,14 @@ TEST_F(FrmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
 
-TEST_F(FrmAboutAperta, UnSitoCheNonSiApreSiDice) {
+TEST_F(frmAboutAperta, UnSitoCheNonSiApreSiDice) {
     SetWindowTextW(controllo(IDC_LBLSITO), L"Z:\\non c'è.htm");
     messaggi.attendi(L"Z:\\non c'è.htm: file non trovato!", L"Errore", Icona::Critica);
     clic(controllo(IDC_LBLSITO));
     EXPECT_NE(about.hwnd(), nullptr);
 }
 
-TEST_F(FrmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
+TEST_F(frmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
     const HWND sito = controllo(IDC_LBLSITO);
     SendMessageW(sito, WM_SETCURSOR, reinterpret_cast<WPARAM>(sito),
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
@@ -157,7 +157,7 @@ TEST_F(FrmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
-TEST_F(FrmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
+TEST_F(frmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
     pompa();
     const auto visti = colori(IDC_LBLSITO);
     const RECT r = posto(IDC_LBLSITO);
@@ -172,14 +172,14 @@ TEST_F(FrmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
     EXPECT_GT(lunga, larghezza * 8 / 10);
 }
 
-TEST_F(FrmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
+TEST_F(frmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
     const RECT r = posto(IDC_LBLSITO);
     const RECT autore = posto(IDC_LBLAUTORE);
     EXPECT_LT(r.right, autore.right);
     EXPECT_GT(r.right - r.left, 50);
 }
 
-TEST_F(FrmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
+TEST_F(frmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
     pompa();
     const RECT r = posto(IDC_IMAGE1);
     const int dpi = static_cast<int>(GetDpiForSystem());
@@ -191,14 +191,14 @@ TEST_F(FrmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
     EXPECT_EQ(visti.back(), RGB(0x2f, 0x73, 0x97));
 }
 
-TEST_F(FrmAboutAperta, LIconaEQuellaDelProgramma) {
+TEST_F(frmAboutAperta, LIconaEQuellaDelProgramma) {
     EXPECT_NE(SendMessageW(controllo(IDC_PICICON), STM_GETICON, 0, 0), 0);
     pompa();
     const auto visti = colori(IDC_PICICON);
     EXPECT_GT(std::count(visti.begin(), visti.end(), RGB(0x1b, 0x3f, 0x5c)), 50);
 }
 
-TEST_F(FrmAboutAperta, SystemInfoSenzaProgrammaLoDice) {
+TEST_F(frmAboutAperta, SystemInfoSenzaProgrammaLoDice) {
     const ChiaveSalvata msinfo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO");
     const ChiaveSalvata luogo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location");
     messaggi.attendi(L"Le informazioni sul sistema non sono attualmente disponibili.", L"Errore",
@@ -207,7 +207,7 @@ TEST_F(FrmAboutAperta, SystemInfoSenzaProgrammaLoDice) {
     EXPECT_NE(about.hwnd(), nullptr);
 }
 
-TEST_F(FrmAboutAperta, AltSAvviaLeInformazioni) {
+TEST_F(frmAboutAperta, AltSAvviaLeInformazioni) {
     const ChiaveSalvata msinfo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO");
     Registratore registratore;
     const CartellaProva cartella;
@@ -219,13 +219,13 @@ TEST_F(FrmAboutAperta, AltSAvviaLeInformazioni) {
     EXPECT_TRUE(attendi([&] { return DeleteFileW(programma.c_str()) != FALSE; }));
 }
 
-TEST(FrmAboutModale, EscInvioELaCrocettaChiudono) {
+TEST(frmAboutModale, EscInvioELaCrocettaChiudono) {
     mostraE([](HWND) { premi(VK_ESCAPE); });
     mostraE([](HWND) { premi(VK_RETURN); });
     mostraE([](HWND box) { PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0); });
 }
 
-TEST(FrmAboutModale, LaProprietariaAspetta) {
+TEST(frmAboutModale, LaProprietariaAspetta) {
     const HWND proprietaria = CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200,
                                             nullptr, nullptr, nullptr, nullptr);
     std::optional<bool> abilitata;
@@ -234,7 +234,7 @@ TEST(FrmAboutModale, LaProprietariaAspetta) {
         abilitata = IsWindowEnabled(proprietaria) != FALSE;
         SendMessageW(box, WM_COMMAND, IDOK, 0);
     });
-    FrmAbout(messaggi).mostra(proprietaria);
+    frmAbout(messaggi).mostra(proprietaria);
     EXPECT_EQ(abilitata, false);
     EXPECT_TRUE(IsWindowEnabled(proprietaria));
     DestroyWindow(proprietaria);
