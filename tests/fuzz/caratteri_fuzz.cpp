@@ -1,0 +1,64 @@
+#include "document/caratteriXml.h"
+
+#include "support/errore.h"
+#include "support/testo.h"
+#include "tests/fuzz/ingresso.h"
+
+namespace {
+
+// The decimal references of a text above 0xFF undone, as a feed reader does.
+std::wstring senzaRiferimenti(const std::wstring& testo) {
+    std::wstring risultato;
+    for (std::size_t i = 0; i < testo.size(); ++i) {
+        const auto fine = testo.find(L';', i);
+        if (testo.compare(i, 2, L"&#") == 0 && fine != std::wstring::npos && fine - i < 10 &&
+            fine > i + 2 &&
+            testo.substr(i + 2, fine - i - 2).find_first_not_of(L"0123456789") ==
+                std::wstring::npos) {
+            aggiungiCarattere(risultato, static_cast<char32_t>(std::stol(testo.substr(i + 2))));
+            i = fine;
+        } else {
+            risultato += testo[i];
+        }
+    }
+    return risultato;
+}
+
+std::int32_t errore(void (*verifica)(std::wstring_view, const NomeTesto&, std::wstring_view),
+                    std::wstring_view testo) {
+    try {
+        verifica(testo, {L"titolo", 1}, L"a.xml");
+    } catch (const Errore& e) {
+        esigi(e.descrizione().starts_with(L"A.XML: "));
+        return e.numero();
+    }
+    return 0;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
+    const std::wstring testo = testoDa(dati, quanti);
+    // Pairs as one character, as they come back from a reference on this system.
+    std::wstring interi;
+    for (std::size_t i = 0; i < testo.size();) {
+        interi += static_cast<wchar_t>(leggiCarattere(testo, i));
+    }
+    const auto vietato = primoVietato(testo);
+    esigi(vietato == primoVietato(interi));
+    esigi((errore(verificaTesto, testo) == errori::chiamataNonValida) == vietato.has_value());
+    const bool fine = testo.find(L"]]>") != std::wstring::npos;
+    esigi((errore(verificaCData, testo) == errori::chiamataNonValida) ==
+          (vietato.has_value() || fine));
+
+    const std::wstring scritto = conRiferimenti(testo);
+    for (const wchar_t c : scritto) {
+        esigi(static_cast<std::uint32_t>(c) <= 0xFF);
+    }
+    esigi(conRiferimenti(scritto) == scritto);
+    esigi((scritto.find(L"]]>") != std::wstring::npos) == fine);
+    if (testo.find(L"&#") == std::wstring::npos && testo.find(L'&') == std::wstring::npos) {
+        esigi(senzaRiferimenti(scritto) == interi);
+    }
+    return 0;
+}
