@@ -130,8 +130,7 @@ TEST(KoUtilitaShell, UnTipoSenzaProgrammaSiDice) {
 
 TEST(KoUtilitaShell, OgniAltroRifiutoEAccessoNegato) {
     const CartellaProva cartella;
-    // A missing folder (3), a program that may not run (5), one that is none (11).
-    deveFallire(cartella.file(L"manca\\a.exe"), L": accesso negato!");
+    // A program that is a folder, one that is none.
     Registratore registratore;
     registratore.tipo(tipoNostro, L'"' + cartella.percorso() + L"\" \"%1\"");
     deveFallire(cartella.scrivi(L"a.oprova", "x"), L": accesso negato!");
@@ -146,9 +145,14 @@ TEST(KoUtilitaShell, IlMessaggioPortaIlNomeComeFuDato) {
 
 TEST(KoUtilitaShell, UnIndirizzoRifiutatoNonSiDice) {
     const CartellaProva cartella;
+    Registratore registratore;
+    registratore.tipo(tipoNostro);
     koUtilita::GoWeb(nullptr, cartella.file(L"manca.oprova"));
     koUtilita::GoWeb(nullptr, L"");
     koUtilita::GoWeb(nullptr, L"nessunprotocollo://a");
+    const std::wstring documento = cartella.scrivi(L"a.oprova", "x");
+    koUtilita::GoWeb(nullptr, documento);
+    EXPECT_EQ(registratore.attendi().obiettivo, documento);
 }
 
 TEST(KoUtilitaFile, IlFileTemporaneoENuovoEVuotoNellaCartellaTemporanea) {
