@@ -49,6 +49,10 @@ std::string leggiTutto(const std::wstring& percorso) {
     return {std::istreambuf_iterator<char>(ingresso), std::istreambuf_iterator<char>()};
 }
 
+std::wstring campione(std::wstring_view nome) {
+    return daUtf8(OSTRELLE_CAMPIONI) + L'/' + std::wstring(nome);
+}
+
 std::string inUtf8(std::wstring_view testo) {
     const auto lunghezza = static_cast<int>(testo.size());
     std::string risultato(static_cast<std::size_t>(WideCharToMultiByte(

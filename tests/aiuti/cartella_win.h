@@ -25,6 +25,9 @@ private:
 // All the bytes of a file; fails the test when it cannot be read.
 [[nodiscard]] std::string leggiTutto(const std::wstring& percorso);
 
+// The path of a file of tests/campioni.
+[[nodiscard]] std::wstring campione(std::wstring_view nome);
+
 // A text as UTF-8, for messages and comparisons.
 [[nodiscard]] std::string inUtf8(std::wstring_view testo);
 [[nodiscard]] std::wstring daUtf8(std::string_view testo);
