@@ -1,0 +1,94 @@
+#include "ui/controls/KOInputNumerico_win.h"
+
+#include "support/errore.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <iterator>
+
+// The numeric control and its container's store.
+
+namespace {
+
+// Points come to pixels with the system's DPI.
+int puntiPerPollice() {
+    const HDC dc = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(dc, LOGPIXELSY);
+    ReleaseDC(nullptr, dc);
+    return dpi;
+}
+
+FontProprieta descrivi(HFONT font) {
+    LOGFONTW dati{};
+    if (GetObjectW(font != nullptr ? font : GetStockObject(SYSTEM_FONT), sizeof(dati), &dati) ==
+        0) {
+        solleva(errori::valoreProprieta);
+    }
+    FontProprieta descrizione;
+    descrizione.nome = static_cast<const wchar_t*>(dati.lfFaceName);
+    descrizione.punti = -static_cast<double>(dati.lfHeight) * 72 / puntiPerPollice();
+    descrizione.peso = dati.lfWeight;
+    descrizione.corsivo = dati.lfItalic != 0;
+    descrizione.sottolineato = dati.lfUnderline != 0;
+    descrizione.barrato = dati.lfStrikeOut != 0;
+    return descrizione;
+}
+
+Carattere fai(const FontProprieta& descrizione) {
+    LOGFONTW dati{};
+    const auto lunghezza = std::min(descrizione.nome.size(), std::size(dati.lfFaceName) - 1);
+    std::copy_n(descrizione.nome.begin(), lunghezza, std::begin(dati.lfFaceName));
+    dati.lfHeight = -static_cast<LONG>(descrizione.punti * puntiPerPollice() / 72 +
+                                       (descrizione.punti < 0 ? -0.5 : 0.5));
+    dati.lfWeight = descrizione.peso;
+    dati.lfItalic = descrizione.corsivo ? TRUE : FALSE;
+    dati.lfUnderline = descrizione.sottolineato ? TRUE : FALSE;
+    dati.lfStrikeOut = descrizione.barrato ? TRUE : FALSE;
+    dati.lfCharSet = DEFAULT_CHARSET;
+    return Carattere(CreateFontIndirectW(&dati));
+}
+
+} // namespace
+
+FontProprieta KOInputNumerico::fontAmbiente() const {
+    return descrivi(GetWindowFont(GetParent(hwnd())));
+}
+
+void KOInputNumerico::leggi(const BorsaProprieta& borsa) {
+    const Trattenuta trattenuta(*this);
+    const FontProprieta ambiente = fontAmbiente();
+    const ProprietaNumerico p = leggiProprieta(borsa, ambiente);
+    regole_.CifreDecimali(p.CifreDecimali);
+    regole_.VisualizzaZero(p.VisualizzaZero);
+    regole_.limiti(p.Massimo, p.Minimo);
+    regole_.Incremento(p.Incremento);
+    Carattere nuovo;
+    HFONT font = GetWindowFont(GetParent(hwnd()));
+    if (p.Font != ambiente) {
+        nuovo = fai(p.Font);
+        font = nuovo.get();
+    }
+    SetWindowFont(txtnumero_, font, TRUE);
+    // The box uses the new font from here on; the old one may go.
+    font_ = std::move(nuovo);
+    Valore(p.Valore);
+    coloreTesto_ = p.ForeColor;
+    Enabled(p.Enabled);
+    Edit_SetReadOnly(txtnumero_, p.Locked ? TRUE : FALSE);
+}
+
+void KOInputNumerico::scrivi(BorsaProprieta& borsa) const {
+    ProprietaNumerico p;
+    p.CifreDecimali = CifreDecimali();
+    p.VisualizzaZero = VisualizzaZero();
+    p.Massimo = Massimo();
+    p.Incremento = Incremento();
+    p.Minimo = Minimo();
+    p.Font = descrivi(Font());
+    p.Valore = Valore();
+    p.ForeColor = coloreTesto_;
+    p.Enabled = Enabled();
+    p.Locked = Locked();
+    scriviProprieta(borsa, p, fontAmbiente());
+}

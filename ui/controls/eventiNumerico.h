@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/controls/proprietaNumerico.h"
+#include "ui/controls/valoreNumerico.h"
+
+#include <string_view>
+
+class KOInputNumerico;
+
+// What a numeric control tells its container. An event that a container has no use for does
+// nothing. A handler may show a message box or close the window.
+class EventiNumerico {
+public:
+    EventiNumerico() noexcept = default;
+    EventiNumerico(const EventiNumerico&) = delete;
+    EventiNumerico& operator=(const EventiNumerico&) = delete;
+    virtual ~EventiNumerico() = default;
+
+    // The box was left holding more than the maximum (less than the minimum): `Valore` still reads
+    // what was typed, the limit is written afterwards.
+    virtual void MassimoSuperato(KOInputNumerico& /*controllo*/, double /*vmassimo*/) {}
+    virtual void MinimoSuperato(KOInputNumerico& /*controllo*/, double /*vminimo*/) {}
+    // The text changed, by the user or by code.
+    virtual void CambioValore(KOInputNumerico& /*controllo*/, double /*valore*/) {}
+    // A property was written; its name is that of its key.
+    virtual void ProprietaCambiata(KOInputNumerico& /*controllo*/, std::wstring_view /*nome*/) {}
+    // An exception left a handler or the control; called inside the catch.
+    virtual void onEccezione(KOInputNumerico& controllo) noexcept = 0;
+};
