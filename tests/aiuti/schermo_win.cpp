@@ -179,7 +179,7 @@ void trascina(HWND finestra, POINT da, POINT a, int passi) {
 
 void rotella(HWND finestra, int scatti) {
     muoviMouse(finestra, meta(finestra));
-    invia({mouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(scatti * WHEEL_DELTA))});
+    invia({mouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(scatti) * WHEEL_DELTA)});
 }
 
 std::wstring testoDi(HWND finestra) {

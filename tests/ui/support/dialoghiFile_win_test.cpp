@@ -19,7 +19,7 @@ HWND campoNome(HWND dialogo) {
 }
 
 // Types the name into the dialog and confirms.
-auto scegli(std::wstring nome) {
+auto scegli(const std::wstring& nome) {
     return [nome](HWND dialogo) {
         EXPECT_EQ(testoDi(campoNome(dialogo)), L"");
         SetWindowTextW(campoNome(dialogo), nome.c_str());
