@@ -3,7 +3,7 @@
 #include "support/xml_win.h"
 
 ElementoXml clsImgRss::getNodoImg(const DocumentoXml& doc) const {
-    const ElementoXml nodo = doc.creaElemento(L"image");
+    ElementoXml nodo = doc.creaElemento(L"image");
     nodo.aggiungi(doc.creaElemento(L"title", sTitle_));
     nodo.aggiungi(doc.creaElemento(L"url", sUrl_));
     nodo.aggiungi(doc.creaElemento(L"link", sLink_));

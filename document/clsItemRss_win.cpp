@@ -4,7 +4,7 @@
 #include "support/xml_win.h"
 
 ElementoXml clsItemRss::getNodoItem(const DocumentoXml& doc) const {
-    const ElementoXml nodo = doc.creaElemento(L"item");
+    ElementoXml nodo = doc.creaElemento(L"item");
     nodo.aggiungi(doc.creaElemento(L"title", sTitle_));
     nodo.aggiungi(doc.creaElemento(L"link", sLink_));
     const ElementoXml descrizione = doc.creaElemento(L"description");

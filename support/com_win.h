@@ -25,8 +25,10 @@ public:
     }
     ComPtr(ComPtr&& altro) noexcept : oggetto_(std::exchange(altro.oggetto_, nullptr)) {}
     ComPtr& operator=(const ComPtr& altro) noexcept {
-        ComPtr copia(altro);
-        std::swap(oggetto_, copia.oggetto_);
+        if (this != &altro) {
+            ComPtr copia(altro);
+            std::swap(oggetto_, copia.oggetto_);
+        }
         return *this;
     }
     ComPtr& operator=(ComPtr&& altro) noexcept {

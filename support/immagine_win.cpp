@@ -84,6 +84,11 @@ ComPtr<IPicture> caricaImmagine(const std::wstring& percorso) {
     if (FAILED(hr) || !immagine) {
         solleva(errori::immagineNonValida);
     }
+    // An empty file passes for an empty picture.
+    short tipo = PICTYPE_NONE;
+    if (FAILED(immagine->get_Type(&tipo)) || tipo <= PICTYPE_NONE) {
+        solleva(errori::immagineNonValida);
+    }
     return immagine;
 }
 

@@ -12,7 +12,7 @@ constexpr std::wstring_view speciali = L" %#?\"<>[]^`{|}";
 
 void aggiungiEscape(std::wstring& testo, wchar_t c) {
     constexpr std::wstring_view cifre = L"0123456789ABCDEF";
-    const auto codice = static_cast<std::size_t>(c);
+    const auto codice = static_cast<unsigned char>(c);
     testo += L'%';
     testo += cifre[codice / 16];
     testo += cifre[codice % 16];

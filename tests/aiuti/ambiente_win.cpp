@@ -4,15 +4,26 @@
 
 #include <utility>
 
-VariabileAmbiente::VariabileAmbiente(std::wstring nome, const std::wstring& valore)
-    : nome_(std::move(nome)), prima_(32768, L'\0'), cera_(false) {
+namespace {
+
+std::optional<std::wstring> variabile(const std::wstring& nome) {
+    std::wstring valore(32768, L'\0');
     SetLastError(ERROR_SUCCESS);
-    prima_.resize(
-        GetEnvironmentVariableW(nome_.c_str(), prima_.data(), static_cast<DWORD>(prima_.size())));
-    cera_ = GetLastError() != ERROR_ENVVAR_NOT_FOUND;
+    valore.resize(
+        GetEnvironmentVariableW(nome.c_str(), valore.data(), static_cast<DWORD>(valore.size())));
+    if (GetLastError() == ERROR_ENVVAR_NOT_FOUND) {
+        return std::nullopt;
+    }
+    return valore;
+}
+
+} // namespace
+
+VariabileAmbiente::VariabileAmbiente(std::wstring nome, const std::wstring& valore)
+    : nome_(std::move(nome)), prima_(variabile(nome_)) {
     SetEnvironmentVariableW(nome_.c_str(), valore.c_str());
 }
 
 VariabileAmbiente::~VariabileAmbiente() {
-    SetEnvironmentVariableW(nome_.c_str(), cera_ ? prima_.c_str() : nullptr);
+    SetEnvironmentVariableW(nome_.c_str(), prima_ ? prima_->c_str() : nullptr);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 // An environment variable of this process, for the life of the object; then what it was comes back.
@@ -12,6 +13,5 @@ public:
 
 private:
     std::wstring nome_;
-    std::wstring prima_;
-    bool cera_;
+    std::optional<std::wstring> prima_;
 };

@@ -1,6 +1,7 @@
 #include "tests/aiuti/cartella_win.h"
 
 #include "support/maniglie_win.h"
+#include "tests/aiuti/campioni.h"
 
 #include <windows.h>
 
@@ -50,7 +51,7 @@ std::string leggiTutto(const std::wstring& percorso) {
 }
 
 std::wstring campione(std::wstring_view nome) {
-    return daUtf8(OSTRELLE_CAMPIONI) + L'/' + std::wstring(nome);
+    return daUtf8(cartellaCampioni) + L'/' + std::wstring(nome);
 }
 
 std::string inUtf8(std::wstring_view testo) {

@@ -107,6 +107,7 @@ std::vector<int> GrigliaProva::selezionate() const {
 
 std::vector<std::wstring> GrigliaProva::titoli() const {
     std::vector<std::wstring> quelli;
+    quelli.reserve(static_cast<std::size_t>(tabella.conteggio()));
     for (int i = 0; i < tabella.conteggio(); ++i) {
         quelli.push_back(tabella(CampoElemento::Titolo, i));
     }
@@ -178,7 +179,7 @@ void GrigliaProva::rotella(int scatti) {
     INPUT i{};
     i.type = INPUT_MOUSE;
     i.mi.dwFlags = MOUSEEVENTF_WHEEL;
-    i.mi.mouseData = static_cast<DWORD>(scatti * WHEEL_DELTA);
+    i.mi.mouseData = static_cast<DWORD>(scatti) * WHEEL_DELTA;
     SendInput(1, &i, sizeof(i));
     aspettaQuiete();
 }

@@ -286,8 +286,9 @@ TEST_F(Lettura, LeCodificheDelParser) {
 }
 
 TEST_F(Lettura, UnElementoDi9MegabyteEDiecimilaLivelli) {
-    EXPECT_EQ(leggiCanale("<title>" + std::string(9000000, 'x') + "</title>").numero, 0);
-    EXPECT_EQ(d.title.size(), 9000000U);
+    constexpr std::size_t lunghezza = 9000000;
+    EXPECT_EQ(leggiCanale("<title>" + std::string().append(lunghezza, 'x') + "</title>").numero, 0);
+    EXPECT_EQ(d.title.size(), lunghezza);
     std::string livelli;
     for (int i = 0; i < 10000; ++i) {
         livelli += "<a>";

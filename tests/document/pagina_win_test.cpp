@@ -108,6 +108,38 @@ TEST(PaginaSuDisco, UnNomeConAsterischiNonCancellaNulla) {
     EXPECT_EQ(leggiTutto(altro), "altro");
 }
 
+// Folders on a file system of a few KiB and on one mounted read-only, where there are such.
+TEST(PaginaSuDisco, SuUnDiscoPienoSollevaENonLasciaMezzaPagina) {
+    const wchar_t* const cartella = _wgetenv(L"OSTRELLE_DISCO_PIENO");
+    if (cartella == nullptr) {
+        GTEST_SKIP() << "OSTRELLE_DISCO_PIENO is not set";
+    }
+    const std::wstring percorso = cartella + std::wstring(L"\\pagina.htm");
+    Documento lunga = breve();
+    lunga.description = std::wstring(1000000, L'x');
+    EXPECT_EQ(sollevatoDa([&] { crea(lunga, percorso); }).numero, errori::discoPieno);
+    EXPECT_FALSE(fileEsiste(percorso));
+    EXPECT_EQ(errorePagina(percorso), 0);
+    cancellaFile(percorso);
+}
+
+TEST(PaginaSuDisco, SuUnDiscoDiSolaLetturaSolleva) {
+    const wchar_t* const cartella = _wgetenv(L"OSTRELLE_SOLA_LETTURA");
+    if (cartella == nullptr) {
+        GTEST_SKIP() << "OSTRELLE_SOLA_LETTURA is not set";
+    }
+    EXPECT_EQ(errorePagina(cartella + std::wstring(L"\\pagina.htm")), 75);
+    const VariabileAmbiente tmp(L"TMP", cartella);
+    ClsCodaEliminazione coda;
+    EXPECT_NE(sollevatoDa([&] {
+                  static_cast<void>(clsFeedRss().VisualizzaItemHTML(TabellaElementi(), coda));
+              }).numero,
+              0);
+    const std::wstring pagina = coda.Pop();
+    EXPECT_TRUE(pagina.starts_with(cartella)) << inUtf8(pagina);
+    EXPECT_EQ(coda.Pop() + L".htm", pagina);
+}
+
 TEST(FileNuovo, SenzaConfermaNonRestaNulla) {
     const CartellaProva cartella;
     const std::wstring percorso = cartella.scrivi(L"a.htm", "prima");

@@ -44,7 +44,7 @@ int altezza(HDC dc, HFONT carattere) noexcept {
 void scrivi(HDC dc, HFONT carattere, const std::wstring& testo, RECT posto) noexcept {
     const Selezione selezione(dc, carattere);
     DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &posto,
-              DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_LEFT | DT_TOP);
+              DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 } // namespace

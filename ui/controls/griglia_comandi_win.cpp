@@ -254,6 +254,7 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
         }
         return 0;
     }
+    bool muove = false;
     switch (w) {
     case VK_LEFT:
     case VK_RIGHT:
@@ -264,6 +265,14 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
             return 0;
         }
         break;
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+        muove = true;
+        break;
     default:
         break;
     }
@@ -273,6 +282,9 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     // The list brings the row into sight after it has told the change: only then is it known
     // whether it has to become the top row.
     const bool prima = std::exchange(allineando_, true);
+    if (muove) {
+        deseleziona();
+    }
     const LRESULT esito = inoltra(codice, w, l);
     allineando_ = prima;
     allinea();

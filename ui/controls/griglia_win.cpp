@@ -216,6 +216,9 @@ void Griglia::seleziona(int riga) {
     // selects must stay under the pointer.
     const int cima = visibile(riga) ? rigaInCima() : riga;
     const bool prima = std::exchange(allineando_, true);
+    if (riga != rigaCorrente_) {
+        deseleziona();
+    }
     ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
                           LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetSelectionMark(lista_, riga - 1);
@@ -223,6 +226,12 @@ void Griglia::seleziona(int riga) {
     rigaInCima(cima);
     if (std::exchange(rigaCorrente_, riga) != riga) {
         osservatore_.grigliaRigaCambiata(riga);
+    }
+}
+
+void Griglia::deseleziona() noexcept {
+    if (rigaCorrente_ >= 1) {
+        ListView_SetItemState(lista_, rigaCorrente_ - 1, 0, LVIS_SELECTED);
     }
 }
 

@@ -125,6 +125,9 @@ private:
     LRESULT tasto(UINT codice, WPARAM w, LPARAM l);
     // The row whose focus or selection the list changed by itself becomes the current one.
     void allinea();
+    // The current row is no longer selected. A list view that selects a row while another is
+    // selected may look at every row there is.
+    void deseleziona() noexcept;
     void numeroRighe() noexcept;
 
     [[nodiscard]] int altezzaRiga() const noexcept;

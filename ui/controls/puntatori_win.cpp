@@ -49,7 +49,7 @@ Cursore creaTrascina() {
     const int larghezza = GetSystemMetrics(SM_CXCURSOR);
     const int altezza = GetSystemMetrics(SM_CYCURSOR);
     // One bit a pixel, each line a whole number of words.
-    const auto passo = static_cast<std::size_t>((larghezza + 15) / 16 * 2);
+    const auto passo = static_cast<std::size_t>((larghezza + 15) / 16) * 2;
     std::vector<std::uint8_t> e(passo * static_cast<std::size_t>(altezza), 0xFF);
     std::vector<std::uint8_t> oEsclusivo(e.size(), 0);
     for (int y = 0; y < altezza; ++y) {

@@ -12,6 +12,7 @@
 #include <shlwapi.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -58,21 +59,40 @@ private:
     HDC dc_;
 };
 
-// How large the picture is to be shown, in pixels. It tells its size in hundredths of a millimetre
-// reckoned from its pixels by the screen's density, so a dense screen would show it small.
-SIZE daMostrare(IPicture& immagine, HDC dc) {
-    OLE_XSIZE_HIMETRIC larghezza = 0;
-    OLE_YSIZE_HIMETRIC altezza = 0;
-    verifica(immagine.get_Width(&larghezza));
-    verifica(immagine.get_Height(&altezza));
-    const int dpiX = GetDeviceCaps(dc, LOGPIXELSX);
-    const int dpiY = GetDeviceCaps(dc, LOGPIXELSY);
-    return {MulDiv(MulDiv(larghezza, dpiX, 2540), dpiX, 96),
-            MulDiv(MulDiv(altezza, dpiY, 2540), dpiY, 96)};
+// The bitmap of a picture, which keeps owning it. A GIF always is one.
+HBITMAP bitmapDi(IPicture& immagine) {
+    OLE_HANDLE maniglia = 0;
+    verifica(immagine.get_Handle(&maniglia));
+    // The interface narrows the handle; handles are 32 bits wide, with their sign.
+    return reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(static_cast<INT>(maniglia)));
 }
 
-void ridimensiona(HWND finestra, SIZE lati) noexcept {
-    SetWindowPos(finestra, nullptr, 0, 0, lati.cx, lati.cy,
+SIZE lati(HBITMAP bitmap) noexcept {
+    BITMAP descrizione{};
+    GetObjectW(bitmap, sizeof(descrizione), &descrizione);
+    return {descrizione.bmWidth, descrizione.bmHeight};
+}
+
+struct TrattiDcMemoria {
+    using Tipo = HDC;
+    static Tipo vuota() noexcept { return nullptr; }
+    static void chiudi(Tipo dc) noexcept { DeleteDC(dc); }
+};
+
+// Perceived brightness, 0 to 255.
+int chiarore(COLORREF colore) noexcept {
+    return (299 * GetRValue(colore) + 587 * GetGValue(colore) + 114 * GetBValue(colore)) / 1000;
+}
+
+// The system's colour of links, or that of text where a theme makes it vanish in the background.
+COLORREF coloreCollegamento() noexcept {
+    const COLORREF collegamento = GetSysColor(COLOR_HOTLIGHT);
+    const int stacco = chiarore(collegamento) - chiarore(GetSysColor(COLOR_3DFACE));
+    return std::abs(stacco) < 60 ? GetSysColor(COLOR_BTNTEXT) : collegamento;
+}
+
+void ridimensiona(HWND finestra, SIZE misura) noexcept {
+    SetWindowPos(finestra, nullptr, 0, 0, misura.cx, misura.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -175,15 +195,22 @@ void frmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
     if (voce.CtlID == IDC_LBLSITO) {
         disegnaSito(voce);
     } else if (voce.CtlID == IDC_IMAGE1 && logo_) {
-        OLE_XSIZE_HIMETRIC larghezza = 0;
-        OLE_YSIZE_HIMETRIC altezza = 0;
-        verifica(logo_->get_Width(&larghezza));
-        verifica(logo_->get_Height(&altezza));
-        const RECT& r = voce.rcItem;
-        // A picture's own coordinates grow upwards.
-        verifica(logo_->Render(voce.hDC, r.left, r.top, r.right - r.left, r.bottom - r.top, 0,
-                               altezza, larghezza, -altezza, nullptr));
+        disegnaLogo(voce);
     }
+}
+
+// Not by IPicture::Render, which works in hundredths of a millimetre and can miss the last pixels.
+void frmAbout::disegnaLogo(const DRAWITEMSTRUCT& voce) const {
+    const HBITMAP bitmap = bitmapDi(*logo_.get());
+    const SIZE da = lati(bitmap);
+    const RECT& a = voce.rcItem;
+    const Maniglia<TrattiDcMemoria> memoria(CreateCompatibleDC(voce.hDC));
+    const HGDIOBJ prima = SelectObject(memoria.get(), bitmap);
+    SetStretchBltMode(voce.hDC, HALFTONE);
+    SetBrushOrgEx(voce.hDC, 0, 0, nullptr);
+    StretchBlt(voce.hDC, a.left, a.top, a.right - a.left, a.bottom - a.top, memoria.get(), 0, 0,
+               da.cx, da.cy, SRCCOPY);
+    SelectObject(memoria.get(), prima);
 }
 
 void frmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
@@ -191,10 +218,10 @@ void frmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
     FillRect(dc, &voce.rcItem, GetSysColorBrush(COLOR_3DFACE));
     const HGDIOBJ prima = SelectObject(dc, carattereSito_.get());
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(COLOR_HOTLIGHT));
+    SetTextColor(dc, coloreCollegamento());
     RECT riga = voce.rcItem;
     DrawTextW(dc, testoFinestra(voce.hwndItem).c_str(), -1, &riga,
-              DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+              DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP);
     SelectObject(dc, prima);
     if ((voce.itemState & ODS_FOCUS) != 0 && (voce.itemState & ODS_NOFOCUSRECT) == 0) {
         SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
@@ -208,17 +235,23 @@ void frmAbout::misuraSito() const {
     const std::wstring testo = testoFinestra(sito);
     const DcFinestra dc(sito);
     const HGDIOBJ prima = SelectObject(dc.get(), carattereSito_.get());
-    SIZE lati{};
-    GetTextExtentPoint32W(dc.get(), testo.c_str(), static_cast<int>(testo.size()), &lati);
+    RECT scritta{};
+    DrawTextW(dc.get(), testo.c_str(), -1, &scritta, DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT);
     SelectObject(dc.get(), prima);
     RECT posto{};
     GetClientRect(sito, &posto);
-    const int margine = 2 * GetSystemMetrics(SM_CXFOCUSBORDER) + 2;
-    ridimensiona(sito, {std::min(lati.cx + margine, posto.right),
-                        std::min(lati.cy + margine, posto.bottom)});
+    // Half a line: some fonts draw the last letter wider than they say.
+    const LONG margine = scritta.bottom / 2;
+    const LONG orlo = 2 * GetSystemMetrics(SM_CYFOCUSBORDER);
+    ridimensiona(sito, {std::min(scritta.right + margine, posto.right),
+                        std::min(scritta.bottom + orlo, posto.bottom)});
 }
 
+// The picture is drawn for 96 dpi.
 void frmAbout::misuraLogo() const {
     const DcFinestra dc(hwnd());
-    ridimensiona(controllo(IDC_IMAGE1), daMostrare(*logo_.get(), dc.get()));
+    const SIZE pixel = lati(bitmapDi(*logo_.get()));
+    ridimensiona(controllo(IDC_IMAGE1),
+                 {MulDiv(pixel.cx, GetDeviceCaps(dc.get(), LOGPIXELSX), 96),
+                  MulDiv(pixel.cy, GetDeviceCaps(dc.get(), LOGPIXELSY), 96)});
 }

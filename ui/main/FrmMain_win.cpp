@@ -3,7 +3,9 @@
 #include "datetime/ClsUTC.h"
 #include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
+#include "support/ClsSizerImg.h"
 #include "support/file_win.h"
+#include "support/immagine_win.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
 #include "support/orologio.h"
@@ -196,20 +198,28 @@ void FrmMain::Form_Load() {
     CaricaRecenti();
 }
 
-bool FrmMain::Form_QueryUnload() {
-    // A dialog of ours is up, over a command that is not finished.
+template <class Azione>
+void FrmMain::occupando(Azione azione) {
     if (occupata_) {
-        return false;
+        return;
     }
-    bool chiudere = false;
     occupata_ = true;
-    protetto(
-        [&] {
-            KOInputNumerico::lasciaQuelloColFuoco();
-            chiudere = documento_.ChiediSalvataggio();
-        },
-        [&] { MostraErrore(); });
+    azione();
     occupata_ = false;
+}
+
+bool FrmMain::Form_QueryUnload() {
+    // While a dialog is up over an unfinished command the answer stays no.
+    bool chiudere = false;
+    occupando([&] {
+        protetto(
+            [&] {
+                KOInputNumerico::lasciaQuelloColFuoco();
+                griglia_.abbandona();
+                chiudere = documento_.ChiediSalvataggio();
+            },
+            [&] { MostraErrore(); });
+    });
     return chiudere;
 }
 
@@ -267,22 +277,20 @@ void FrmMain::riportaErrore() noexcept {
 }
 
 void FrmMain::esegui(int id) {
-    if (occupata_) {
-        return;
-    }
-    occupata_ = true;
-    protetto(
-        [&] {
-            // A command does not move the focus: what it saves must be within the limits already.
-            KOInputNumerico::lasciaQuelloColFuoco();
-            griglia_.abbandona();
-            comando(id);
-        },
-        [&] { MostraErrore(); });
-    occupata_ = false;
     if (id == mnChiudi) {
         SendMessageW(hwnd(), WM_CLOSE, 0, 0);
+        return;
     }
+    occupando([&] {
+        protetto(
+            [&] {
+                // A command does not move the focus: what it saves must be within the limits.
+                KOInputNumerico::lasciaQuelloColFuoco();
+                griglia_.abbandona();
+                comando(id);
+            },
+            [&] { MostraErrore(); });
+    });
 }
 
 void FrmMain::comando(int id) {
@@ -336,7 +344,22 @@ void FrmMain::comando(int id) {
     }
 }
 
-void FrmMain::cmdGetSize_Click() {}
+void FrmMain::cmdGetSize_Click() {
+    occupando([&] {
+        protetto(
+            [&] {
+                const UnitaDiFinestra unita(hwnd());
+                ImmagineNascosta ImgDim;
+                ClsSizerImg misura;
+                misura.objForm(unita);
+                misura.objDlg(servizi_.dialoghi);
+                misura.objImg(ImgDim);
+                misura.LeggiImg(L"");
+                campi_.dimensioni(misura.nWidth(), misura.nHeight());
+            },
+            [&] { koUtilita(servizi_.messaggi).PrintErrore(); });
+    });
+}
 
 void FrmMain::grigliaDoppioClic(int /*riga*/) {
     esegui(mnEditFeed);

@@ -89,6 +89,11 @@ private:
     [[nodiscard]] bool Form_QueryUnload();
     void Form_Unload() noexcept;
 
+    // Runs an action that may show a dialog; nothing while another one is at work. The action
+    // raises nothing.
+    template <class Azione>
+    void occupando(Azione azione);
+
     void creaControlli();
     void comando(int id);
     // A drag by one row, with the keyboard.

@@ -136,6 +136,14 @@ KOInputNumerico& CampiCanale::txtAltezza() const {
     return *Finestra::da<KOInputNumerico>(controllo(IDC_TXTALTEZZA));
 }
 
+void CampiCanale::dimensioni(std::int32_t larghezza, std::int32_t altezza) {
+    if (altezza < txtAltezza().Minimo() || altezza > txtAltezza().Massimo()) {
+        solleva(errori::valoreProprieta);
+    }
+    txtLarghezza().Valore(larghezza);
+    txtAltezza().Valore(altezza);
+}
+
 bool CampiCanale::vuoti() const {
     return std::ranges::all_of(
         testi_, [](const CampoTesto& campo) { return rifila(campo.testo()).empty(); });

@@ -61,6 +61,9 @@ public:
     [[nodiscard]] KOInputNumerico& txtLarghezza() const;
     [[nodiscard]] KOInputNumerico& txtAltezza() const;
 
+    // Gives both boxes a size in pixels, or raises 380 and leaves both as they were.
+    void dimensioni(std::int32_t larghezza, std::int32_t altezza);
+
     // Path of the document's file; empty for a new document.
     [[nodiscard]] const std::wstring& Tag() const noexcept { return tag_; }
     void Tag(std::wstring valore) { tag_ = std::move(valore); }

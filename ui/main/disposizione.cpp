@@ -6,6 +6,8 @@ namespace {
 
 constexpr double margine = margineTwips;
 constexpr double dueMargini = 100;
+// The strip keeps clear of the frame's right border, which cmdGetSize would cover.
+constexpr double bordoPicCmd = 150;
 // Below this the three image fields keep their width.
 constexpr double larghezzaMinima = 400;
 
@@ -26,7 +28,7 @@ Disposizione DisponiControlli(const MisureFinestra& m) noexcept {
 
     const double altoGriglia = m.altoDati + m.altezzaDati + margine;
     const double altezzaGriglia = m.altezzaInterna - m.altezzaStato - altoGriglia - dueMargini;
-    const double sinistraPicCmd = m.larghezzaInterna - dueMargini - m.larghezzaPicCmd;
+    const double sinistraPicCmd = m.larghezzaInterna - bordoPicCmd - m.larghezzaPicCmd;
     const double larghezzaGriglia = sinistraPicCmd - dueMargini;
     if (altezzaGriglia > 0 && larghezzaGriglia > 0) {
         d.griglia = Riquadro{margine, altoGriglia, larghezzaGriglia, altezzaGriglia};

@@ -7,7 +7,10 @@
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
 
+#include <algorithm>
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -49,10 +52,39 @@ protected:
         return visti;
     }
 
+    // Of the control's rows the one with most pixels of a colour: how many in a hundred.
+    [[nodiscard]] long rigaPiuLunga(int id, COLORREF colore) const {
+        RedrawWindow(controllo(id), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        pompa();
+        const auto visti = colori(id);
+        const RECT r = posto(id);
+        const long larghezza = r.right - r.left;
+        std::ptrdiff_t massimo = 0;
+        for (auto riga = visti.begin(); riga != visti.end(); riga += larghezza) {
+            massimo = std::max(massimo, std::count(riga, riga + larghezza, colore));
+        }
+        return static_cast<long>(massimo) * 100 / larghezza;
+    }
+
     MessaggiFinti messaggi;
     frmAbout about{messaggi};
     const ConFiltro filtro{
         [this](MSG& msg) { return IsDialogMessageW(about.hwnd(), &msg) != FALSE; }};
+};
+
+// A colour of the system, for the life of the object.
+class ColoreSistema {
+public:
+    ColoreSistema(int indice, COLORREF colore) : indice_(indice), prima_(GetSysColor(indice)) {
+        SetSysColors(1, &indice_, &colore);
+    }
+    ColoreSistema(const ColoreSistema&) = delete;
+    ColoreSistema& operator=(const ColoreSistema&) = delete;
+    ~ColoreSistema() { SetSysColors(1, &indice_, &prima_); }
+
+private:
+    int indice_;
+    COLORREF prima_;
 };
 
 // The box as the program shows it, closed by `azione`.
@@ -158,18 +190,13 @@ TEST_F(frmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
 }
 
 TEST_F(frmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
-    pompa();
-    const auto visti = colori(IDC_LBLSITO);
-    const RECT r = posto(IDC_LBLSITO);
-    const auto larghezza = r.right - r.left;
-    // The underline: a row of the control that is hot-light nearly from end to end.
-    long lunga = 0;
-    for (long y = 0; y < r.bottom - r.top; ++y) {
-        const auto riga = visti.begin() + y * larghezza;
-        lunga = std::max(lunga, static_cast<long>(std::count(riga, riga + larghezza,
-                                                             GetSysColor(COLOR_HOTLIGHT))));
-    }
-    EXPECT_GT(lunga, larghezza * 8 / 10);
+    const ColoreSistema blu(COLOR_HOTLIGHT, RGB(0, 0, 200));
+    EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, RGB(0, 0, 200)), 80);
+}
+
+TEST_F(frmAboutAperta, UnColoreCheNonSiLeggeLasciaIlPostoAQuelloDelTesto) {
+    const ColoreSistema sfondo(COLOR_HOTLIGHT, GetSysColor(COLOR_3DFACE));
+    EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, GetSysColor(COLOR_BTNTEXT)), 80);
 }
 
 TEST_F(frmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
@@ -182,7 +209,10 @@ TEST_F(frmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
 TEST_F(frmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
     pompa();
     const RECT r = posto(IDC_IMAGE1);
-    const int dpi = static_cast<int>(GetDpiForSystem());
+    EXPECT_LT(r.bottom, posto(IDC_FRAME1).top);
+    const HDC schermo = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(schermo, LOGPIXELSX);
+    ReleaseDC(nullptr, schermo);
     EXPECT_EQ(r.right - r.left, MulDiv(160, dpi, 96));
     EXPECT_EQ(r.bottom - r.top, MulDiv(80, dpi, 96));
     // Its sky above, its sea below: the picture is there and not upside down.
@@ -220,8 +250,9 @@ TEST_F(frmAboutAperta, AltSAvviaLeInformazioni) {
 }
 
 TEST(frmAboutModale, EscInvioELaCrocettaChiudono) {
-    mostraE([](HWND) { premi(VK_ESCAPE); });
-    mostraE([](HWND) { premi(VK_RETURN); });
+    // Posted, so that the box's own message loop takes them.
+    mostraE([](HWND box) { PostMessageW(box, WM_KEYDOWN, VK_ESCAPE, 0); });
+    mostraE([](HWND box) { PostMessageW(box, WM_KEYDOWN, VK_RETURN, 0); });
     mostraE([](HWND box) { PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0); });
 }
 

@@ -56,7 +56,7 @@ TEST(Disposizione, LaStrisciaStaAlBordoDestroConLaStessaAltezza) {
     ASSERT_TRUE(d.picCmd);
     EXPECT_EQ(d.picCmd->alto, d.griglia->alto);
     EXPECT_EQ(d.picCmd->altezza, d.griglia->altezza);
-    EXPECT_EQ(d.picCmd->sinistra + d.picCmd->larghezza, 15000 - 100);
+    EXPECT_EQ(d.picCmd->sinistra + d.picCmd->larghezza, 15000 - 150);
     EXPECT_LE(d.griglia->sinistra + d.griglia->larghezza, d.picCmd->sinistra);
 }
 

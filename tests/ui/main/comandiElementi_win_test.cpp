@@ -1,0 +1,449 @@
+#include "ui/main/comandiElementi_win.h"
+
+#include "support/errore.h"
+#include "tests/aiuti/editor_finto.h"
+#include "tests/aiuti/editor_prova_win.h"
+#include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/schermo_win.h"
+#include "ui/main/GUI_win.h"
+
+#include <array>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The window of the commands: a real grid and the modified flag.
+class FinestraProva final : public FinestraElementi {
+public:
+    explicit FinestraProva(Griglia& griglia) noexcept : griglia_(griglia) {}
+
+    void RiempiGriglia(bool soloIntestazioni) override {
+        if (fallisce) {
+            solleva(errori::memoriaEsaurita);
+        }
+        GUI::RiempiGriglia(griglia_, soloIntestazioni);
+    }
+    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
+    [[nodiscard]] int ElementoSelezionato() const override {
+        return griglia_.ElementoSelezionato();
+    }
+    void ImpostaModificato() override { modificato = true; }
+
+    bool modificato = false;
+    bool fallisce = false;
+
+private:
+    Griglia& griglia_;
+};
+
+const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
+
+// The commands on a grid of `elementi` items.
+struct Banco {
+    Banco(int elementi, EditorElementi& editor)
+        : griglia(elementi), comandi(messaggi, editor, finestra, griglia.tabella, ultima) {}
+
+    void attendiSelezione() {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+    }
+    void attendiDomanda(Risposta risposta) {
+        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
+                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
+    }
+    [[nodiscard]] std::wstring campo(CampoElemento campo, int indice) const {
+        return griglia.tabella(campo, indice);
+    }
+
+    MessaggiFinti messaggi;
+    GrigliaProva griglia;
+    FinestraProva finestra{griglia.griglia};
+    DataOra ultima = inizio;
+    ComandiElementi comandi;
+};
+
+class ComandiElementiGriglia : public testing::Test {
+protected:
+    EditorFinto editor;
+    // Fills the item and confirms with that date.
+    void attendiCompilato(std::wstring nome, DataOra data = inizio) {
+        editor.attendi([nome = std::move(nome), data](clsItemRss& elemento, DataOra) {
+            elemento.sTitle(L"t " + nome);
+            elemento.sLink(L"l " + nome);
+            elemento.sDescription(L"d " + nome);
+            elemento.sAuthor(L"a " + nome);
+            elemento.sPubDate(L"Tue, 15 Nov 2005 10:00:00 +0100");
+            return data;
+        });
+    }
+};
+
+// {XXXX-...}: eight groups of four.
+bool identificativo(std::wstring_view testo) {
+    if (testo.size() != 41 || testo.front() != L'{' || testo.back() != L'}') {
+        return false;
+    }
+    for (std::size_t i = 1; i < 40; ++i) {
+        const wchar_t c = testo[i];
+        const bool buono =
+            i % 5 == 0 ? c == L'-' : (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9');
+        if (!buono) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+TEST_F(ComandiElementiGriglia, AggiungiMetteInFondoConGuidESeleziona) {
+    Banco banco(60, editor);
+    const auto ieri = DataOra::daParti(2005, 11, 15, 10, 0, 0);
+    attendiCompilato(L"nuovo", ieri);
+    banco.comandi.cmdAggiungi_Click();
+    ASSERT_EQ(banco.griglia.tabella.conteggio(), 61);
+    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 60), L"t nuovo");
+    EXPECT_EQ(banco.campo(CampoElemento::Link, 60), L"l nuovo");
+    EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 60), L"d nuovo");
+    EXPECT_EQ(banco.campo(CampoElemento::Autore, 60), L"a nuovo");
+    EXPECT_EQ(banco.campo(CampoElemento::Data, 60), L"Tue, 15 Nov 2005 10:00:00 +0100");
+    const std::wstring guid = banco.campo(CampoElemento::Guid, 60);
+    const std::wstring davanti = L"Tue, 15 Nov 2005 10:00:00 +0100 ";
+    ASSERT_TRUE(guid.starts_with(davanti)) << testing::PrintToString(guid);
+    EXPECT_TRUE(identificativo(std::wstring_view(guid).substr(davanti.size())))
+        << testing::PrintToString(guid);
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 61);
+    EXPECT_TRUE(banco.griglia.griglia.visibile(61));
+    EXPECT_EQ(banco.griglia.testo(61, 1), L"t nuovo\r\nd nuovo");
+    EXPECT_EQ(banco.ultima, ieri);
+    EXPECT_TRUE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, IlPrimoElementoDiUnDocumentoVuoto) {
+    Banco banco(0, editor);
+    attendiCompilato(L"primo");
+    banco.comandi.cmdAggiungi_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 1);
+    EXPECT_EQ(banco.griglia.testo(1, 2), L"0");
+    EXPECT_EQ(banco.griglia.testo(2, 2), L"-1");
+    EXPECT_EQ(banco.finestra.ElementoSelezionato(), 0);
+}
+
+TEST_F(ComandiElementiGriglia, LEditorRiceveUnElementoVuotoELaDataDellUltimoAggiunto) {
+    Banco banco(3, editor);
+    const auto ieri = DataOra::daParti(2005, 11, 30, 10, 0, 0);
+    editor.attendi([&](clsItemRss& elemento, DataOra proposta) {
+        EXPECT_EQ(elemento.sTitle() + elemento.sLink() + elemento.sDescription() +
+                      elemento.sAuthor() + elemento.sPubDate() + elemento.sGuid(),
+                  L"");
+        EXPECT_EQ(proposta, inizio);
+        return ieri;
+    });
+    banco.comandi.cmdAggiungi_Click();
+    editor.attendi([&](clsItemRss& elemento, DataOra proposta) {
+        EXPECT_EQ(elemento.sTitle(), L"");
+        EXPECT_EQ(proposta, ieri);
+        return std::nullopt;
+    });
+    banco.comandi.cmdAggiungi_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 4);
+    EXPECT_EQ(banco.ultima, ieri);
+}
+
+TEST_F(ComandiElementiGriglia, AnnullareNonCambiaNulla) {
+    Banco banco(3, editor);
+    banco.finestra.SelezionaRiga(2);
+    editor.attendi([](clsItemRss& elemento, DataOra) {
+        elemento.sTitle(L"buttato");
+        return std::nullopt;
+    });
+    banco.comandi.cmdAggiungi_Click();
+    editor.attendi([](clsItemRss& elemento, DataOra) {
+        elemento.sTitle(L"buttato");
+        return std::nullopt;
+    });
+    banco.comandi.cmdModifica_Click();
+    banco.attendiDomanda(Risposta::No);
+    banco.comandi.cmdCancella_Click();
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
+    EXPECT_EQ(banco.ultima, inizio);
+    EXPECT_FALSE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, ModificaRiscriveLaColonnaETieneIlGuid) {
+    Banco banco(3, editor);
+    TabellaElementi& tabella = banco.griglia.tabella;
+    tabella(CampoElemento::Link, 1) = L"link";
+    tabella(CampoElemento::Autore, 1) = L"autore";
+    tabella(CampoElemento::Descrizione, 1) = L"a\tb";
+    tabella(CampoElemento::Guid, 1) = L"il guid";
+    banco.finestra.SelezionaRiga(2);
+    editor.attendi([](clsItemRss& elemento, DataOra) {
+        EXPECT_EQ(elemento.sTitle(), L"titolo 1");
+        EXPECT_EQ(elemento.sLink(), L"link");
+        // Shown with blanks, stored and edited with its tab.
+        EXPECT_EQ(elemento.sDescription(), L"a\tb");
+        EXPECT_EQ(elemento.sAuthor(), L"autore");
+        EXPECT_EQ(elemento.sPubDate(), L"Tue, 15 Nov 2005 10:00:00 +0100");
+        EXPECT_EQ(elemento.sGuid(), L"");
+        elemento.sTitle(L"altro");
+        elemento.sGuid(L"non passa");
+        return DataOra::daParti(2001, 1, 1);
+    });
+    banco.comandi.cmdModifica_Click();
+    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"altro");
+    EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"a\tb");
+    EXPECT_EQ(banco.campo(CampoElemento::Guid, 1), L"il guid");
+    EXPECT_EQ(banco.griglia.testo(2, 1), L"altro\r\na    b");
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
+    EXPECT_TRUE(banco.finestra.modificato);
+    // Only an added item leaves its date.
+    EXPECT_EQ(banco.ultima, inizio);
+}
+
+TEST_F(ComandiElementiGriglia, SenzaElementoModificaECancellaLoDicono) {
+    Banco vuoto(0, editor);
+    vuoto.attendiSelezione();
+    vuoto.comandi.cmdModifica_Click();
+    vuoto.attendiSelezione();
+    vuoto.comandi.cmdCancella_Click();
+
+    Banco banco(2, editor);
+    banco.finestra.SelezionaRiga(3); // a filler row
+    banco.attendiSelezione();
+    banco.comandi.cmdModifica_Click();
+    banco.attendiSelezione();
+    banco.comandi.cmdCancella_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
+    EXPECT_FALSE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, CancellaSelezionaLaRigaSopra) {
+    Banco banco(5, editor);
+    banco.finestra.SelezionaRiga(4); // item 3
+    banco.attendiDomanda(Risposta::Si);
+    banco.comandi.cmdCancella_Click();
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2", L"titolo 4"}));
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(banco.finestra.ElementoSelezionato(), 2);
+    EXPECT_TRUE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, CancellatoIlPrimoSiSelezionaIlNuovoPrimo) {
+    Banco banco(3, editor);
+    banco.finestra.SelezionaRiga(1);
+    banco.attendiDomanda(Risposta::Si);
+    banco.comandi.cmdCancella_Click();
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 1);
+    EXPECT_EQ(banco.griglia.testo(1, 1), L"titolo 1\r\ndescrizione 1");
+}
+
+TEST_F(ComandiElementiGriglia, CancellatoLUnicoRestaLaTabellaVuota) {
+    Banco banco(1, editor);
+    banco.attendiDomanda(Risposta::Si);
+    banco.comandi.cmdCancella_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 0);
+    EXPECT_EQ(banco.griglia.tabella.limiteSuperiore(), 0);
+    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 0), L"");
+    EXPECT_EQ(banco.griglia.testo(1, 2), L"-1");
+    EXPECT_EQ(banco.finestra.ElementoSelezionato(), -1);
+    EXPECT_TRUE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, SpostaElementoNonToccaIlSegnoDiModifica) {
+    Banco banco(4, editor);
+    banco.comandi.SpostaElemento(0, 2);
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 1", L"titolo 2", L"titolo 0", L"titolo 3"}));
+    banco.comandi.SpostaElemento(2, 0);
+    banco.comandi.SpostaElemento(3, 1);
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 0", L"titolo 3", L"titolo 1", L"titolo 2"}));
+    EXPECT_FALSE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, ATabellaPienaSiDiceErrore6PrimaDiAprireLEditor) {
+    Banco banco(0, editor);
+    banco.griglia.tabella.dimensiona(32767);
+    banco.messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
+    banco.comandi.cmdAggiungi_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 32767);
+    EXPECT_EQ(banco.ultima, inizio);
+    EXPECT_FALSE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, LUltimoPostoSiRiempie) {
+    Banco banco(0, editor);
+    banco.griglia.tabella.dimensiona(32766);
+    attendiCompilato(L"ultimo");
+    banco.comandi.cmdAggiungi_Click();
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 32767);
+    EXPECT_EQ(banco.griglia.testo(32767, 2), L"32766");
+    EXPECT_EQ(banco.griglia.testo(32767, 1), L"t ultimo\r\nd ultimo");
+}
+
+TEST_F(ComandiElementiGriglia, UnFallimentoSiDiceELasciaLaTabellaComEra) {
+    Banco banco(2, editor);
+    const auto fallisci = [](clsItemRss& elemento, DataOra) -> std::optional<DataOra> {
+        elemento.sTitle(L"buttato");
+        solleva(errori::nomeFileNonValido);
+    };
+    editor.attendi(fallisci);
+    banco.messaggi.attendi(L"Impossibile leggere l'unità specificata.", L"Errore  52",
+                           Icona::Informazione);
+    banco.comandi.cmdAggiungi_Click();
+    editor.attendi(fallisci);
+    banco.messaggi.attendi(L"Impossibile leggere l'unità specificata.", L"Errore  52",
+                           Icona::Informazione);
+    banco.comandi.cmdModifica_Click();
+    EXPECT_EQ(banco.griglia.titoli(), (std::vector<std::wstring>{L"titolo 0", L"titolo 1"}));
+    EXPECT_FALSE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, UnElementoSparitoSottoLEditorEErrore9) {
+    Banco banco(2, editor);
+    banco.finestra.SelezionaRiga(2);
+    editor.attendi([&](clsItemRss&, DataOra) {
+        banco.griglia.tabella.svuota();
+        return inizio;
+    });
+    banco.messaggi.attendi(L"Indice non incluso nell'intervallo", L"Errore  9",
+                           Icona::Informazione);
+    banco.comandi.cmdModifica_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 0);
+}
+
+TEST_F(ComandiElementiGriglia, SeLaGrigliaFallisceLaModificaEComunqueSegnata) {
+    Banco banco(1, editor);
+    attendiCompilato(L"nuovo");
+    banco.finestra.fallisce = true;
+    banco.messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
+    banco.comandi.cmdAggiungi_Click();
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
+    EXPECT_TRUE(banco.finestra.modificato);
+}
+
+TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
+    constexpr std::uint32_t seme = 1234567;
+    SCOPED_TRACE("seed " + std::to_string(seme));
+    std::mt19937 caso(seme);
+    Banco banco(0, editor);
+    std::vector<std::wstring> modello;
+    const auto scelto = [&] { return static_cast<int>(caso() % modello.size()); };
+    for (int passo = 0; passo < 400; ++passo) {
+        const std::wstring nome = std::to_wstring(passo);
+        const bool cala = passo / 100 % 2 == 1;
+        const auto azione = caso() % 8;
+        if (modello.empty() || azione < (cala ? 1U : 4U)) {
+            attendiCompilato(nome);
+            banco.comandi.cmdAggiungi_Click();
+            modello.push_back(nome);
+            ASSERT_EQ(banco.finestra.ElementoSelezionato(), static_cast<int>(modello.size()) - 1);
+        } else if (azione < 5) {
+            const int i = scelto();
+            banco.finestra.SelezionaRiga(i + 1);
+            attendiCompilato(nome);
+            banco.comandi.cmdModifica_Click();
+            modello[static_cast<std::size_t>(i)] = nome;
+            ASSERT_EQ(banco.finestra.ElementoSelezionato(), i);
+        } else if (azione < (cala ? 7U : 6U)) {
+            const int i = scelto();
+            banco.finestra.SelezionaRiga(i + 1);
+            banco.attendiDomanda(Risposta::Si);
+            banco.comandi.cmdCancella_Click();
+            modello.erase(modello.begin() + i);
+            ASSERT_EQ(banco.griglia.griglia.rigaCorrente(), i > 0 ? i : 1);
+        } else {
+            const int da = scelto();
+            const int a = scelto();
+            banco.comandi.SpostaElemento(da, a);
+            banco.finestra.RiempiGriglia(false);
+            const std::wstring mosso = modello[static_cast<std::size_t>(da)];
+            modello.erase(modello.begin() + da);
+            modello.insert(modello.begin() + a, mosso);
+        }
+        const int quanti = static_cast<int>(modello.size());
+        ASSERT_EQ(banco.griglia.tabella.conteggio(), quanti) << "step " << passo;
+        for (int i = 0; i < quanti; ++i) {
+            const std::wstring& atteso = modello[static_cast<std::size_t>(i)];
+            ASSERT_EQ(banco.campo(CampoElemento::Titolo, i), L"t " + atteso);
+            ASSERT_EQ(banco.griglia.testo(i + 1, 1), L"t " + atteso + L"\r\nd " + atteso)
+                << "step " << passo;
+            ASSERT_EQ(banco.griglia.testo(i + 1, 2), std::to_wstring(i));
+        }
+        if (quanti < 49) {
+            ASSERT_EQ(banco.griglia.testo(quanti + 1, 2), L"-1");
+        }
+    }
+}
+
+namespace {
+
+// The commands with the real editor.
+class ComandiConEditorVero : public ProvaEditor {
+protected:
+    EditorElementiWindows vero{messaggi, orologio};
+    Banco banco{2, vero};
+
+    void aggiungi(std::function<void()> azioni) {
+        usa([this] { banco.comandi.cmdAggiungi_Click(); }, std::move(azioni));
+    }
+};
+
+} // namespace
+
+TEST_F(ComandiConEditorVero, IlProssimoNuovoParteDallaDataDellUltimo) {
+    const auto ieri = DataOra::daParti(2005, 11, 30, 10, 0, 0);
+    aggiungi([&] {
+        EXPECT_EQ(selettore(IDC_EDITDATA), inizio);
+        scrivi(L" titolo ");
+        imposta(IDC_EDITLINK, L"link");
+        selettore(IDC_EDITDATA, ieri);
+        selettore(IDC_EDITORARIO, ieri);
+        premi(VK_RETURN);
+    });
+    ASSERT_EQ(banco.griglia.tabella.conteggio(), 3);
+    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 2), L"titolo");
+    EXPECT_EQ(banco.campo(CampoElemento::Data, 2), L"Wed, 30 Nov 2005 10:00:00 +0200");
+    aggiungi([&] {
+        EXPECT_EQ(testo(IDC_EDITTITOLO), L"");
+        EXPECT_EQ(selettore(IDC_EDITDATA), ieri);
+        EXPECT_EQ(selettore(IDC_EDITORARIO), ieri);
+        premi(VK_ESCAPE);
+    });
+    EXPECT_EQ(banco.griglia.tabella.conteggio(), 3);
+}
+
+TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato) {
+    TabellaElementi& tabella = banco.griglia.tabella;
+    tabella(CampoElemento::Titolo, 1) = L"  titolo  ";
+    tabella(CampoElemento::Link, 1) = L"link";
+    tabella(CampoElemento::Descrizione, 1) = L"riga\r\n\tseconda ";
+    tabella(CampoElemento::Autore, 1) = L" autore ";
+    tabella(CampoElemento::Guid, 1) = L" guid ";
+    banco.finestra.SelezionaRiga(2);
+    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_RETURN); });
+    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"titolo");
+    EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"riga\r\n\tseconda");
+    EXPECT_EQ(banco.campo(CampoElemento::Autore, 1), L" autore ");
+    EXPECT_EQ(banco.campo(CampoElemento::Guid, 1), L" guid ");
+    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
+}
+
+TEST_F(ComandiConEditorVero, LaDataIlleggibileDiUnElementoRestaSeSiAnnulla) {
+    banco.griglia.tabella(CampoElemento::Data, 1) = L"domani";
+    banco.finestra.SelezionaRiga(2);
+    messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione);
+    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_ESCAPE); });
+    EXPECT_EQ(banco.campo(CampoElemento::Data, 1), L"domani");
+    EXPECT_FALSE(banco.finestra.modificato);
+}
