@@ -2,6 +2,7 @@
 
 #include "support/errori_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/schermo_win.h"
 #include "ui/main/GUI_win.h"
 
 #include <windows.h>
@@ -78,7 +79,7 @@ TEST(Griglia, NessunaBarraOrizzontale) {
     EXPECT_EQ(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_HSCROLL, 0);
     EXPECT_NE(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_VSCROLL, 0);
     p.allarga(300);
-    p.aspettaQuiete();
+    pompa();
     EXPECT_EQ(GetWindowLongPtrW(p.lista(), GWL_STYLE) & WS_HSCROLL, 0);
     p.premiTasto(VK_RIGHT);
     p.premiTasto(VK_RIGHT);
@@ -307,7 +308,7 @@ TEST(Griglia, NonPerdeOggettiDiWindows) {
         GrigliaProva p(100);
         p.griglia.aggiornaAspetto();
         p.trascina(p.punto(1), p.punto(3));
-        p.aspettaQuiete();
+        pompa();
     }
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), gdi);
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user);
