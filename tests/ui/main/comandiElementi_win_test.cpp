@@ -339,9 +339,9 @@ TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
     Banco banco(0, editor);
     std::vector<std::wstring> modello;
     const auto scelto = [&] { return static_cast<int>(caso() % modello.size()); };
-    for (int passo = 0; passo < 400; ++passo) {
+    for (int passo = 0; passo < 160; ++passo) {
         const std::wstring nome = std::to_wstring(passo);
-        const bool cala = passo / 100 % 2 == 1;
+        const bool cala = passo / 40 % 2 == 1;
         const auto azione = caso() % 8;
         if (modello.empty() || azione < (cala ? 1U : 4U)) {
             attendiCompilato(nome);
