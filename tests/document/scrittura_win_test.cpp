@@ -8,7 +8,6 @@
 #include <windows.h>
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -286,11 +285,11 @@ TEST_F(Scrittura, UnFileTroncoEDiscoPieno) {
 
 // The small volume is made by the test script, where it may mount one.
 TEST_F(Scrittura, SuUnDiscoPienoErrore61) {
-    const char* const disco = std::getenv("OSTRELLE_DISCO_PICCOLO");
-    if (disco == nullptr || *disco == '\0') {
-        GTEST_SKIP() << "OSTRELLE_DISCO_PICCOLO names no small volume";
+    const wchar_t* const disco = _wgetenv(L"OSTRELLE_DISCO_PIENO");
+    if (disco == nullptr) {
+        GTEST_SKIP() << "OSTRELLE_DISCO_PIENO is not set";
     }
-    const std::wstring file = L"Z:" + daUtf8(disco) + L"\\pieno.xml";
+    const std::wstring file = disco + std::wstring(L"\\pieno.xml");
     d.description = std::wstring(1000000, L'x');
     const auto e = d.provaScrivi(file);
     DeleteFileW(file.c_str());
