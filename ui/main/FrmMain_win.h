@@ -35,6 +35,8 @@ public:
     [[nodiscard]] static bool Form_Initialize(Messaggi& messaggi);
 
     explicit FrmMain(const Servizi& servizi);
+    FrmMain(const FrmMain&) = delete;
+    FrmMain& operator=(const FrmMain&) = delete;
     ~FrmMain() override { distruggi(); }
 
     // Makes the window (Form_Load runs) and shows it. Raises the failure to make it.
