@@ -1,17 +1,12 @@
 #include "support/koUtilita.h"
 
 #include "support/ansi_win.h"
-#include "support/errori_win.h"
 #include "support/file_win.h"
-#include "support/numeri.h"
 #include "support/prodotto.h"
-#include "support/testo.h"
 
 #include <windows.h>
 
 #include <shellapi.h>
-
-#include <array>
 
 namespace {
 
@@ -104,12 +99,4 @@ std::uint8_t koUtilita::GetSeparatoreDecimale() {
 
 std::uint8_t koUtilita::GetSeparatoreMigliaia() {
     return secondoCarattere("1000");
-}
-
-void koUtilita::PrintErrore() const {
-    const Errore errore = erroreCorrente();
-    messaggi_.avvisa(errore.numero() == errori::nomeFileNonValido
-                         ? L"Impossibile leggere l'unità specificata."
-                         : errore.descrizione(),
-                     L"Errore " + testoConSegno(errore.numero()), Icona::Informazione);
 }
