@@ -37,6 +37,11 @@ bool eUtf16(const std::wstring& percorso) noexcept {
            inizio[0] == 0xFF && inizio[1] == 0xFE;
 }
 
+// The profile calls know no longer paths; some systems take another file for one.
+bool troppoLungo(const std::wstring& percorso) noexcept {
+    return percorso.size() >= MAX_PATH;
+}
+
 // Windows takes blanks and one pair of marks off a value: a pair of our own keeps them.
 std::wstring protetto(const std::wstring& valore) {
     if (valore.empty()) {
@@ -59,6 +64,9 @@ std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wst
         return DefaultValore;
     }
     const std::wstring percorso = percorsoCompleto(fileINI);
+    if (troppoLungo(percorso)) {
+        return DefaultValore;
+    }
     std::wstring valore(256, L'\0');
     for (;;) {
         const DWORD lunghezza =
@@ -79,6 +87,9 @@ void koUtilitaFile::ScriviINI(const std::wstring& fileINI, const std::wstring& S
     if (!nomeValido(Sezione, L"]") || !nomeValido(chiave, L"=") || contiene(Valore, L"\r\n\0"sv) ||
         (daAnsi(inAnsi(tutto)) != tutto && !eUtf16(percorso))) {
         solleva(errori::chiamataNonValida);
+    }
+    if (troppoLungo(percorso)) {
+        solleva(errori::nomeFileNonValido);
     }
     if (!WritePrivateProfileStringW(Sezione.c_str(), chiave.c_str(), protetto(Valore).c_str(),
                                     percorso.c_str())) {
