@@ -14,6 +14,8 @@
 
 struct HWND__; // NOLINT(bugprone-reserved-identifier): Windows' own name for what HWND points to
 
+class Errore;
+
 // General helpers, for this program and others; the bases hold them by subject. Has no state but
 // the service that shows its messages; make one where it is needed. Up to PrintErrore texts reach
 // Windows in the ANSI code page: a character it lacks becomes "?".
@@ -72,5 +74,8 @@ public:
                            const std::wstring& parametri = {}) const;
 
 private:
+    // What a message box says of an error.
+    static std::wstring descrizioneDi(const Errore& errore);
+
     Messaggi& messaggi_;
 };

@@ -2,25 +2,8 @@
 
 #include "support/errori_win.h"
 #include "support/maniglie_win.h"
-#include "support/numeri.h"
 
 #include <windows.h>
-
-namespace {
-
-std::wstring descrizioneDi(const Errore& errore) {
-    return errore.numero() == errori::nomeFileNonValido
-               ? L"Impossibile leggere l'unità specificata."
-               : errore.descrizione();
-}
-
-} // namespace
-
-void koUtilita::PrintErrore() const {
-    const Errore errore = erroreCorrente();
-    messaggi_.avvisa(descrizioneDi(errore), L"Errore " + testoConSegno(errore.numero()),
-                     Icona::Informazione);
-}
 
 void koUtilita::PrintErroreEx(std::wstring_view dove) const {
     const Errore errore = erroreCorrente();

@@ -18,9 +18,10 @@ struct Collegamento {
     std::wstring IconLocation;    // "file,index"
 };
 
-// The registry and the components it names, part of koUtilita. The machine's part of the registry
-// (all but file associations) is written by administrators only: others get error 75. Names that
-// hold "\", are empty or too long for a key raise error 5 when written and are not found when read.
+// The registry and the components it names, part of koUtilita. The machine's part of the registry,
+// where all of it stands but an association, is written by administrators only: others get error
+// 75. Names that hold "\", are empty or too long for a key raise error 5 when written and are not
+// found when read.
 class koUtilitaRegistro {
 public:
     // The folder of a program registered under "App Paths", the user's before the machine's, ending
@@ -59,10 +60,11 @@ public:
     static void SetInfoDisinstallazione(const std::wstring& programma,
                                         const InfoDisinstallazione& info);
 
-    // Makes `programma` open the files of an extension (with or without its dot), for this user:
-    // the machine's associations need an administrator, and the user's come first anyway. A program
-    // the user chose in Windows' own dialog stays before it. `tipo` is the name of the file type,
-    // `icona` a "file,index" or empty.
+    // Makes `programma` open the files of an extension (with or without its dot): for all users, or
+    // for this user alone where Windows refuses that, as it does but to administrators. A program
+    // that the user chose in Windows' own dialog stays before it. `tipo` is the name of the file
+    // type, `icona` a "file,index" or empty. Raises error 5 for names that no key can have, a type
+    // that looks like an extension, no program or one with a quotation mark.
     static void CreaAssociazione(const std::wstring& estensione, const std::wstring& tipo,
                                  const std::wstring& descrizione, const std::wstring& programma,
                                  const std::wstring& icona = {});

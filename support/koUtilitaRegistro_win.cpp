@@ -2,12 +2,15 @@
 
 #include "support/comando.h"
 #include "support/errori_win.h"
+#include "support/maniglie_win.h"
 #include "support/registro_win.h"
 
 #include <windows.h>
 
 #include <shellapi.h>
 #include <shlobj.h>
+
+#include <utility>
 
 namespace {
 
@@ -60,6 +63,9 @@ DWORD conto(const std::wstring& file) {
     switch (const LSTATUS esito = RegGetValueW(HKEY_LOCAL_MACHINE, chiave.c_str(), file.c_str(),
                                                RRF_RT_DWORD, nullptr, &numero, &byte)) {
     case ERROR_SUCCESS:
+        if (byte != sizeof(numero)) {
+            solleva(errori::tipoNonCorrispondente);
+        }
         return numero;
     case ERROR_FILE_NOT_FOUND:
         return 0;
@@ -82,6 +88,21 @@ void conto(const std::wstring& file, DWORD numero) {
     if (esito != ERROR_SUCCESS) {
         sollevaWin32(static_cast<DWORD>(esito));
     }
+}
+
+// Where this user may write a class: those of all users, else the user's own.
+ChiaveRegistro classiScrivibili(const std::wstring& classe) {
+    HKEY chiave = nullptr;
+    LSTATUS esito = RegCreateKeyW(HKEY_CLASSES_ROOT, classe.c_str(), &chiave);
+    const ChiaveRegistro prova(std::exchange(chiave, nullptr));
+    esito = esito == ERROR_ACCESS_DENIED
+                ? RegCreateKeyW(HKEY_CURRENT_USER, L"Software\\Classes", &chiave)
+            : esito == ERROR_SUCCESS ? RegOpenKeyW(HKEY_CLASSES_ROOT, nullptr, &chiave)
+                                     : esito;
+    if (esito != ERROR_SUCCESS) {
+        sollevaWin32(static_cast<DWORD>(esito));
+    }
+    return ChiaveRegistro(chiave);
 }
 
 } // namespace
@@ -161,9 +182,9 @@ void koUtilitaRegistro::CreaAssociazione(const std::wstring& estensione, const s
         programma.find(L'"') != std::wstring::npos) {
         solleva(errori::chiamataNonValida);
     }
-    const std::wstring classi = L"Software\\Classes\\";
+    const ChiaveRegistro classi = classiScrivibili(tipo);
     const auto scrivi = [&classi](const std::wstring& chiave, const std::wstring& valore) {
-        scriviTesto(HKEY_CURRENT_USER, classi + chiave, L"", valore);
+        scriviTesto(classi.get(), chiave, L"", valore);
     };
     scrivi(tipo, descrizione);
     scrivi(tipo + L"\\Shell\\Open\\Command", L'"' + programma + L"\" \"%1\"");

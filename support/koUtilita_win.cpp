@@ -1,7 +1,9 @@
 #include "support/koUtilita.h"
 
 #include "support/ansi_win.h"
+#include "support/errori_win.h"
 #include "support/file_win.h"
+#include "support/numeri.h"
 #include "support/prodotto.h"
 
 #include <windows.h>
@@ -99,4 +101,16 @@ std::uint8_t koUtilita::GetSeparatoreDecimale() {
 
 std::uint8_t koUtilita::GetSeparatoreMigliaia() {
     return secondoCarattere("1000");
+}
+
+std::wstring koUtilita::descrizioneDi(const Errore& errore) {
+    return errore.numero() == errori::nomeFileNonValido
+               ? L"Impossibile leggere l'unità specificata."
+               : errore.descrizione();
+}
+
+void koUtilita::PrintErrore() const {
+    const Errore errore = erroreCorrente();
+    messaggi_.avvisa(descrizioneDi(errore), L"Errore " + testoConSegno(errore.numero()),
+                     Icona::Informazione);
 }

@@ -116,7 +116,8 @@ Letto leggiCollegamento(const std::wstring& file) {
     letto.cartella = testo.data();
     verifica(link->GetIconLocation(testo.data(), MAX_PATH, &letto.indice));
     letto.icona = testo.data();
-    verifica(link->GetShowCmd(&letto.stile));
+    // The show command stands at this place of the file's header.
+    letto.stile = leggiTutto(file).at(0x3C);
     return letto;
 }
 
@@ -245,14 +246,14 @@ TEST(KoUtilitaAssociazione, IFileDellEstensioneSiApronoConIlProgramma) {
     const CartellaProva cartella;
     const std::wstring programma = cartella.file(L"mia app.exe");
     Registratore::copiaIn(programma);
-    const ChiaveSalvata estensione(HKEY_CURRENT_USER, classi + L".okoprova");
-    const ChiaveSalvata tipo(HKEY_CURRENT_USER, classi + L"OstrelleProva.Tipo");
+    const ChiaveSalvata estensione(HKEY_CLASSES_ROOT, L".okoprova");
+    const ChiaveSalvata tipo(HKEY_CLASSES_ROOT, L"OstrelleProva.Tipo");
     koUtilita::CreaAssociazione(L"okoprova", L"OstrelleProva.Tipo", L"Documento di prova",
                                 programma, programma + L",0");
-    EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipo.nome(), L""), L"Documento di prova");
-    EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipo.nome() + L"\\DefaultIcon", L""),
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome(), L""), L"Documento di prova");
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome() + L"\\DefaultIcon", L""),
               programma + L",0");
-    EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipo.nome() + L"\\Shell\\Open\\Command", L""),
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome() + L"\\Shell\\Open\\Command", L""),
               L'"' + programma + L"\" \"%1\"");
     const std::wstring documento = cartella.scrivi(L"perché no.okoprova", "x");
     MessaggiFinti messaggi;
@@ -263,8 +264,8 @@ TEST(KoUtilitaAssociazione, IFileDellEstensioneSiApronoConIlProgramma) {
 }
 
 TEST(KoUtilitaAssociazione, ArgomentiSbagliatiNonScrivonoNulla) {
-    const ChiaveSalvata estensione(HKEY_CURRENT_USER, classi + L".okoprova");
-    const ChiaveSalvata tipo(HKEY_CURRENT_USER, classi + L"OstrelleProva.Tipo");
+    const ChiaveSalvata estensione(HKEY_CLASSES_ROOT, L".okoprova");
+    const ChiaveSalvata tipo(HKEY_CLASSES_ROOT, L"OstrelleProva.Tipo");
     const std::wstring lungo(1000, L'x');
     const auto crea = [](const std::wstring& e, const std::wstring& t, const std::wstring& p) {
         return errore([&] { koUtilita::CreaAssociazione(e, t, L"d", p); });
@@ -278,8 +279,8 @@ TEST(KoUtilitaAssociazione, ArgomentiSbagliatiNonScrivonoNulla) {
     EXPECT_EQ(crea(L".okoprova", lungo, L"a.exe"), 5);
     EXPECT_EQ(crea(L".okoprova", L"OstrelleProva.Tipo", L""), 5);
     EXPECT_EQ(crea(L".okoprova", L"OstrelleProva.Tipo", L"a\" \"b"), 5);
-    EXPECT_FALSE(leggiTesto(HKEY_CURRENT_USER, estensione.nome(), L""));
-    EXPECT_FALSE(leggiTesto(HKEY_CURRENT_USER, tipo.nome(), L""));
+    EXPECT_FALSE(leggiTesto(HKEY_CLASSES_ROOT, estensione.nome(), L""));
+    EXPECT_FALSE(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome(), L""));
 }
 
 TEST(KoUtilitaComponenti, UnaLibreriaSiRegistraESiTrovaESiToglie) {
