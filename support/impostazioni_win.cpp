@@ -2,6 +2,8 @@
 
 #include "support/registro_win.h"
 
+#include <utility>
+
 ImpostazioniRegistro::ImpostazioniRegistro(std::wstring_view applicazione)
     : radice_(L"Software\\VB and VBA Program Settings\\" + std::wstring(applicazione)) {}
 
@@ -11,8 +13,8 @@ std::wstring ImpostazioniRegistro::percorso(std::wstring_view sezione) const {
 
 std::wstring ImpostazioniRegistro::leggi(std::wstring_view sezione, std::wstring_view chiave,
                                          std::wstring_view altrimenti) const {
-    return leggiTesto(HKEY_CURRENT_USER, percorso(sezione), std::wstring(chiave))
-        .value_or(std::wstring(altrimenti));
+    auto valore = leggiTesto(HKEY_CURRENT_USER, percorso(sezione), std::wstring(chiave));
+    return valore ? *std::move(valore) : std::wstring(altrimenti);
 }
 
 void ImpostazioniRegistro::scrivi(std::wstring_view sezione, std::wstring_view chiave,

@@ -71,10 +71,6 @@ std::wstring aCapoCrLf(std::wstring_view testo) {
     return sostituisci(sostituisci(testo, L"\r\n", L"\n"), L"\n", L"\r\n");
 }
 
-std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore) {
-    return dividi(testo, std::wstring_view(&separatore, 1));
-}
-
 std::vector<std::wstring_view> dividi(std::wstring_view testo, std::wstring_view separatore) {
     std::vector<std::wstring_view> pezzi;
     for (;;) {
