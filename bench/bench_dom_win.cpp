@@ -1,0 +1,236 @@
+// The yardstick of opening, saving and memory: the XML DOM, called with nothing in between.
+//   bench_dom genera FILE ITEMS    writes the feed that the others read
+//   bench_dom apri FILE            loads it, asks once for `rss`, walks down reading six texts
+//   bench_dom salva FILE TO        builds the tree of that feed anew and saves it
+
+#include "bench/feedProva.h"
+#include "bench/misure_win.h"
+
+#include <windows.h>
+
+#include <msxml2.h>
+#include <ole2.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cwchar>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+void controlla(HRESULT hr) {
+    if (FAILED(hr)) {
+        std::fprintf(stderr, "0x%08lx\n", static_cast<unsigned long>(hr));
+        std::exit(1);
+    }
+}
+
+struct Rilascia {
+    void operator()(IUnknown* oggetto) const noexcept { oggetto->Release(); }
+};
+template <class Interfaccia>
+using Com = std::unique_ptr<Interfaccia, Rilascia>;
+
+struct LiberaBstr {
+    void operator()(wchar_t* testo) const noexcept { SysFreeString(testo); }
+};
+using Testo = std::unique_ptr<wchar_t, LiberaBstr>;
+
+constexpr std::array<const wchar_t*, 6> nomi{L"title",  L"link",    L"description",
+                                             L"author", L"pubDate", L"guid"};
+using Elemento = std::array<std::wstring, 6>;
+
+Com<IXMLDOMDocument> creaDocumento() {
+    CLSID classe{};
+    controlla(CLSIDFromProgID(L"MSXML2.DomDocument", &classe));
+    void* oggetto = nullptr;
+    controlla(CoCreateInstance(classe, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument,
+                               &oggetto));
+    Com<IXMLDOMDocument> documento(static_cast<IXMLDOMDocument*>(oggetto));
+    controlla(documento->put_async(VARIANT_FALSE));
+    controlla(documento->put_validateOnParse(VARIANT_FALSE));
+    controlla(documento->put_resolveExternals(VARIANT_FALSE));
+    return documento;
+}
+
+Com<IXMLDOMDocument> carica(const wchar_t* percorso) {
+    auto documento = creaDocumento();
+    const Testo nome(SysAllocString(percorso));
+    VARIANT file{};
+    file.vt = VT_BSTR;
+    file.bstrVal = nome.get();
+    VARIANT_BOOL riuscito = VARIANT_FALSE;
+    controlla(documento->load(file, &riuscito));
+    controlla(riuscito != VARIANT_FALSE ? S_OK : E_FAIL);
+    return documento;
+}
+
+Com<IXMLDOMNode> radice(IXMLDOMDocument& documento) {
+    const Testo nome(SysAllocString(L"rss"));
+    IXMLDOMNodeList* trovati = nullptr;
+    controlla(documento.getElementsByTagName(nome.get(), &trovati));
+    const Com<IXMLDOMNodeList> lista(trovati);
+    IXMLDOMNode* nodo = nullptr;
+    controlla(lista->nextNode(&nodo));
+    return Com<IXMLDOMNode>(nodo);
+}
+
+template <class Azione>
+void perOgniFiglio(IXMLDOMNode& nodo, Azione azione) {
+    IXMLDOMNode* figlio = nullptr;
+    controlla(nodo.get_firstChild(&figlio));
+    while (figlio != nullptr) {
+        const Com<IXMLDOMNode> questo(figlio);
+        BSTR nome = nullptr;
+        controlla(questo->get_nodeName(&nome));
+        azione(*questo, std::wstring_view(nome, SysStringLen(nome)));
+        SysFreeString(nome);
+        controlla(questo->get_nextSibling(&figlio));
+    }
+}
+
+// One walk: the texts of each item. Without `dove` they are read and dropped.
+std::size_t percorri(IXMLDOMNode& rss, std::vector<Elemento>* dove) {
+    std::size_t quanti = 0;
+    perOgniFiglio(rss, [&](IXMLDOMNode& canale, std::wstring_view nomeCanale) {
+        if (nomeCanale != L"channel") {
+            return;
+        }
+        perOgniFiglio(canale, [&](IXMLDOMNode& figlio, std::wstring_view nome) {
+            if (nome != L"item") {
+                return;
+            }
+            ++quanti;
+            if (dove != nullptr) {
+                dove->emplace_back();
+            }
+            perOgniFiglio(figlio, [&](IXMLDOMNode& campo, std::wstring_view nomeCampo) {
+                for (std::size_t i = 0; i < nomi.size(); ++i) {
+                    if (nomeCampo == nomi[i]) {
+                        BSTR testo = nullptr;
+                        controlla(campo.get_text(&testo));
+                        if (dove != nullptr) {
+                            dove->back()[i].assign(testo, SysStringLen(testo));
+                        }
+                        SysFreeString(testo);
+                        break;
+                    }
+                }
+            });
+        });
+    });
+    return quanti;
+}
+
+int apri(const wchar_t* percorso) {
+    const Cronometro tempo;
+    auto documento = carica(percorso);
+    const double caricato = tempo.millisecondi();
+    const auto memoria = piccoMemoria();
+    const std::size_t quanti = percorri(*radice(*documento), nullptr);
+    // A document that was read is let go.
+    documento.reset();
+    riporta("ms", tempo.millisecondi());
+    riporta("load", caricato);
+    riporta("kib", static_cast<double>(memoria));
+    riporta("items", static_cast<double>(quanti));
+    return 0;
+}
+
+Com<IXMLDOMElement> creaElemento(IXMLDOMDocument& documento, const wchar_t* nome) {
+    const Testo bstr(SysAllocString(nome));
+    IXMLDOMElement* elemento = nullptr;
+    controlla(documento.createElement(bstr.get(), &elemento));
+    return Com<IXMLDOMElement>(elemento);
+}
+
+void aggiungi(IXMLDOMDocument& documento, IXMLDOMNode& padre, const wchar_t* nome,
+              const std::wstring& testo) {
+    const auto elemento = creaElemento(documento, nome);
+    const Testo bstr(SysAllocStringLen(testo.data(), static_cast<UINT>(testo.size())));
+    controlla(elemento->put_text(bstr.get()));
+    controlla(padre.appendChild(elemento.get(), nullptr));
+}
+
+void aggiungiCData(IXMLDOMDocument& documento, IXMLDOMNode& padre, const wchar_t* nome,
+                   const std::wstring& testo) {
+    const auto elemento = creaElemento(documento, nome);
+    const Testo bstr(SysAllocStringLen(testo.data(), static_cast<UINT>(testo.size())));
+    IXMLDOMCDATASection* sezione = nullptr;
+    controlla(documento.createCDATASection(bstr.get(), &sezione));
+    const Com<IXMLDOMCDATASection> proprietaria(sezione);
+    controlla(elemento->appendChild(sezione, nullptr));
+    controlla(padre.appendChild(elemento.get(), nullptr));
+}
+
+void costruisci(IXMLDOMDocument& documento, const std::vector<Elemento>& elementi) {
+    const Testo istruzione(SysAllocString(L"xml"));
+    const Testo dati(SysAllocString(L" version=\"1.0\" encoding=\"ISO-8859-1\" "));
+    IXMLDOMProcessingInstruction* testa = nullptr;
+    controlla(documento.createProcessingInstruction(istruzione.get(), dati.get(), &testa));
+    const Com<IXMLDOMProcessingInstruction> proprietaria(testa);
+    controlla(documento.appendChild(testa, nullptr));
+    const auto rss = creaElemento(documento, L"rss");
+    const auto canale = creaElemento(documento, L"channel");
+    controlla(rss->appendChild(canale.get(), nullptr));
+    for (const wchar_t* nome : {L"title", L"link", L"description", L"language", L"copyright",
+                                L"lastBuildDate", L"webMaster"}) {
+        aggiungi(documento, *canale, nome, L"testo del canale");
+    }
+    for (const auto& elemento : elementi) {
+        const auto item = creaElemento(documento, L"item");
+        for (std::size_t i = 0; i < nomi.size(); ++i) {
+            (i == 2 ? aggiungiCData : aggiungi)(documento, *item, nomi[i], elemento[i]);
+        }
+        controlla(canale->appendChild(item.get(), nullptr));
+    }
+    controlla(documento.appendChild(rss.get(), nullptr));
+}
+
+int salva(const wchar_t* percorso, const wchar_t* destinazione) {
+    std::vector<Elemento> elementi;
+    percorri(*radice(*carica(percorso)), &elementi);
+    const Cronometro tempo;
+    {
+        const auto documento = creaDocumento();
+        costruisci(*documento, elementi);
+        const Testo nome(SysAllocString(destinazione));
+        VARIANT file{};
+        file.vt = VT_BSTR;
+        file.bstrVal = nome.get();
+        controlla(documento->save(file));
+    }
+    riporta("ms", tempo.millisecondi());
+    return 0;
+}
+
+int genera(const wchar_t* percorso, int elementi) {
+    const std::string feed = feedProva(elementi);
+    std::FILE* file = _wfopen(percorso, L"wb");
+    if (file == nullptr) {
+        return 1;
+    }
+    const bool scritto = std::fwrite(feed.data(), 1, feed.size(), file) == feed.size();
+    return std::fclose(file) == 0 && scritto ? 0 : 1;
+}
+
+} // namespace
+
+int wmain(int quanti, wchar_t** argomenti) {
+    controlla(OleInitialize(nullptr));
+    const std::wstring_view cosa = quanti > 2 ? argomenti[1] : L"";
+    int esito = 2;
+    if (cosa == L"apri") {
+        esito = apri(argomenti[2]);
+    } else if (cosa == L"salva" && quanti > 3) {
+        esito = salva(argomenti[2], argomenti[3]);
+    } else if (cosa == L"genera" && quanti > 3) {
+        esito = genera(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
+    }
+    OleUninitialize();
+    return esito;
+}

@@ -1,0 +1,32 @@
+#include "bench/misure_win.h"
+
+#include <psapi.h>
+
+#include <cstdio>
+
+Cronometro::Cronometro() noexcept {
+    QueryPerformanceCounter(&inizio_);
+}
+
+double Cronometro::millisecondi() const noexcept {
+    LARGE_INTEGER adesso{};
+    LARGE_INTEGER frequenza{};
+    QueryPerformanceCounter(&adesso);
+    QueryPerformanceFrequency(&frequenza);
+    return static_cast<double>(adesso.QuadPart - inizio_.QuadPart) * 1000.0 /
+           static_cast<double>(frequenza.QuadPart);
+}
+
+std::uint64_t piccoMemoria() noexcept {
+    PROCESS_MEMORY_COUNTERS contatori{};
+    contatori.cb = sizeof(contatori);
+    if (GetProcessMemoryInfo(GetCurrentProcess(), &contatori, sizeof(contatori)) == FALSE) {
+        return 0;
+    }
+    return contatori.PeakWorkingSetSize / 1024;
+}
+
+void riporta(const char* nome, double valore) noexcept {
+    std::printf("%s %.3f\n", nome, valore);
+    std::fflush(stdout);
+}
