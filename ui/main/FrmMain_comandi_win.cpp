@@ -14,6 +14,11 @@ void FrmMain::occupando(Azione azione) {
         return;
     }
     occupata_ = true;
+    // The boxes of a command belong to the active window. A minimised program, or one behind
+    // another that is asked about the end of the session, has none.
+    if (GetActiveWindow() == nullptr) {
+        SetActiveWindow(hwnd());
+    }
     azione();
     occupata_ = false;
 }
@@ -118,8 +123,15 @@ void FrmMain::cmdGetSize_Click() {
     });
 }
 
-void FrmMain::grigliaDoppioClic(int /*riga*/) {
-    esegui(mnEditFeed);
+void FrmMain::grigliaDoppioClic(int riga) {
+    if (riga >= 1) {
+        esegui(mnEditFeed);
+        return;
+    }
+    // No row was clicked, whichever is the current one.
+    occupando([&] {
+        protetto([&] { avvisaNessunaSelezione(servizi_.messaggi); }, [&] { MostraErrore(); });
+    });
 }
 
 void FrmMain::grigliaRigaCambiata(int riga) {

@@ -44,6 +44,22 @@ Dpi dpiDi(HWND finestra) noexcept {
     return dpi;
 }
 
+// Enter presses the button that has the focus; a window that is no dialog has to see to it.
+bool premeConInvio(const MSG& msg) noexcept {
+    if (msg.message != WM_KEYDOWN || msg.wParam != VK_RETURN ||
+        (SendMessageW(msg.hwnd, WM_GETDLGCODE, 0, 0) &
+         (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) {
+        return false;
+    }
+    // A key held down presses once.
+    if ((HIWORD(msg.lParam) & KF_REPEAT) == 0) {
+        SendMessageW(GetParent(msg.hwnd), WM_COMMAND,
+                     MAKEWPARAM(GetDlgCtrlID(msg.hwnd), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(msg.hwnd));
+    }
+    return true;
+}
+
 } // namespace
 
 bool FrmMain::Form_Initialize(Messaggi& messaggi) {
@@ -107,7 +123,12 @@ bool FrmMain::anticipa(MSG& msg) {
     if (hwnd() == nullptr || (msg.hwnd != hwnd() && !IsChild(hwnd(), msg.hwnd))) {
         return false;
     }
-    return (GetFocus() == griglia_.lista() &&
+    if (GetCapture() == griglia_.lista()) {
+        // While a row is dragged the keys are the grid's.
+        return false;
+    }
+    return premeConInvio(msg) ||
+           (GetFocus() == griglia_.lista() &&
             TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
            IsDialogMessageW(hwnd(), &msg) != FALSE;
@@ -145,6 +166,16 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
             servizi_.coda.CancellaFile();
         }
         return 0;
+    case WM_SETTINGCHANGE:
+        griglia_.aggiornaAspetto();
+        break;
+    case WM_SYSCOLORCHANGE:
+        // The common controls hear of it from their parent only.
+        for (const HWND controllo : {griglia_.lista(), StatusBar1_, Toolbar1_.hwnd()}) {
+            SendMessageW(controllo, codice, w, l);
+        }
+        griglia_.aggiornaAspetto();
+        break;
     case WM_ACTIVATE:
         if (LOWORD(w) == WA_INACTIVE) {
             fuoco_ = GetFocus();

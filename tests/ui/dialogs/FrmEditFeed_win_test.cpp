@@ -220,6 +220,8 @@ TEST_F(FrmEditFeedModale, OgniCampoHaLaSuaEtichettaAppenaPrima) {
         EXPECT_EQ(etichetta(IDC_EDITAUTORE), L"Autore:");
         EXPECT_EQ(etichetta(IDC_EDITDESCRIZIONE), L"Descrizione:");
         EXPECT_EQ(etichetta(IDC_EDITDATA), L"Data:");
+        EXPECT_EQ(etichetta(IDC_EDITORARIO), L"Ora:");
+        EXPECT_FALSE(IsWindowVisible(GetWindow(controllo(IDC_EDITORARIO), GW_HWNDPREV)));
         premi(VK_ESCAPE);
     });
 }
