@@ -48,8 +48,8 @@ Com<IXMLDOMDocument> creaDocumento() {
     CLSID classe{};
     controlla(CLSIDFromProgID(L"MSXML2.DomDocument", &classe));
     void* oggetto = nullptr;
-    controlla(CoCreateInstance(classe, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument,
-                               &oggetto));
+    controlla(
+        CoCreateInstance(classe, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument, &oggetto));
     Com<IXMLDOMDocument> documento(static_cast<IXMLDOMDocument*>(oggetto));
     controlla(documento->put_async(VARIANT_FALSE));
     controlla(documento->put_validateOnParse(VARIANT_FALSE));

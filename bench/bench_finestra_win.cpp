@@ -63,10 +63,9 @@ constexpr std::array controlli{
 
 HWND crea(HWND padre, const Controllo& c, HFONT carattere) {
     const DWORD bordo = lstrcmpW(c.classe, L"Edit") == 0 ? WS_EX_CLIENTEDGE : 0;
-    const HWND figlio =
-        CreateWindowExW(bordo, c.classe, c.testo, WS_CHILD | WS_VISIBLE | c.stile, c.posto.left,
-                        c.posto.top, c.posto.right, c.posto.bottom, padre, nullptr,
-                        GetModuleHandleW(nullptr), nullptr);
+    const HWND figlio = CreateWindowExW(bordo, c.classe, c.testo, WS_CHILD | WS_VISIBLE | c.stile,
+                                        c.posto.left, c.posto.top, c.posto.right, c.posto.bottom,
+                                        padre, nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(figlio, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
     return figlio;
 }
@@ -92,9 +91,8 @@ void creaBarre(HWND padre) {
                                        WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS, 0,
                                        0, 0, 0, padre, nullptr, modulo, nullptr);
     SendMessageW(barra, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-    const HIMAGELIST immagini =
-        ImageList_LoadImageW(modulo, MAKEINTRESOURCEW(IDB_BARRA16), 16, 0, CLR_NONE, IMAGE_BITMAP,
-                             LR_CREATEDIBSECTION);
+    const HIMAGELIST immagini = ImageList_LoadImageW(modulo, MAKEINTRESOURCEW(IDB_BARRA16), 16, 0,
+                                                     CLR_NONE, IMAGE_BITMAP, LR_CREATEDIBSECTION);
     SendMessageW(barra, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(immagini));
     for (int i = 0; i < 5; ++i) {
         TBBUTTON pulsante{};
@@ -162,8 +160,8 @@ int WINAPI wWinMain(HINSTANCE modulo, HINSTANCE, LPWSTR, int comeMostrare) {
     const HWND finestra =
         CreateWindowExW(0, classe.lpszClassName, L"Finestra", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                         10, 10, larghezza, altezza, nullptr, creaMenu(), modulo, nullptr);
-    const HFONT carattere = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0,
-                                        0, L"MS Shell Dlg");
+    const HFONT carattere =
+        CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"MS Shell Dlg");
     for (const auto& controllo : controlli) {
         crea(finestra, controllo, carattere);
     }

@@ -9,7 +9,8 @@ constexpr std::array<std::string_view, 4> frasi{
     "Il consiglio si riunisce in sala grande; l'ordine del giorno si legge sul sito. ",
     "<b>Attenzione</b>: la strada resta chiusa fino a sera, si passa dal ponte vecchio.\n",
     "Chi vuole partecipare scriva alla redazione entro la fine del mese & aspetti conferma. ",
-    "Le fotografie della serata sono nella <a href=\"https://giornale.example/foto\">raccolta</a>."};
+    "Le fotografie della serata sono nella <a "
+    "href=\"https://giornale.example/foto\">raccolta</a>."};
 
 std::string dueCifre(int numero) {
     return {static_cast<char>('0' + numero / 10), static_cast<char>('0' + numero % 10)};
