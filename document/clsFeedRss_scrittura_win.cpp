@@ -3,6 +3,7 @@
 #include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/salvataggio_win.h"
+#include "support/prodotto.h"
 #include "support/xml_win.h"
 
 #include <array>
@@ -63,8 +64,10 @@ void clsFeedRss::CreaDocumentoRSS(const std::wstring& path, const std::wstring& 
     const DocumentoXml documento;
     documento.aggiungi(
         documento.creaIstruzione(L"xml", L" version=\"1.0\" encoding=\"ISO-8859-1\" "));
-    documento.aggiungi(
-        documento.creaCommento(L"Feed RSS creato con Ostrelle, editor di feed RSS 2.0"));
+    std::wstring commento(L"Feed RSS creato con ");
+    commento += prodotto::titolo;
+    commento += prodotto::creditoFeed;
+    documento.aggiungi(documento.creaCommento(commento));
     const ElementoXml rss = documento.creaElemento(L"rss");
     documento.creaAttributo(rss, L"version", L"2.0");
     const ElementoXml channel = documento.creaElemento(L"channel");

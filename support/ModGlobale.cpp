@@ -1,11 +1,10 @@
 #include "support/ModGlobale.h"
 
-#include "support/errore.h"
+#include "support/numeri.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <limits>
 #include <string_view>
 
 namespace {
@@ -29,10 +28,8 @@ float ModGlobale::prossimo() noexcept {
 }
 
 float ModGlobale::NumeroCasuale(std::int16_t inferiore, std::int16_t superiore) {
-    const int ampiezza = superiore - inferiore + 1;
-    if (ampiezza > std::numeric_limits<std::int16_t>::max()) {
-        solleva(errori::overflow);
-    }
+    // Each step in 16 bits.
+    const std::int16_t ampiezza = aInt16(aInt16(superiore - inferiore) + 1);
     const float numero =
         std::floor(static_cast<float>(ampiezza) * prossimo() + static_cast<float>(inferiore));
     // Far from zero a sum just below the end of the range rounds up to it.

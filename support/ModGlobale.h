@@ -13,7 +13,7 @@ public:
     explicit ModGlobale(std::uint64_t seme) noexcept : stato_(seme) {}
 
     // A whole number from `inferiore` to `superiore`, both included, each equally likely. Raises
-    // error 6 when the range holds more than 32767 numbers.
+    // error 6 when (superiore - inferiore + 1) leaves the 16 bits.
     [[nodiscard]] float NumeroCasuale(std::int16_t inferiore, std::int16_t superiore);
 
     // {XXXX-XXXX-XXXX-XXXX-XXXX-XXXX-XXXX-XXXX} of capital letters and digits. Seeds the generator

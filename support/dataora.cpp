@@ -22,8 +22,10 @@ constexpr std::int64_t giorniAlMese(std::int64_t anno, int mese) noexcept {
 }
 
 constexpr std::int64_t giornoZero = giorniAlMese(1899, 12) + 29;
-constexpr std::int64_t primoGiorno = giorniAlMese(100, 1) - giornoZero;
-constexpr std::int64_t ultimoGiorno = giorniAlMese(10000, 1) - 1 - giornoZero;
+constexpr int primoAnno = 100;
+constexpr int ultimoAnno = 9999;
+constexpr std::int64_t primoGiorno = giorniAlMese(primoAnno, 1) - giornoZero;
+constexpr std::int64_t ultimoGiorno = giorniAlMese(ultimoAnno + 1, 1) - 1 - giornoZero;
 
 std::wstring dueCifre(int numero) {
     return formattaNumero(numero, 2, 0);
@@ -46,6 +48,9 @@ DataOra DataOra::daParti(int anno, int mese, int giorno, int ora, int minuto, in
         anno += 2000;
     } else if (anno >= 30 && anno <= 99) {
         anno += 1900;
+    }
+    if (anno < primoAnno || anno > ultimoAnno) {
+        solleva(errori::chiamataNonValida);
     }
     const std::int64_t mesi = std::int64_t{anno} * 12 + mese - 1;
     const std::int64_t annoIntero = divisioneIntera(mesi, 12);

@@ -39,6 +39,7 @@ inline constexpr std::int32_t accessoAlPercorso = 75;
 inline constexpr std::int32_t percorsoNonTrovato = 76;
 inline constexpr std::int32_t valoreProprieta = 380;
 inline constexpr std::int32_t creazioneOggetto = 429;
+inline constexpr std::int32_t proprietaNonSupportata = 438;
 inline constexpr std::int32_t automazione = 440;
 inline constexpr std::int32_t immagineNonValida = 481;
 inline constexpr std::int32_t dialogoAnnullato = 32755;

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "support/koUtilitaCartelle.h"
+#include "support/koUtilitaFile.h"
+#include "support/koUtilitaFinestre.h"
+#include "support/koUtilitaRegistro.h"
+#include "support/koUtilitaSistema.h"
+#include "support/koUtilitaTesti.h"
 #include "support/messaggi.h"
 
 #include <cstdint>
@@ -8,10 +14,17 @@
 
 struct HWND__; // NOLINT(bugprone-reserved-identifier): Windows' own name for what HWND points to
 
-// General helpers on the shell, the temporary folder and the user's number format. Has no state but
-// the service that shows its messages; make one where it is needed. Texts reach Windows in the ANSI
-// code page: a character it lacks becomes "?".
-class koUtilita {
+class Errore;
+
+// General helpers, for this program and others; the bases hold them by subject. Has no state but
+// the service that shows its messages; make one where it is needed. Up to PrintErrore texts reach
+// Windows in the ANSI code page: a character it lacks becomes "?".
+class koUtilita : public koUtilitaCartelle,
+                  public koUtilitaFile,
+                  public koUtilitaFinestre,
+                  public koUtilitaRegistro,
+                  public koUtilitaSistema,
+                  public koUtilitaTesti {
 public:
     explicit koUtilita(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
 
@@ -45,7 +58,24 @@ public:
 
     // Shows the exception being handled. Call it inside a catch.
     void PrintErrore() const;
+    // The same with the number and, unless empty, the place in the text: "Errore 13 in X: ...",
+    // titled "Errore 13".
+    void PrintErroreEx(std::wstring_view dove = {}) const;
+
+    // Whether this user may make files in a folder: tries it with "120asd12.tmp", which goes away
+    // again; a file of that name that is there is opened and stays as it is. A refusal is told
+    // with the title "Errore # " and the error's number.
+    [[nodiscard]] bool WriteAccess(const std::wstring& cartella) const;
+
+    // Starts a program registered under "App Paths" by its name; ".exe" may be left out. When it is
+    // not registered or does not start, the name and ": Applicazione non trovata." are told.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): the user was told already
+    bool StartApplicazione(HWND__* hWnd, const std::wstring& programma,
+                           const std::wstring& parametri = {}) const;
 
 private:
+    // What a message box says of an error.
+    static std::wstring descrizioneDi(const Errore& errore);
+
     Messaggi& messaggi_;
 };

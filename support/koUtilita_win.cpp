@@ -5,13 +5,10 @@
 #include "support/file_win.h"
 #include "support/numeri.h"
 #include "support/prodotto.h"
-#include "support/testo.h"
 
 #include <windows.h>
 
 #include <shellapi.h>
-
-#include <array>
 
 namespace {
 
@@ -106,10 +103,14 @@ std::uint8_t koUtilita::GetSeparatoreMigliaia() {
     return secondoCarattere("1000");
 }
 
+std::wstring koUtilita::descrizioneDi(const Errore& errore) {
+    return errore.numero() == errori::nomeFileNonValido
+               ? L"Impossibile leggere l'unità specificata."
+               : errore.descrizione();
+}
+
 void koUtilita::PrintErrore() const {
     const Errore errore = erroreCorrente();
-    messaggi_.avvisa(errore.numero() == errori::nomeFileNonValido
-                         ? L"Impossibile leggere l'unità specificata."
-                         : errore.descrizione(),
-                     L"Errore " + testoConSegno(errore.numero()), Icona::Informazione);
+    messaggi_.avvisa(descrizioneDi(errore), L"Errore " + testoConSegno(errore.numero()),
+                     Icona::Informazione);
 }

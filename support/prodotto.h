@@ -21,7 +21,7 @@ inline constexpr std::wstring_view creditoFeed = L" di Quorvex (https://www.quor
 inline constexpr std::wstring_view creditoPagina = L"Quorvex";
 
 // Where the XML parser can be had, for the message that it is missing.
-inline constexpr std::wstring_view sitoParser = L"https://www.microsoft.com";
+inline constexpr std::wstring_view sitoParser = L"https://www.parser-xml.example";
 
 // Major, minor and revision in plain decimal, with the separator between them.
 [[nodiscard]] std::wstring versione(wchar_t separatore = L'.');

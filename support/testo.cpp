@@ -86,15 +86,15 @@ std::wstring aCapoCrLf(std::wstring_view testo) {
     return risultato.append(testo.substr(scritti));
 }
 
-std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore) {
+std::vector<std::wstring_view> dividi(std::wstring_view testo, std::wstring_view separatore) {
     std::vector<std::wstring_view> pezzi;
     for (;;) {
-        const auto dove = testo.find(separatore);
+        const auto dove = separatore.empty() ? testo.npos : testo.find(separatore);
         pezzi.push_back(testo.substr(0, dove));
         if (dove == std::wstring_view::npos) {
             return pezzi;
         }
-        testo.remove_prefix(dove + 1);
+        testo.remove_prefix(dove + separatore.size());
     }
 }
 

@@ -26,7 +26,13 @@
 [[nodiscard]] std::wstring aCapoCrLf(std::wstring_view testo);
 
 // The pieces between separators, empty ones included: "a;;b" gives three, "" gives one.
-[[nodiscard]] std::vector<std::wstring_view> dividi(std::wstring_view testo, wchar_t separatore);
+// An empty separator gives the whole text.
+[[nodiscard]] std::vector<std::wstring_view> dividi(std::wstring_view testo,
+                                                    std::wstring_view separatore);
+[[nodiscard]] inline std::vector<std::wstring_view> dividi(std::wstring_view testo,
+                                                           wchar_t separatore) {
+    return dividi(testo, std::wstring_view(&separatore, 1));
+}
 
 // A code point as UTF-16 on Windows and UTF-32 elsewhere, appended to a text.
 void aggiungiCarattere(std::wstring& testo, char32_t punto);

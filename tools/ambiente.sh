@@ -55,7 +55,15 @@ prefisso() {
     "$wineserver" -w
     touch "$WINEPREFIX/pronto"
   fi
-  "$wineserver" -p 30 2>/dev/null || true
+  "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+}
+
+# avvia_wine: Wine's own background programs, started with nothing of ours open: one that held a
+# test's output would keep whoever reads it waiting.
+avvia_wine() {
+  "$wine64" explorer.exe /desktop </dev/null >/dev/null 2>&1 &
+  disown
+  "$wine64" cmd /c ver </dev/null >/dev/null 2>&1
 }
 
 # schermo WxH [DPI]: a virtual display of its own, closed when the shell ends.
@@ -75,19 +83,23 @@ schermo() {
   rm -f "$uscita"
 }
 
-# disco_piccolo: a volume of 256 KB for the tests to fill, where this user may mount one.
-disco_piccolo() {
-  local dove="$build/disco-piccolo"
-  mkdir -p "$dove"
-  mountpoint -q "$dove" || mount -t tmpfs -o size=256k tmpfs "$dove" 2>/dev/null || return 0
-  export OSTRELLE_DISCO_PICCOLO="$dove"
+# dischi: a volume of 256 KB for the tests to fill and one that cannot be written, where this user may
+# mount them; the tests find them by their Windows paths.
+dischi() {
+  local pieno="$build/disco-pieno" lettura="$build/disco-lettura"
+  mkdir -p "$pieno" "$lettura"
+  mountpoint -q "$pieno" || mount -t tmpfs -o size=256k tmpfs "$pieno" 2>/dev/null || return 0
+  mountpoint -q "$lettura" || mount -t tmpfs -o ro tmpfs "$lettura" 2>/dev/null || return 0
+  dischi_montati=("$pieno" "$lettura")
+  pieno="Z:$pieno" lettura="Z:$lettura"
+  export OSTRELLE_DISCO_PIENO="${pieno//\//\\}" OSTRELLE_SOLA_LETTURA="${lettura//\//\\}"
 }
 
 # chiudi: what the shell leaves behind when it ends.
 chiudi() {
   [ -n "${WINEPREFIX:-}" ] && "$wineserver" -k 2>/dev/null
   [ -n "${schermo_pid:-}" ] && kill "$schermo_pid" 2>/dev/null
-  [ -n "${OSTRELLE_DISCO_PICCOLO:-}" ] && umount "$OSTRELLE_DISCO_PICCOLO" 2>/dev/null
+  [ -n "${dischi_montati:-}" ] && umount "${dischi_montati[@]}" 2>/dev/null
   return 0
 }
 

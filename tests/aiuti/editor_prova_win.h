@@ -16,7 +16,7 @@
 class ProvaEditor : public testing::Test {
 protected:
     ProvaEditor();
-    ~ProvaEditor() override { DestroyWindow(proprietaria); }
+    void TearDown() override { DestroyWindow(proprietaria); }
 
     // Runs `mostra`, which shows the editor, and lets the user act in it. The user has to close it.
     void usa(const std::function<void()>& mostra, std::function<void()> azioni);

@@ -1,6 +1,7 @@
 #include "tests/aiuti/griglia_prova_win.h"
 
 #include "support/errore.h"
+#include "tests/aiuti/schermo_win.h"
 #include "ui/main/GUI_win.h"
 
 #include <commctrl.h>
@@ -49,10 +50,10 @@ GrigliaProva::GrigliaProva(int elementi) {
     osservatore.lega(griglia);
     griglia.creaIn(hwnd(), 100, L"Elementi del feed", {20, 20, 600, 420});
     GUI::RiempiGriglia(griglia, false);
-    SetForegroundWindow(hwnd());
+    portaAvanti(hwnd());
     SetFocus(griglia.hwnd());
     vai({10, 10});
-    aspettaQuiete();
+    pompa();
     osservatore.eventi.clear();
 }
 
@@ -152,15 +153,7 @@ void GrigliaProva::nascondiBarra() {
 }
 
 void GrigliaProva::vai(POINT punto) {
-    const int larghezza = GetSystemMetrics(SM_CXSCREEN);
-    const int altezza = GetSystemMetrics(SM_CYSCREEN);
-    INPUT i{};
-    i.type = INPUT_MOUSE;
-    i.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-    i.mi.dx = (punto.x * 65536 + larghezza - 1) / larghezza;
-    i.mi.dy = (punto.y * 65536 + altezza - 1) / altezza;
-    SendInput(1, &i, sizeof(i));
-    aspettaQuiete();
+    muoviMouse(GetDesktopWindow(), punto);
     POINT ora{};
     GetCursorPos(&ora);
     EXPECT_EQ(ora.x, punto.x);
@@ -172,7 +165,7 @@ void GrigliaProva::pulsante(DWORD quale) {
     i.type = INPUT_MOUSE;
     i.mi.dwFlags = quale;
     SendInput(1, &i, sizeof(i));
-    aspettaQuiete();
+    pompa();
 }
 
 void GrigliaProva::rotella(int scatti) {
@@ -181,7 +174,7 @@ void GrigliaProva::rotella(int scatti) {
     i.mi.dwFlags = MOUSEEVENTF_WHEEL;
     i.mi.mouseData = static_cast<DWORD>(scatti) * WHEEL_DELTA;
     SendInput(1, &i, sizeof(i));
-    aspettaQuiete();
+    pompa();
 }
 
 void GrigliaProva::clic(POINT punto) {
@@ -212,31 +205,10 @@ void GrigliaProva::trascina(POINT da, POINT a, std::optional<POINT> poi) {
     pulsante(MOUSEEVENTF_LEFTUP);
 }
 
-void GrigliaProva::premiTasto(UINT tasto, UINT con) {
-    std::vector<INPUT> ingressi;
-    const auto batti = [&ingressi](UINT codice, DWORD verso) {
-        INPUT i{};
-        i.type = INPUT_KEYBOARD;
-        i.ki.wVk = static_cast<WORD>(codice);
-        i.ki.dwFlags = verso;
-        ingressi.push_back(i);
-    };
+void GrigliaProva::premiTasto(WORD tasto, WORD con) {
     if (con != 0) {
-        batti(con, 0);
-    }
-    batti(tasto, 0);
-    batti(tasto, KEYEVENTF_KEYUP);
-    if (con != 0) {
-        batti(con, KEYEVENTF_KEYUP);
-    }
-    SendInput(static_cast<UINT>(ingressi.size()), ingressi.data(), sizeof(INPUT));
-    aspettaQuiete();
-}
-
-void GrigliaProva::aspettaQuiete() {
-    MSG m{};
-    while (PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE)) {
-        TranslateMessage(&m);
-        DispatchMessageW(&m);
+        premi(tasto, {con});
+    } else {
+        premi(tasto);
     }
 }

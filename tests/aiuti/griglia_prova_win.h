@@ -86,8 +86,7 @@ public:
     // Clicks beside the grid, so that the next press is not the second of a pair.
     void nuovoClic();
     void trascina(POINT da, POINT a, std::optional<POINT> poi = std::nullopt);
-    void premiTasto(UINT tasto, UINT con = 0);
-    void aspettaQuiete();
+    void premiTasto(WORD tasto, WORD con = 0);
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;

@@ -3,6 +3,7 @@
 #include "support/messaggi.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -20,9 +21,12 @@ public:
         }
     }
 
+    // `intanto` happens while the box is up.
     void attendi(std::wstring testo, std::wstring titolo, Icona icona,
-                 Pulsanti pulsanti = Pulsanti::Ok, Risposta risposta = Risposta::Ok) {
-        attesi_.push_back({std::move(testo), std::move(titolo), icona, pulsanti, risposta});
+                 Pulsanti pulsanti = Pulsanti::Ok, Risposta risposta = Risposta::Ok,
+                 std::function<void()> intanto = {}) {
+        attesi_.push_back(
+            {std::move(testo), std::move(titolo), icona, pulsanti, risposta, std::move(intanto)});
     }
 
     Risposta mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
@@ -38,6 +42,9 @@ public:
         EXPECT_EQ(titolo, a.titolo);
         EXPECT_EQ(icona, a.icona);
         EXPECT_EQ(pulsanti, a.pulsanti);
+        if (a.intanto) {
+            a.intanto();
+        }
         return a.risposta;
     }
 
@@ -48,6 +55,7 @@ private:
         Icona icona;
         Pulsanti pulsanti;
         Risposta risposta;
+        std::function<void()> intanto;
     };
     std::deque<Atteso> attesi_;
 };

@@ -129,13 +129,15 @@ Registratore::Lancio Registratore::attendi() {
     }
     const auto primo = riga.find('\t');
     const auto secondo = riga.find('\t', primo + 1);
-    // "program" or "program" "target"
+    // "program", "program" "target" or "program" target
     const std::wstring comando = daUtf8(riga.substr(0, primo));
     const auto virgolette = comando.find(L'"', 1);
     EXPECT_NE(virgolette, std::wstring::npos) << riga;
-    const bool conArgomento = comando.size() > virgolette + 3;
-    return {comando.substr(1, virgolette - 1),
-            conArgomento ? comando.substr(virgolette + 3, comando.size() - virgolette - 4) : L"",
+    std::wstring argomento = comando.substr(std::min(comando.size(), virgolette + 2));
+    if (argomento.size() > 1 && argomento.starts_with(L'"')) {
+        argomento = argomento.substr(1, argomento.size() - 2);
+    }
+    return {comando.substr(1, virgolette - 1), argomento,
             daUtf8(riga.substr(primo + 1, secondo - primo - 1)),
             std::stoi(riga.substr(secondo + 1))};
 }

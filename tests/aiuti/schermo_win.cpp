@@ -169,6 +169,11 @@ void doppioClic(HWND finestra, POINT punto) {
            mouse(MOUSEEVENTF_LEFTUP)});
 }
 
+void clicDestro(HWND finestra, POINT punto) {
+    muoviMouse(finestra, punto);
+    invia({mouse(MOUSEEVENTF_RIGHTDOWN), mouse(MOUSEEVENTF_RIGHTUP)});
+}
+
 void trascina(HWND finestra, POINT da, POINT a, int passi) {
     premiMouse(finestra, da);
     for (int i = 1; i <= passi; ++i) {

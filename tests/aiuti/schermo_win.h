@@ -47,6 +47,7 @@ void scrivi(std::wstring_view testo);
 void clic(HWND finestra);
 void clic(HWND finestra, POINT punto);
 void doppioClic(HWND finestra, POINT punto);
+void clicDestro(HWND finestra, POINT punto);
 // Presses at one point and releases at the other, moving in `passi` steps.
 void trascina(HWND finestra, POINT da, POINT a, int passi = 8);
 // The parts of a drag.

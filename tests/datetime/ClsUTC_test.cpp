@@ -229,6 +229,7 @@ TEST(ClsUTC, GliAnniEstremi) {
     EXPECT_EQ(sollevatoDa([&] { return conScarto(1).GetDataUtc(prima, false); }).numero, 5);
     EXPECT_EQ(sollevatoDa([&] { return utc.ToDate(L", 31 Dec 9999 24:00:00 0"); }).numero, 5);
     EXPECT_EQ(sollevatoDa([&] { return utc.ToDate(L", 0 Jan 100 00:00:00 0"); }).numero, 5);
+    EXPECT_EQ(sollevatoDa([&] { return utc.ToDate(L", 0 Jan 10000 00:00:00 0"); }).numero, 5);
 }
 
 TEST(ClsUTC, LaDataZeroSiScriveComeTutteLeAltre) {

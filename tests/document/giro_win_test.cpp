@@ -54,7 +54,7 @@ public:
             aggiungiPezzo(testo);
         }
         // In a description it ends the section; there it is refused, which another test shows.
-        return sostituisci(testo, L"]]>", L"]>");
+        return sostituisci(testo, L"]]>", L"]] >");
     }
     int fra(int minimo, int massimo) {
         return std::uniform_int_distribution(minimo, massimo)(caso_);

@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
                                               ValoreNumerico::leggi(testo, formato) < minimo);
         const wchar_t fatto = regole.filtra(tasto, testo, 0, separatori, formato);
         pretendi(fatto == 0 || fatto == 8 || fatto == L'-' || (fatto >= L'0' && fatto <= L'9') ||
-                 (separatori.decimale != 0 && fatto == separatori.decimale));
+                 (separatori.decimale != 0 && fatto == wchar_t{separatori.decimale}));
         pretendi(!fermo || fatto == 0 || fatto == 8 || fatto == L'-');
         if (fatto == 8) {
             if (!testo.empty()) {

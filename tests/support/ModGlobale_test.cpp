@@ -136,4 +136,6 @@ TEST(ModGlobale, UnIntervalloOltre32767EOverflow) {
     EXPECT_EQ(numeroErrore(0, massimo), errori::overflow);
     EXPECT_EQ(numeroErrore(minimo, -1), errori::overflow);
     EXPECT_EQ(numeroErrore(minimo, massimo), errori::overflow);
+    EXPECT_EQ(numeroErrore(massimo, minimo), errori::overflow);
+    EXPECT_EQ(numeroErrore(massimo, 0), 0);
 }

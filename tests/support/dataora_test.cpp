@@ -85,6 +85,9 @@ TEST(DataOra, GliAnniCorti) {
 TEST(DataOra, FuoriDagliAnniErrore5) {
     EXPECT_EQ(annoNonValido(10000, 1, 1), 5);
     EXPECT_EQ(annoNonValido(-1, 1, 1), 5);
+    // The year itself, also where the day would carry back into the range.
+    EXPECT_EQ(annoNonValido(10000, 1, 0), 5);
+    EXPECT_EQ(annoNonValido(-1, 12, 40), 5);
     EXPECT_EQ(annoNonValido(9999, 12, 32), 5);
     EXPECT_EQ(annoNonValido(100, 1, 0), 5);
     EXPECT_EQ(annoNonValido(100, 1, 1), 0);

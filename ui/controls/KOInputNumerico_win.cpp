@@ -222,12 +222,13 @@ void KOInputNumerico::lascia() {
     }
     const Trattenuta trattenuta(*this);
     struct Uscita {
-        explicit Uscita(bool& segno) noexcept : inCorso(segno) { inCorso = true; }
+        explicit Uscita(bool& segno) noexcept : inCorso(segno) {}
         Uscita(const Uscita&) = delete;
         Uscita& operator=(const Uscita&) = delete;
         ~Uscita() { inCorso = false; }
         bool& inCorso;
     };
+    uscendo_ = true;
     const Uscita uscita(uscendo_);
     const auto valore = regole_.esci(campo_.testo(), formatoUtente(), *this);
     if (valore && hwnd() != nullptr) {

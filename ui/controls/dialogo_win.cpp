@@ -62,7 +62,13 @@ INT_PTR CALLBACK Dialogo::procedura(HWND hwnd, UINT msg, WPARAM wParam, LPARAM l
         nato->hwnd_ = hwnd;
         SetWindowLongPtrW(hwnd, DWLP_USER, reinterpret_cast<LONG_PTR>(nato));
         try {
-            return nato->inizializza() ? TRUE : FALSE;
+            const bool fuocoASistema = nato->inizializza();
+            if (const HWND proprietaria = GetWindow(hwnd, GW_OWNER);
+                nato->modale_ && proprietaria != nullptr) {
+                // A box shown meanwhile may have enabled the owner again when it closed.
+                EnableWindow(proprietaria, FALSE);
+            }
+            return fuocoASistema ? TRUE : FALSE;
         } catch (...) {
             nascita->errore = std::current_exception();
             nato->chiudi(-1);

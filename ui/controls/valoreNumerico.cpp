@@ -12,7 +12,9 @@ constexpr wchar_t cancellaIndietro = 8;
 
 // The characters that may form a number, one by one.
 wchar_t filtraCarattere(wchar_t tasto, Separatori separatori) noexcept {
-    const auto uguale = [](wchar_t c, std::uint8_t codice) { return codice != 0 && c == codice; };
+    const auto uguale = [](wchar_t c, std::uint8_t codice) {
+        return codice != 0 && c == wchar_t{codice};
+    };
     if (uguale(tasto, separatori.migliaia)) {
         tasto = static_cast<wchar_t>(separatori.decimale);
     }

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <ranges>
 #include <string_view>
 
 namespace {
@@ -17,8 +18,8 @@ constexpr REGSAM lettura = 0x20019;
 // when it has more than 64 bits, which only a number value of a wrong size can have.
 std::optional<std::uint64_t> numero(std::string_view byte) noexcept {
     std::uint64_t risultato = 0;
-    for (auto b = byte.rbegin(); b != byte.rend(); ++b) {
-        const auto cifre = static_cast<unsigned char>(*b);
+    for (const char b : std::views::reverse(byte)) {
+        const auto cifre = static_cast<unsigned char>(b);
         const int bit = cifre < 0x10 ? 4 : 8;
         if (risultato >> (64 - bit) != 0) {
             return std::nullopt;

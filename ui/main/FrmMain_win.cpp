@@ -3,17 +3,14 @@
 #include "datetime/ClsUTC.h"
 #include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
-#include "support/ClsSizerImg.h"
+#include "support/errori_win.h"
 #include "support/file_win.h"
-#include "support/immagine_win.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
 #include "support/orologio.h"
 #include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
-#include "ui/main/elementi.h"
-#include "ui/main/guardia_win.h"
 
 #include <commctrl.h>
 
@@ -45,6 +42,22 @@ Dpi dpiDi(HWND finestra) noexcept {
         ReleaseDC(finestra, dc);
     }
     return dpi;
+}
+
+// Enter presses the button that has the focus; a window that is no dialog has to see to it.
+bool premeConInvio(const MSG& msg) noexcept {
+    if (msg.message != WM_KEYDOWN || msg.wParam != VK_RETURN ||
+        (SendMessageW(msg.hwnd, WM_GETDLGCODE, 0, 0) &
+         (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) {
+        return false;
+    }
+    // A key held down presses once.
+    if ((HIWORD(msg.lParam) & KF_REPEAT) == 0) {
+        SendMessageW(GetParent(msg.hwnd), WM_COMMAND,
+                     MAKEWPARAM(GetDlgCtrlID(msg.hwnd), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(msg.hwnd));
+    }
+    return true;
 }
 
 } // namespace
@@ -98,22 +111,27 @@ void FrmMain::apri(int comeMostrare) {
 int FrmMain::cicloMessaggi() {
     MSG msg{};
     while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
-        smista(msg);
+        if (!anticipa(msg)) {
+            TranslateMessage(&msg);
+            DispatchMessageW(&msg);
+        }
     }
     return static_cast<int>(msg.wParam);
 }
 
-void FrmMain::smista(MSG& msg) {
-    if (hwnd() != nullptr && (msg.hwnd == hwnd() || IsChild(hwnd(), msg.hwnd))) {
-        if ((GetFocus() == griglia_.lista() &&
-             TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
-            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
-            IsDialogMessageW(hwnd(), &msg)) {
-            return;
-        }
+bool FrmMain::anticipa(MSG& msg) {
+    if (hwnd() == nullptr || (msg.hwnd != hwnd() && !IsChild(hwnd(), msg.hwnd))) {
+        return false;
     }
-    TranslateMessage(&msg);
-    DispatchMessageW(&msg);
+    if (GetCapture() == griglia_.lista()) {
+        // While a row is dragged the keys are the grid's.
+        return false;
+    }
+    return premeConInvio(msg) ||
+           (GetFocus() == griglia_.lista() &&
+            TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
+           TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
+           IsDialogMessageW(hwnd(), &msg) != FALSE;
 }
 
 LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
@@ -148,6 +166,16 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
             servizi_.coda.CancellaFile();
         }
         return 0;
+    case WM_SETTINGCHANGE:
+        griglia_.aggiornaAspetto();
+        break;
+    case WM_SYSCOLORCHANGE:
+        // The common controls hear of it from their parent only.
+        for (const HWND controllo : {griglia_.lista(), StatusBar1_, Toolbar1_.hwnd()}) {
+            SendMessageW(controllo, codice, w, l);
+        }
+        griglia_.aggiornaAspetto();
+        break;
     case WM_ACTIVATE:
         if (LOWORD(w) == WA_INACTIVE) {
             fuoco_ = GetFocus();
@@ -196,31 +224,6 @@ void FrmMain::Form_Load() {
     std::wstring cartella = cartellaProgramma();
     sfondo_ = GUI::ApplicaSfondo(koUtilita::AggiungiSepDir(cartella));
     CaricaRecenti();
-}
-
-template <class Azione>
-void FrmMain::occupando(Azione azione) {
-    if (occupata_) {
-        return;
-    }
-    occupata_ = true;
-    azione();
-    occupata_ = false;
-}
-
-bool FrmMain::Form_QueryUnload() {
-    // While a dialog is up over an unfinished command the answer stays no.
-    bool chiudere = false;
-    occupando([&] {
-        protetto(
-            [&] {
-                KOInputNumerico::lasciaQuelloColFuoco();
-                griglia_.abbandona();
-                chiudere = documento_.ChiediSalvataggio();
-            },
-            [&] { MostraErrore(); });
-    });
-    return chiudere;
 }
 
 void FrmMain::Form_Unload() noexcept {
@@ -274,126 +277,6 @@ void FrmMain::riportaErrore() noexcept {
         MostraErrore();
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
     }
-}
-
-void FrmMain::esegui(int id) {
-    if (id == mnChiudi) {
-        SendMessageW(hwnd(), WM_CLOSE, 0, 0);
-        return;
-    }
-    occupando([&] {
-        protetto(
-            [&] {
-                // A command does not move the focus: what it saves must be within the limits.
-                KOInputNumerico::lasciaQuelloColFuoco();
-                griglia_.abbandona();
-                comando(id);
-            },
-            [&] { MostraErrore(); });
-    });
-}
-
-void FrmMain::comando(int id) {
-    switch (id) {
-    case mnNuovo:
-        documento_.mnNuovo_Click();
-        break;
-    case mnApri:
-        documento_.Apri(L"");
-        break;
-    case mnsalva:
-        documento_.Salva(false);
-        break;
-    case mnSalvaCon:
-        documento_.Salva(true);
-        break;
-    case mnsalvahtm:
-        pagina_.EsportaHTML();
-        break;
-    case mnaddFeed:
-        comandiElementi_.cmdAggiungi_Click();
-        break;
-    case mnEditFeed:
-        comandiElementi_.cmdModifica_Click();
-        break;
-    case mnDelFeed:
-        comandiElementi_.cmdCancella_Click();
-        break;
-    case mnvisualhtml:
-        pagina_.mnvisualhtml_Click();
-        break;
-    case spostaSu:
-        spostaSelezionato(-1);
-        break;
-    case spostaGiu:
-        spostaSelezionato(1);
-        break;
-    case mnAggiorna:
-        RiempiGriglia(false);
-        break;
-    default:
-        if (id > mnrec && id <= ultimoRecente) {
-            // A copy: the list is read anew while the file opens.
-            const std::wstring percorso =
-                recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
-            documento_.Apri(percorso);
-        } else {
-            aiuto_.esegui(static_cast<Comando>(id), hwnd());
-        }
-        break;
-    }
-}
-
-void FrmMain::cmdGetSize_Click() {
-    occupando([&] {
-        protetto(
-            [&] {
-                const UnitaDiFinestra unita(hwnd());
-                ImmagineNascosta ImgDim;
-                ClsSizerImg misura;
-                misura.objForm(unita);
-                misura.objDlg(servizi_.dialoghi);
-                misura.objImg(ImgDim);
-                misura.LeggiImg(L"");
-                campi_.dimensioni(misura.nWidth(), misura.nHeight());
-            },
-            [&] { koUtilita(servizi_.messaggi).PrintErrore(); });
-    });
-}
-
-void FrmMain::grigliaDoppioClic(int /*riga*/) {
-    esegui(mnEditFeed);
-}
-
-void FrmMain::grigliaRigaCambiata(int riga) {
-    GUI::SelezionaRiga(griglia_, riga);
-}
-
-void FrmMain::grigliaSposta(int da, int a) {
-    comandiElementi_.SpostaElemento(da, a);
-    RiempiGriglia(false);
-}
-
-void FrmMain::spostaSelezionato(int passo) {
-    const int da = ElementoSelezionato();
-    const int a = da + passo;
-    if (da < 0 || a < 0 || a >= elementi_.conteggio()) {
-        return;
-    }
-    const int cima = griglia_.rigaInCima();
-    comandiElementi_.SpostaElemento(da, a);
-    RiempiGriglia(false);
-    griglia_.rigaInCima(cima);
-    SelezionaRiga(rigaDi(a));
-}
-
-void FrmMain::grigliaMenu(POINT punto) {
-    const ManigliaMenu menu = creaMenuContenuto();
-    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, punto.x, punto.y, 0, hwnd(), nullptr);
-}
-
-bool FrmMain::grigliaTasto(UINT /*tasto*/) {
-    return false;
 }
 
 void FrmMain::DisponiFinestra() {

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] static bool Form_Initialize(Messaggi& messaggi);
 
     explicit FrmMain(const Servizi& servizi);
+    FrmMain(const FrmMain&) = delete;
+    FrmMain& operator=(const FrmMain&) = delete;
     ~FrmMain() override { distruggi(); }
 
     // Makes the window (Form_Load runs) and shows it. Raises the failure to make it.
@@ -43,8 +45,9 @@ public:
     // Runs messages until the window is gone; gives the program's exit code.
     int cicloMessaggi();
 
-    // One message on its way: accelerators, then the dialog keys, then the rest.
-    void smista(MSG& messaggio);
+    // What a message meets before it is translated and dispatched: accelerators, then the dialog
+    // keys. True when one of them took it.
+    [[nodiscard]] bool anticipa(MSG& messaggio);
 
     void ImpostaTitolo(std::wstring_view nome) override;
     void ImpostaStato(std::wstring_view testo);
@@ -62,7 +65,7 @@ public:
     // box or a file dialog runs messages of its own.
     void esegui(int comando);
 
-    [[nodiscard]] const StatoDocumento& stato() const noexcept { return stato_; }
+    [[nodiscard]] StatoDocumento& stato() noexcept { return stato_; }
     [[nodiscard]] CampiCanale& campi() noexcept { return campi_; }
     [[nodiscard]] TabellaElementi& elementi() noexcept { return elementi_; }
     [[nodiscard]] Griglia& griglia() noexcept { return griglia_; }

@@ -40,8 +40,6 @@ bool CampiCanale::inizializza() {
     ComboBox_AddString(controllo(IDC_CBOLINGUA), L"it");
     txtData_ = SelettoreData(controllo(IDC_TXTDATA), SelettoreData::Parte::Data);
     txtOrario_ = SelettoreData(controllo(IDC_TXTORARIO), SelettoreData::Parte::Ora);
-    // No label of its own stands before it: screen readers take the window's text.
-    SetWindowTextW(controllo(IDC_TXTORARIO), L"Ora:");
     for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
         numero->CifreDecimali(0);
         numero->Massimo(massimoPixel);

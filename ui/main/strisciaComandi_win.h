@@ -7,6 +7,8 @@
 class StrisciaComandi final : public Finestra {
 public:
     StrisciaComandi() = default;
+    StrisciaComandi(const StrisciaComandi&) = delete;
+    StrisciaComandi& operator=(const StrisciaComandi&) = delete;
     ~StrisciaComandi() override { distruggi(); }
 
     // The height of each button, in pixels; before the strip gets its size.

@@ -1,6 +1,5 @@
+#include "tests/aiuti/accessibile_win.h"
 #include "tests/ui/controls/numerico_prova_win.h"
-
-#include <oleacc.h>
 
 #include <gtest/gtest.h>
 
@@ -200,19 +199,5 @@ TEST_F(NumericoFinestra, UnValoreConservatoSiMisuraSuiLimitiConservati) {
 }
 
 TEST_F(NumericoFinestra, LaCasellaHaIlNomeDellaSuaEtichetta) {
-    using Ottieni = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
-    const HMODULE libreria = LoadLibraryW(L"oleacc.dll");
-    ASSERT_NE(libreria, nullptr);
-    const auto ottieni = reinterpret_cast<Ottieni>(
-        reinterpret_cast<void*>(GetProcAddress(libreria, "AccessibleObjectFromWindow")));
-    ComPtr<IAccessible> accessibile;
-    ASSERT_EQ(ottieni(casella, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                      reinterpret_cast<void**>(accessibile.riempi())),
-              S_OK);
-    VARIANT se{};
-    se.vt = VT_I4;
-    se.lVal = CHILDID_SELF;
-    Bstr nome;
-    EXPECT_EQ(accessibile->get_accName(se, nome.riempi()), S_OK);
-    EXPECT_EQ(nome.testo(), L"Larghezza:");
+    EXPECT_EQ(nomeAccessibile(casella), L"Larghezza:");
 }

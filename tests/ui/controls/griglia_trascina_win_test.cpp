@@ -114,8 +114,8 @@ TEST(GrigliaTrascina, GliAltriTastiNonContano) {
     p.vai(p.punto(1));
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
     p.vai(p.punto(3));
-    for (const UINT tasto : {VK_DOWN, VK_HOME, VK_END, VK_RETURN, VK_DELETE, VK_SPACE}) {
-        p.premiTasto(tasto);
+    for (const int tasto : {VK_DOWN, VK_HOME, VK_END, VK_RETURN, VK_DELETE, VK_SPACE}) {
+        p.premiTasto(static_cast<WORD>(tasto));
         EXPECT_EQ(p.griglia.rigaCorrente(), 3);
         EXPECT_EQ(p.griglia.trascinato(), 0);
     }

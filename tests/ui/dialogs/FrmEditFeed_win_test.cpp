@@ -1,5 +1,6 @@
 #include "ui/dialogs/FrmEditFeed_win.h"
 
+#include "support/messaggi_win.h"
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/controls/sottoclasse_win.h"
@@ -219,6 +220,8 @@ TEST_F(FrmEditFeedModale, OgniCampoHaLaSuaEtichettaAppenaPrima) {
         EXPECT_EQ(etichetta(IDC_EDITAUTORE), L"Autore:");
         EXPECT_EQ(etichetta(IDC_EDITDESCRIZIONE), L"Descrizione:");
         EXPECT_EQ(etichetta(IDC_EDITDATA), L"Data:");
+        EXPECT_EQ(etichetta(IDC_EDITORARIO), L"Ora:");
+        EXPECT_FALSE(IsWindowVisible(GetWindow(controllo(IDC_EDITORARIO), GW_HWNDPREV)));
         premi(VK_ESCAPE);
     });
 }
@@ -229,6 +232,26 @@ TEST_F(FrmEditFeedModale, LaProprietariaAspettaETornaAttiva) {
         EXPECT_EQ(GetWindow(finestra, GW_OWNER), proprietaria);
         premi(VK_ESCAPE);
     });
+    EXPECT_TRUE(IsWindowEnabled(proprietaria));
+    EXPECT_TRUE(attendi([&] { return GetActiveWindow() == proprietaria; }));
+}
+
+TEST_F(FrmEditFeedModale, DopoIlMessaggioSullaDataLaProprietariaAspettaAncora) {
+    MessaggiWindows veri;
+    FrmEditFeed conMessaggio(veri, orologio, ultima);
+    conMessaggio.Elemento().sPubDate(L"ieri");
+    const QuandoAppare messaggio(L"#32770", L"Attenzione", [&](HWND riquadro) {
+        // Told before the dialog is seen.
+        EXPECT_EQ(finestra, nullptr);
+        EXPECT_FALSE(IsWindowEnabled(proprietaria));
+        SendMessageW(riquadro, WM_COMMAND, IDOK, 0);
+    });
+    usa([&] { conMessaggio.mostra(proprietaria); },
+        [&] {
+            EXPECT_FALSE(IsWindowEnabled(proprietaria));
+            EXPECT_EQ(GetActiveWindow(), finestra);
+            premi(VK_ESCAPE);
+        });
     EXPECT_TRUE(IsWindowEnabled(proprietaria));
     EXPECT_TRUE(attendi([&] { return GetActiveWindow() == proprietaria; }));
 }

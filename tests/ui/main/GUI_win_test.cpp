@@ -162,31 +162,3 @@ TEST(GuiGriglia, ImpostaColonneLasciaSoloLIntestazione) {
     EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
     EXPECT_EQ(p.testo(5, 1), L"titolo 4\r\ndescrizione 4");
 }
-
-TEST(GuiGriglia, RiempireNonCostaPerElemento) {
-    GrigliaProva poche(100);
-    GrigliaProva tante(100);
-    tante.tabella.dimensiona(32767);
-    // The least of several runs, which is what the machine's other work disturbs least.
-    const auto costo = [](GrigliaProva& p) {
-        LARGE_INTEGER frequenza{};
-        QueryPerformanceFrequency(&frequenza);
-        LONGLONG minimo = MAXLONGLONG;
-        for (int i = 0; i < 30; ++i) {
-            LARGE_INTEGER da{};
-            LARGE_INTEGER a{};
-            QueryPerformanceCounter(&da);
-            GUI::RiempiGriglia(p.griglia, false);
-            p.griglia.seleziona(p.griglia.righe().righe() - 1);
-            UpdateWindow(p.lista());
-            QueryPerformanceCounter(&a);
-            minimo = std::min(minimo, a.QuadPart - da.QuadPart);
-        }
-        return static_cast<double>(minimo) * 1e6 / static_cast<double>(frequenza.QuadPart);
-    };
-    const double con100 = costo(poche);
-    const double conTutti = costo(tante);
-    RecordProperty("microsecondi100", static_cast<int>(con100));
-    RecordProperty("microsecondi32767", static_cast<int>(conTutti));
-    EXPECT_LT(conTutti, 2 * con100) << con100 << " and " << conTutti << " microseconds";
-}

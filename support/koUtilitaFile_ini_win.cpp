@@ -1,0 +1,98 @@
+#include "support/koUtilitaFile.h"
+
+#include "support/ansi_win.h"
+#include "support/errori_win.h"
+#include "support/maniglie_win.h"
+#include "support/percorso_win.h"
+#include "support/testo.h"
+
+#include <windows.h>
+
+#include <array>
+
+namespace {
+
+using namespace std::string_view_literals;
+
+// No value holds it.
+constexpr const wchar_t* mancante = L"\n";
+
+bool contiene(std::wstring_view testo, std::wstring_view caratteri) noexcept {
+    return testo.find_first_of(caratteri) != std::wstring_view::npos;
+}
+
+// A section or key that Windows finds again under the same name.
+bool nomeValido(std::wstring_view nome, std::wstring_view vietati) {
+    return !nome.empty() && rifila(nome) == nome && nome.front() != L';' && nome.front() != L'[' &&
+           !contiene(nome, L"\r\n\t\0"sv) && !contiene(nome, vietati);
+}
+
+bool eUtf16(const std::wstring& percorso) noexcept {
+    const ManigliaFile file(CreateFileW(percorso.c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    std::array<unsigned char, 2> inizio{};
+    DWORD letti = 0;
+    return file && ReadFile(file.get(), inizio.data(), 2, &letti, nullptr) && letti == 2 &&
+           inizio[0] == 0xFF && inizio[1] == 0xFE;
+}
+
+// The profile calls know no longer paths; some systems take another file for one.
+bool troppoLungo(const std::wstring& percorso) noexcept {
+    return percorso.size() >= MAX_PATH;
+}
+
+// Windows takes blanks and one pair of marks off a value: a pair of our own keeps them.
+std::wstring protetto(const std::wstring& valore) {
+    if (valore.empty()) {
+        return valore;
+    }
+    const wchar_t primo = valore.front();
+    const wchar_t ultimo = valore.back();
+    const bool spazi = primo == L' ' || primo == L'\t' || ultimo == L' ' || ultimo == L'\t';
+    const bool virgolette = primo == ultimo && (primo == L'"' || primo == L'\'');
+    return spazi || virgolette ? L'"' + valore + L'"' : valore;
+}
+
+} // namespace
+
+std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                                     const std::wstring& chiave,
+                                     const std::wstring& DefaultValore) {
+    // Nothing where Windows would list names instead.
+    if (fileINI.empty() || Sezione.empty() || chiave.empty()) {
+        return DefaultValore;
+    }
+    const std::wstring percorso = percorsoCompleto(fileINI);
+    if (troppoLungo(percorso)) {
+        return DefaultValore;
+    }
+    std::wstring valore(256, L'\0');
+    for (;;) {
+        const DWORD lunghezza =
+            GetPrivateProfileStringW(Sezione.c_str(), chiave.c_str(), mancante, valore.data(),
+                                     static_cast<DWORD>(valore.size()), percorso.c_str());
+        if (lunghezza + 1 < valore.size()) {
+            valore.resize(lunghezza);
+            return valore == mancante ? DefaultValore : valore;
+        }
+        valore.resize(valore.size() * 2);
+    }
+}
+
+void koUtilitaFile::ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                              const std::wstring& chiave, const std::wstring& Valore) {
+    const std::wstring percorso = percorsoCompleto(fileINI);
+    const std::wstring tutto = Sezione + chiave + Valore;
+    if (!nomeValido(Sezione, L"]") || !nomeValido(chiave, L"=") || contiene(Valore, L"\r\n\0"sv) ||
+        (daAnsi(inAnsi(tutto)) != tutto && !eUtf16(percorso))) {
+        solleva(errori::chiamataNonValida);
+    }
+    if (troppoLungo(percorso)) {
+        solleva(errori::nomeFileNonValido);
+    }
+    if (!WritePrivateProfileStringW(Sezione.c_str(), chiave.c_str(), protetto(Valore).c_str(),
+                                    percorso.c_str())) {
+        sollevaWin32();
+    }
+}

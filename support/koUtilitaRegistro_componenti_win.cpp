@@ -1,0 +1,87 @@
+#include "support/koUtilita.h"
+
+#include "support/com_win.h"
+#include "support/comando.h"
+#include "support/errori_win.h"
+#include "support/maniglie_win.h"
+#include "support/percorso_win.h"
+#include "support/registro_win.h"
+#include "support/testo.h"
+
+#include <windows.h>
+
+#include <ole2.h>
+
+#include <array>
+
+namespace {
+
+struct TrattiLibreria {
+    using Tipo = HMODULE;
+    static Tipo vuota() noexcept { return nullptr; }
+    static void chiudi(Tipo libreria) noexcept { FreeLibrary(libreria); }
+};
+using Libreria = Maniglia<TrattiLibreria>;
+
+void chiama(const std::wstring& file, const char* procedura) {
+    const Apartamento apartamento;
+    // The library's own libraries stand beside it.
+    const Libreria libreria(LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH));
+    if (!libreria) {
+        sollevaWin32();
+    }
+    using Procedura = HRESULT(STDAPICALLTYPE*)();
+    const auto registra = reinterpret_cast<Procedura>(
+        reinterpret_cast<void*>(GetProcAddress(libreria.get(), procedura)));
+    if (registra == nullptr) {
+        solleva(errori::proprietaNonSupportata);
+    }
+    verifica(registra());
+}
+
+void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
+    const std::wstring percorso = percorsoCompleto(file);
+    const std::wstring estensione = maiuscolo(koUtilita::EstraiEstensione(percorso));
+    const bool programma = estensione == L".EXE";
+    if (!programma && estensione != L".DLL" && estensione != L".OCX") {
+        solleva(errori::chiamataNonValida);
+    }
+    if (GetFileAttributesW(percorso.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        sollevaWin32();
+    }
+    if (!programma) {
+        chiama(percorso, procedura);
+    } else if (koUtilita::ShellSospensiva(L'"' + percorso + L"\" " + opzione) != 0U) {
+        solleva(errori::erroreIO);
+    }
+}
+
+// What stands under the key of a component's class; empty when there is none.
+std::wstring diClasse(const std::wstring& componente, const wchar_t* chiave) {
+    CLSID clsid{};
+    std::array<wchar_t, 39> testo{};
+    if (componente.empty() || FAILED(CLSIDFromString(componente.c_str(), &clsid)) ||
+        StringFromGUID2(clsid, testo.data(), static_cast<int>(testo.size())) == 0) {
+        return {};
+    }
+    return leggiTesto(HKEY_CLASSES_ROOT, std::wstring(L"Clsid\\") + testo.data() + chiave, L"")
+        .value_or(L"");
+}
+
+} // namespace
+
+void koUtilitaRegistro::RegistraServer(const std::wstring& file) {
+    esegui(file, "DllRegisterServer", L"/REGSERVER");
+}
+
+void koUtilitaRegistro::DeRegistraServer(const std::wstring& file) {
+    esegui(file, "DllUnregisterServer", L"/UNREGSERVER");
+}
+
+std::wstring koUtilitaRegistro::PathServerOcx(const std::wstring& componente) {
+    return sostituisci(diClasse(componente, L"\\InprocServer32"), L"\"", L"");
+}
+
+std::wstring koUtilitaRegistro::PathServerExe(const std::wstring& componente) {
+    return fileDelComando(diClasse(componente, L"\\LocalServer32"));
+}

@@ -1,0 +1,197 @@
+#include "support/koUtilita.h"
+
+#include "support/comando.h"
+#include "support/errori_win.h"
+#include "support/maniglie_win.h"
+#include "support/registro_win.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <utility>
+
+namespace {
+
+constexpr const wchar_t* correnti = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
+
+bool nomeDiChiave(const std::wstring& nome) noexcept {
+    return !nome.empty() && nome.size() <= 255 && nome.find_first_of(L'\\') == std::wstring::npos &&
+           nome.find_first_of(L'\0') == std::wstring::npos;
+}
+
+void verificaNome(const std::wstring& nome) {
+    if (!nomeDiChiave(nome)) {
+        solleva(errori::chiamataNonValida);
+    }
+}
+
+// A value of a program's key, the user's before the machine's; empty when there is none.
+std::wstring diAppPaths(const std::wstring& programma, const wchar_t* valore) {
+    if (!nomeDiChiave(programma)) {
+        return {};
+    }
+    std::wstring chiave = correnti + std::wstring(L"App Paths\\") + programma;
+    if (koUtilita::EstraiEstensione(programma).empty()) {
+        chiave += L".exe";
+    }
+    for (const HKEY radice : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        if (auto testo = leggiTesto(radice, chiave, valore); testo && !testo->empty()) {
+            return *testo;
+        }
+    }
+    return {};
+}
+
+std::wstring fileRegistrato(const std::wstring& programma) {
+    return fileDelComando(diAppPaths(programma, L""));
+}
+
+std::wstring chiaveDisinstallazione(const std::wstring& programma) {
+    return correnti + std::wstring(L"Uninstall\\") + programma;
+}
+
+// The count of a shared file; 0 when it has none.
+DWORD conto(const std::wstring& file) {
+    if (file.empty()) {
+        solleva(errori::chiamataNonValida);
+    }
+    const std::wstring chiave = correnti + std::wstring(L"SharedDLLs");
+    DWORD numero = 0;
+    DWORD byte = sizeof(numero);
+    switch (const LSTATUS esito = RegGetValueW(HKEY_LOCAL_MACHINE, chiave.c_str(), file.c_str(),
+                                               RRF_RT_DWORD, nullptr, &numero, &byte)) {
+    case ERROR_SUCCESS:
+        if (byte != sizeof(numero)) {
+            solleva(errori::tipoNonCorrispondente);
+        }
+        return numero;
+    case ERROR_FILE_NOT_FOUND:
+        return 0;
+    case ERROR_UNSUPPORTED_TYPE:
+    case ERROR_INVALID_DATA:
+    case ERROR_MORE_DATA:
+        solleva(errori::tipoNonCorrispondente);
+    default:
+        sollevaWin32(static_cast<DWORD>(esito));
+    }
+}
+
+// 0 takes it away.
+void conto(const std::wstring& file, DWORD numero) {
+    const std::wstring chiave = correnti + std::wstring(L"SharedDLLs");
+    const LSTATUS esito = numero == 0
+                              ? RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, chiave.c_str(), file.c_str())
+                              : RegSetKeyValueW(HKEY_LOCAL_MACHINE, chiave.c_str(), file.c_str(),
+                                                REG_DWORD, &numero, sizeof(numero));
+    if (esito != ERROR_SUCCESS) {
+        sollevaWin32(static_cast<DWORD>(esito));
+    }
+}
+
+// Where this user may write a class: those of all users, else the user's own.
+ChiaveRegistro classiScrivibili(const std::wstring& classe) {
+    HKEY chiave = nullptr;
+    LSTATUS esito = RegCreateKeyW(HKEY_CLASSES_ROOT, classe.c_str(), &chiave);
+    const ChiaveRegistro prova(std::exchange(chiave, nullptr));
+    esito = esito == ERROR_ACCESS_DENIED
+                ? RegCreateKeyW(HKEY_CURRENT_USER, L"Software\\Classes", &chiave)
+            : esito == ERROR_SUCCESS ? RegOpenKeyW(HKEY_CLASSES_ROOT, nullptr, &chiave)
+                                     : esito;
+    if (esito != ERROR_SUCCESS) {
+        sollevaWin32(static_cast<DWORD>(esito));
+    }
+    return ChiaveRegistro(chiave);
+}
+
+} // namespace
+
+bool koUtilita::StartApplicazione(HWND hWnd, const std::wstring& programma,
+                                  const std::wstring& parametri) const {
+    const std::wstring file = fileRegistrato(programma);
+    if (!file.empty()) {
+        const HINSTANCE esito = ShellExecuteW(hWnd, nullptr, file.c_str(), parametri.c_str(),
+                                              EstraiPath(file).c_str(), SW_SHOWNORMAL);
+        if (reinterpret_cast<INT_PTR>(esito) > 32) {
+            return true;
+        }
+    }
+    messaggi_.avvisa(programma + L": Applicazione non trovata.", L"Errore", Icona::Critica);
+    return false;
+}
+
+std::wstring koUtilitaRegistro::CartellaApplicazione(const std::wstring& programma) {
+    const std::wstring percorsi = diAppPaths(programma, L"Path");
+    std::wstring cartella = percorsi.substr(0, percorsi.find(L';'));
+    if (cartella.empty()) {
+        cartella = koUtilita::EstraiPath(fileRegistrato(programma));
+    }
+    return koUtilita::AggiungiSepDir(cartella);
+}
+
+std::uint32_t koUtilitaRegistro::SetFileShared(const std::wstring& file) {
+    const DWORD numero = conto(file);
+    if (numero == MAXDWORD) {
+        solleva(errori::overflow);
+    }
+    conto(file, numero + 1);
+    return numero + 1;
+}
+
+std::uint32_t koUtilitaRegistro::DecFileShared(const std::wstring& file) {
+    const DWORD numero = conto(file);
+    if (numero == 0) {
+        return 0;
+    }
+    conto(file, numero - 1);
+    return numero - 1;
+}
+
+std::optional<InfoDisinstallazione>
+koUtilitaRegistro::GetInfoDisinstallazione(const std::wstring& programma) {
+    const std::wstring chiave = chiaveDisinstallazione(programma);
+    HKEY maniglia = nullptr;
+    if (!nomeDiChiave(programma) || RegOpenKeyExW(HKEY_LOCAL_MACHINE, chiave.c_str(), 0,
+                                                  KEY_QUERY_VALUE, &maniglia) != ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    RegCloseKey(maniglia);
+    const auto testo = [&chiave](const wchar_t* valore) {
+        return leggiTesto(HKEY_LOCAL_MACHINE, chiave, valore).value_or(L"");
+    };
+    return InfoDisinstallazione{testo(L"DisplayName"), testo(L"UninstallString")};
+}
+
+void koUtilitaRegistro::SetInfoDisinstallazione(const std::wstring& programma,
+                                                const InfoDisinstallazione& info) {
+    verificaNome(programma);
+    const std::wstring chiave = chiaveDisinstallazione(programma);
+    scriviTesto(HKEY_LOCAL_MACHINE, chiave, L"DisplayName", info.DisplayName);
+    scriviTesto(HKEY_LOCAL_MACHINE, chiave, L"UninstallString", info.UninstallString);
+}
+
+void koUtilitaRegistro::CreaAssociazione(const std::wstring& estensione, const std::wstring& tipo,
+                                         const std::wstring& descrizione,
+                                         const std::wstring& programma, const std::wstring& icona) {
+    const std::wstring conPunto = estensione.starts_with(L'.') ? estensione : L'.' + estensione;
+    verificaNome(tipo);
+    verificaNome(conPunto);
+    // A lone dot is no extension, and a type must not take an extension's own key.
+    if (conPunto.size() < 2 || tipo.starts_with(L'.') || programma.empty() ||
+        programma.find(L'"') != std::wstring::npos) {
+        solleva(errori::chiamataNonValida);
+    }
+    const ChiaveRegistro classi = classiScrivibili(tipo);
+    const auto scrivi = [&classi](const std::wstring& chiave, const std::wstring& valore) {
+        scriviTesto(classi.get(), chiave, L"", valore);
+    };
+    scrivi(tipo, descrizione);
+    scrivi(tipo + L"\\Shell\\Open\\Command", L'"' + programma + L"\" \"%1\"");
+    if (!icona.empty()) {
+        scrivi(tipo + L"\\DefaultIcon", icona);
+    }
+    // Last: until here nothing that worked has changed.
+    scrivi(conPunto, tipo);
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "support/ClsCodaEliminazione.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/dialoghi_finti.h"
+#include "tests/aiuti/editor_finto.h"
+#include "tests/aiuti/impostazioni_finte.h"
+#include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/orologio_fermo.h"
+#include "tests/aiuti/schermo_win.h"
+#include "ui/main/FrmMain_win.h"
+
+#include "res/risorse.h"
+
+#include <gtest/gtest.h>
+
+// The requests of the document commands' file dialogs.
+inline const RichiestaFile richiestaApri{
+    L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*", 4100, L""};
+inline const RichiestaFile richiestaSalva{
+    L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*", 2050, L".xml"};
+
+inline constexpr const wchar_t* domandaSalvataggio =
+    L"Il documento è stato modificato. Si desidera salvare le modifiche?";
+
+// The real main window, shown, among fakes for what blocks.
+class ProvaFrmMain : public testing::Test {
+protected:
+    ProvaFrmMain() {
+        finestra.apri(SW_SHOWNORMAL);
+        portaAvanti(finestra.hwnd());
+    }
+
+    // The question about unsaved changes comes and gets this answer.
+    void attendiDomanda(Risposta risposta) {
+        messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda, Pulsanti::SiNoAnnulla,
+                         risposta);
+    }
+    void attendiErrore(std::int32_t numero, std::wstring testo) {
+        messaggi.attendi(std::move(testo), L"Errore n° " + std::to_wstring(numero), Icona::Critica);
+    }
+
+    // A control of the channel's frame.
+    [[nodiscard]] HWND campo(int id) { return GetDlgItem(finestra.campi().hwnd(), id); }
+    [[nodiscard]] std::wstring titolo() { return testoDi(finestra.hwnd()); }
+    [[nodiscard]] std::wstring pannello(WPARAM numero) {
+        const HWND barra = GetDlgItem(finestra.hwnd(), IDC_STATUSBAR);
+        std::wstring testo(LOWORD(SendMessageW(barra, SB_GETTEXTLENGTHW, numero, 0)), L'\0');
+        SendMessageW(barra, SB_GETTEXTW, numero, reinterpret_cast<LPARAM>(testo.data()));
+        return testo;
+    }
+
+    // An item straight into the table, shown, without counting as a modification.
+    void metti(const std::wstring& titoloElemento) {
+        const int i = finestra.elementi().aggiungi();
+        finestra.elementi()(CampoElemento::Titolo, i) = titoloElemento;
+        finestra.elementi()(CampoElemento::Link, i) = L"https://e.example/" + titoloElemento;
+        finestra.elementi()(CampoElemento::Data, i) = L"Tue, 15 Nov 2005 10:00:00 +0100";
+        finestra.RiempiGriglia(false);
+    }
+    [[nodiscard]] std::wstring titoliElementi() {
+        std::wstring tutti;
+        for (int i = 0; i < finestra.elementi().conteggio(); ++i) {
+            tutti += finestra.elementi()(CampoElemento::Titolo, i) + L';';
+        }
+        return tutti;
+    }
+
+    MessaggiFinti messaggi;
+    DialoghiFinti dialoghi;
+    OrologioFermo orologio{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
+    ImpostazioniFinte impostazioni;
+    ClsCodaEliminazione coda;
+    EditorFinto editor;
+    CartellaProva cartella;
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
+    ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
+};

@@ -1,0 +1,589 @@
+#include "tests/aiuti/scimmia_win.h"
+
+#include "res/risorse.h"
+#include "support/testo.h"
+#include "ui/main/elementi.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::array dateElementi{L"Tue, 15 Nov 2005 10:00:00 +0100",
+                                  L"Wed, 16 Nov 2005 23:59:59 +0000", L"ieri"};
+// Of Latin 1: beyond it the file's texts are written as references, and read back as these.
+constexpr std::wstring_view lettere = L"abcxyzàèìòùABC<&>\"'0123456789";
+constexpr std::wstring_view domandaCancella =
+    L"Si desidera cancellare realmente il contenuto selezionato?";
+constexpr std::wstring_view domandaApri = L"Si desidera aprire il file salvato?";
+constexpr int passiFraSorveglianze = 10; // milliseconds
+
+// Whose watch the timer keeps; a timer's procedure has no room for it.
+Scimmia*& viva() {
+    static Scimmia* scimmia = nullptr;
+    return scimmia;
+}
+
+bool diClasse(HWND finestra, std::wstring_view classe) {
+    std::array<wchar_t, 64> nome{};
+    GetClassNameW(finestra, nome.data(), static_cast<int>(nome.size()));
+    return classe == nome.data();
+}
+
+// A visible top-level window of this thread and class, or none.
+HWND sopra(std::wstring_view classe) {
+    struct Ricerca {
+        std::wstring_view classe;
+        HWND trovata = nullptr;
+    } ricerca{classe};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND finestra, LPARAM l) -> BOOL {
+            auto& r = *reinterpret_cast<Ricerca*>(l);
+            if (IsWindowVisible(finestra) != FALSE && diClasse(finestra, r.classe)) {
+                r.trovata = finestra;
+            }
+            return r.trovata == nullptr ? TRUE : FALSE;
+        },
+        reinterpret_cast<LPARAM>(&ricerca));
+    return ricerca.trovata;
+}
+
+} // namespace
+
+Scimmia::Scimmia(std::uint32_t seme)
+    : generatore_(seme), rovinato_(cartella_.scrivi(L"rovinato.xml", "<rss><channel>")),
+      timer_(SetTimer(nullptr, 0, passiFraSorveglianze, &sorveglia)) {
+    viva() = this;
+    finestra_.apri(SW_SHOWNORMAL);
+    portaAvanti(finestra_.hwnd());
+}
+
+Scimmia::~Scimmia() {
+    KillTimer(nullptr, timer_);
+    viva() = nullptr;
+}
+
+void Scimmia::segnala(std::string guasto) {
+    if (guasto_.empty()) {
+        guasto_ = std::move(guasto);
+    }
+}
+
+int Scimmia::caso(int quanti) {
+    // Not a distribution: the same numbers with every library.
+    return static_cast<int>(generatore_() % static_cast<std::uint32_t>(quanti));
+}
+
+std::wstring Scimmia::testoCaso(int massimo) {
+    std::wstring testo;
+    for (int i = 1 + caso(massimo); i > 0; --i) {
+        testo += lettere[static_cast<std::size_t>(caso(static_cast<int>(lettere.size())))];
+    }
+    return testo;
+}
+
+// What the window asks.
+
+Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, Icona /*icona*/,
+                         Pulsanti pulsanti) {
+    if (pulsanti == Pulsanti::Ok) {
+        const bool noto = titolo == L"Attenzione" || titolo.starts_with(L"Errore");
+        if (!noto || testo.empty()) {
+            segnala("unknown message: " + inUtf8(titolo) + ": " + inUtf8(testo));
+        }
+        return Risposta::Ok;
+    }
+    if (testo == domandaApri) {
+        return Risposta::No;
+    }
+    if (testo == domandaCancella) {
+        if (caso(4) == 0) {
+            return Risposta::No;
+        }
+        const int i = finestra_.ElementoSelezionato();
+        if (i < 0 || i >= static_cast<int>(modello_.size())) {
+            segnala("deletes what is no item");
+            return Risposta::No;
+        }
+        modello_.erase(modello_.begin() + i);
+        ++conti_.cancellati;
+        return Risposta::Si;
+    }
+    constexpr std::array risposte{Risposta::Si, Risposta::No, Risposta::Annulla};
+    domanda_ = chiude_ ? Risposta::Annulla : risposte[static_cast<std::size_t>(caso(3))];
+    return *domanda_;
+}
+
+std::wstring Scimmia::percorsoCaso(bool salvataggio) {
+    const int quale = caso(10);
+    if (quale == 0) {
+        sollevaDialogoAnnullato();
+    }
+    if (quale == 1) {
+        return cartella_.file(L"manca\\") + L"n.xml";
+    }
+    if (quale == 2 && !salvataggio) {
+        return rovinato_;
+    }
+    return cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
+}
+
+std::wstring Scimmia::apri(const RichiestaFile& richiesta) {
+    if (richiesta.estensione.empty() && richiesta.filtro.find(L".xml") == std::wstring::npos) {
+        return rovinato_; // an image that is none
+    }
+    return scelto_ = percorsoCaso(false);
+}
+
+std::wstring Scimmia::salva(const RichiestaFile& richiesta) {
+    if (richiesta.estensione == L".htm") {
+        return cartella_.file(L"pagina.htm");
+    }
+    return percorsoCaso(true);
+}
+
+void Scimmia::scrivi(std::wstring_view sezione, std::wstring_view chiave,
+                     std::wstring_view valore) {
+    valori_.scrivi(sezione, chiave, valore);
+    if (chiave == L"murl1") {
+        // A save has succeeded.
+        salvati_[std::wstring(valore)] = modello_;
+        salvato_ = true;
+        ++conti_.salvati;
+    }
+}
+
+std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaData) {
+    if (nellEditor_) {
+        segnala("a second editor");
+        return std::nullopt;
+    }
+    nellEditor_ = true;
+    // A second command while the editor is open does nothing.
+    constexpr std::array comandi{mnaddFeed, mnEditFeed, mnDelFeed, mnNuovo, mnApri, spostaGiu};
+    finestra_.esegui(comandi[static_cast<std::size_t>(caso(static_cast<int>(comandi.size())))]);
+    nellEditor_ = false;
+
+    const bool aggiunge = elemento.sTitle().empty();
+    const int i = aggiunge ? static_cast<int>(modello_.size()) : finestra_.ElementoSelezionato();
+    if (!aggiunge && (i < 0 || i >= static_cast<int>(modello_.size()) ||
+                      elemento.sTitle() != modello_[static_cast<std::size_t>(i)][0] ||
+                      elemento.sDescription() != modello_[static_cast<std::size_t>(i)][2])) {
+        segnala("the editor gets another item than the one selected");
+        return std::nullopt;
+    }
+    if (caso(4) == 0) {
+        return std::nullopt;
+    }
+    Elemento nuovo{
+        testoCaso(30),  L"https://e.example/" + std::to_wstring(caso(1000)), testoCaso(200),
+        L"a@e.example", dateElementi[static_cast<std::size_t>(caso(3))],     L""};
+    elemento.sTitle(nuovo[0]);
+    elemento.sLink(nuovo[1]);
+    elemento.sDescription(nuovo[2]);
+    elemento.sAuthor(nuovo[3]);
+    elemento.sPubDate(nuovo[4]);
+    if (aggiunge) {
+        modello_.push_back(std::move(nuovo)); // its guid is looked up when it has one
+        ++conti_.aggiunti;
+    } else {
+        auto& vecchio = modello_[static_cast<std::size_t>(i)];
+        nuovo[5] = vecchio[5];
+        vecchio = std::move(nuovo);
+        ++conti_.modificati;
+    }
+    return ultimaData;
+}
+
+// What it does.
+
+void Scimmia::sposta(int da, int a) {
+    if (da < 0 || a < 0 || da == a || std::max(da, a) >= static_cast<int>(modello_.size())) {
+        return;
+    }
+    Elemento mosso = std::move(modello_[static_cast<std::size_t>(da)]);
+    modello_.erase(modello_.begin() + da);
+    modello_.insert(modello_.begin() + a, std::move(mosso));
+    ++conti_.spostati;
+}
+
+void Scimmia::tasto() {
+    fatto_ = "key";
+    if (caso(3) == 0) {
+        SetFocus(finestra_.griglia().lista());
+        if (caso(2) == 0) {
+            const int passo = caso(2) == 0 ? -1 : 1;
+            const int da = finestra_.ElementoSelezionato();
+            fatto_ = "Alt+arrow";
+            premi(static_cast<WORD>(passo < 0 ? VK_UP : VK_DOWN), {VK_MENU});
+            sposta(da, da + passo);
+            return;
+        }
+    }
+    constexpr std::array<WORD, 20> tasti{VK_TAB,    VK_UP,    VK_DOWN,   VK_LEFT,   VK_RIGHT,
+                                         VK_HOME,   VK_END,   VK_PRIOR,  VK_NEXT,   VK_BACK,
+                                         VK_DELETE, VK_SPACE, VK_RETURN, VK_ESCAPE, VK_INSERT,
+                                         VK_F4,     VK_F10,   'A',       '7',       VK_ADD};
+    const WORD tasto = tasti[static_cast<std::size_t>(caso(static_cast<int>(tasti.size())))];
+    fatto_ += " " + std::to_string(tasto);
+    if (caso(5) == 0 && tasto != VK_ESCAPE) {
+        premi(tasto, {VK_SHIFT});
+    } else {
+        premi(tasto);
+    }
+}
+
+void Scimmia::scriveTesto() {
+    fatto_ = "text";
+    constexpr std::array campi{IDC_TXTTITOLO,    IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
+                               IDC_CBOLINGUA,    IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
+                               IDC_TXTLOGO,      IDC_TXTURL,       IDC_TXTLINKIMG,
+                               IDC_TXTLARGHEZZA, IDC_TXTALTEZZA,   IDC_TXTDATA};
+    SetFocus(GetDlgItem(finestra_.campi().hwnd(),
+                        campi[static_cast<std::size_t>(caso(static_cast<int>(campi.size())))]));
+    if (caso(2) == 0) {
+        premi('A', {VK_CONTROL});
+    }
+    ::scrivi(testoCaso(6));
+}
+
+std::optional<Scimmia::Posto> Scimmia::postoCaso() {
+    std::vector<HWND> figli;
+    EnumChildWindows(
+        finestra_.hwnd(),
+        [](HWND figlio, LPARAM l) -> BOOL {
+            if (IsWindowVisible(figlio) != FALSE && IsWindowEnabled(figlio) != FALSE) {
+                reinterpret_cast<std::vector<HWND>*>(l)->push_back(figlio);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&figli));
+    const HWND figlio = figli[static_cast<std::size_t>(caso(static_cast<int>(figli.size())))];
+    RECT r{};
+    GetClientRect(figlio, &r);
+    if (r.right < 1 || r.bottom < 1) {
+        return std::nullopt;
+    }
+    POINT punto{caso(r.right), caso(r.bottom)};
+    POINT schermo = punto;
+    ClientToScreen(figlio, &schermo);
+    const HWND sotto = WindowFromPoint(schermo);
+    // The toolbar has its own step, for it sends mail; the status bar has the size grip, and a
+    // press on what is not the inside of a window starts a loop of the system's.
+    if (sotto == nullptr || IsChild(finestra_.hwnd(), sotto) == FALSE ||
+        GetDlgCtrlID(sotto) == IDC_TOOLBAR || GetDlgCtrlID(sotto) == IDC_STATUSBAR ||
+        SendMessageW(sotto, WM_NCHITTEST, 0, MAKELPARAM(schermo.x, schermo.y)) != HTCLIENT) {
+        return std::nullopt;
+    }
+    ScreenToClient(sotto, &schermo);
+    return Posto{sotto, schermo};
+}
+
+void Scimmia::clicca() {
+    const auto posto = postoCaso();
+    if (!posto) {
+        return;
+    }
+    fatto_ = "click on control " + std::to_string(GetDlgCtrlID(posto->finestra));
+    if (caso(4) == 0) {
+        doppioClic(posto->finestra, posto->punto);
+    } else {
+        clic(posto->finestra, posto->punto);
+    }
+}
+
+void Scimmia::trascinaInUnCampo() {
+    const auto posto = postoCaso();
+    if (!posto || posto->finestra == finestra_.griglia().lista()) {
+        return;
+    }
+    fatto_ = "drag in control " + std::to_string(GetDlgCtrlID(posto->finestra));
+    trascina(posto->finestra, posto->punto, {posto->punto.x + caso(200) - 100, posto->punto.y}, 3);
+}
+
+POINT Scimmia::puntoGriglia() {
+    RECT r{};
+    GetClientRect(finestra_.griglia().lista(), &r);
+    return {caso(std::max(1L, r.right)), caso(std::max(1L, r.bottom))};
+}
+
+void Scimmia::trascinaInGriglia() {
+    fatto_ = "drag in the grid";
+    const HWND lista = finestra_.griglia().lista();
+    // Between the pages of a pair of clicks a double click would open the editor.
+    clic(finestra_.campi().hwnd(), {1, 1});
+    premiMouse(lista, puntoGriglia());
+    for (int i = caso(6); i > 0; --i) {
+        muoviMouse(lista, puntoGriglia());
+    }
+    if (caso(6) == 0) {
+        constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
+        premi(tasti[static_cast<std::size_t>(caso(4))]);
+    }
+    const int da = finestra_.griglia().trascinato();
+    const int a = finestra_.ElementoSelezionato();
+    lasciaMouse();
+    sposta(da, a);
+}
+
+void Scimmia::menuGriglia() {
+    fatto_ = "menu of the grid";
+    SetFocus(finestra_.griglia().lista());
+    voceMenu_ = caso(4) - 1;
+    if (caso(2) == 0) {
+        premi(VK_APPS);
+    } else {
+        const POINT punto = puntoGriglia();
+        const LPARAM dove = MAKELPARAM(punto.x, punto.y);
+        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
+        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONUP, 0, dove);
+        pompa();
+    }
+}
+
+void Scimmia::eseguiUno(int comando) {
+    fatto_ = "command " + std::to_string(comando);
+    SendMessageW(finestra_.hwnd(), WM_COMMAND, static_cast<WPARAM>(comando), 0);
+    pompa();
+}
+
+bool Scimmia::lasciato() const {
+    return !domanda_ || *domanda_ == Risposta::No || (*domanda_ == Risposta::Si && salvato_);
+}
+
+void Scimmia::nuovo() {
+    if (caso(2) == 0) {
+        eseguiUno(mnNuovo);
+    } else {
+        fatto_ = "Ctrl+N";
+        premi('N', {VK_CONTROL});
+    }
+    if (lasciato()) {
+        modello_.clear();
+    }
+}
+
+void Scimmia::apre(int comando) {
+    if (comando != mnApri) {
+        std::array<wchar_t, MAX_PATH> voce{};
+        GetMenuStringW(GetMenu(finestra_.hwnd()), static_cast<UINT>(comando), voce.data(),
+                       static_cast<int>(voce.size()), MF_BYCOMMAND);
+        if (voce[0] == L'\0') {
+            return;
+        }
+        scelto_ = voce.data();
+    }
+    eseguiUno(comando);
+    if (!lasciato() || scelto_.empty()) {
+        return;
+    }
+    const auto salvato = salvati_.find(minuscolo(scelto_));
+    if (salvato == salvati_.end()) {
+        modello_.clear(); // unreadable: the window stays emptied
+    } else {
+        modello_ = salvato->second;
+        ++conti_.aperti;
+    }
+}
+
+void Scimmia::comando() {
+    switch (caso(14)) {
+    case 0:
+        if (caso(3) == 0) {
+            nuovo();
+        }
+        return;
+    case 1:
+        apre(mnApri);
+        return;
+    case 2:
+        apre(mnrec + 1 + caso(5));
+        return;
+    case 3:
+        eseguiUno(mnsalva);
+        return;
+    case 4:
+        eseguiUno(mnSalvaCon);
+        return;
+    case 5:
+        fatto_ = "Ctrl+S";
+        premi('S', {VK_CONTROL});
+        return;
+    case 6:
+        eseguiUno(mnsalvahtm);
+        return;
+    case 7:
+        eseguiUno(caso(2) == 0 ? mninfo : mnAggiorna);
+        return;
+    case 8:
+        eseguiUno(mnEditFeed);
+        return;
+    case 9:
+        eseguiUno(mnDelFeed);
+        return;
+    default:
+        eseguiUno(mnaddFeed);
+        return;
+    }
+}
+
+void Scimmia::ridimensiona() {
+    fatto_ = "size";
+    const int come = caso(6);
+    if (come < 4) {
+        SetWindowPos(finestra_.hwnd(), nullptr, caso(200), caso(200), 150 + caso(1400),
+                     100 + caso(800), SWP_NOZORDER);
+    } else {
+        ShowWindow(finestra_.hwnd(), come == 4 ? SW_MAXIMIZE : SW_MINIMIZE);
+        pompa();
+        ShowWindow(finestra_.hwnd(), SW_RESTORE);
+    }
+    pompa();
+}
+
+void Scimmia::chiudeEAnnulla() {
+    fatto_ = "close, taken back";
+    // Only where the question comes: a closed window is the end of the test.
+    if (!finestra_.stato().scartabile(finestra_.campi().vuoti() && modello_.empty())) {
+        chiude_ = true;
+        SendMessageW(finestra_.hwnd(), WM_CLOSE, 0, 0);
+        pompa();
+        chiude_ = false;
+    }
+}
+
+void Scimmia::portaFuoco() {
+    if (GetForegroundWindow() != finestra_.hwnd()) {
+        portaAvanti(finestra_.hwnd());
+    }
+    if (GetFocus() == nullptr) {
+        SetFocus(finestra_.griglia().lista());
+    }
+}
+
+void Scimmia::passo() {
+    domanda_.reset();
+    salvato_ = false;
+    scelto_.clear();
+    voceMenu_ = -1;
+    battiti_ = 0;
+    fatto_.clear();
+    portaFuoco();
+    switch (caso(12)) {
+    case 0:
+    case 1:
+    case 2:
+        tasto();
+        break;
+    case 3:
+        scriveTesto();
+        break;
+    case 4:
+    case 5:
+        clicca();
+        break;
+    case 6:
+        trascinaInUnCampo();
+        break;
+    case 7:
+    case 8:
+        trascinaInGriglia();
+        break;
+    case 9:
+        menuGriglia();
+        break;
+    case 10:
+        caso(4) == 0 ? ridimensiona() : caso(8) == 0 ? chiudeEAnnulla() : comando();
+        break;
+    default:
+        comando();
+        break;
+    }
+    confronta();
+}
+
+void Scimmia::riposa() {
+    ReleaseCapture();
+    premi(VK_ESCAPE);
+    SetFocus(GetDlgItem(finestra_.campi().hwnd(), IDC_TXTTITOLO));
+    SetWindowPos(finestra_.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER);
+    finestra_.NuovoDocumento();
+    modello_.clear();
+    pompa();
+}
+
+void Scimmia::confronta() {
+    if (IsWindow(finestra_.hwnd()) == FALSE || IsWindowVisible(finestra_.hwnd()) == FALSE ||
+        IsWindowEnabled(finestra_.hwnd()) == FALSE) {
+        segnala("the window does not answer");
+        return;
+    }
+    const TabellaElementi& tabella = finestra_.elementi();
+    if (tabella.conteggio() != static_cast<int>(modello_.size())) {
+        segnala("items: " + std::to_string(tabella.conteggio()) + ", in the model " +
+                std::to_string(modello_.size()));
+        return;
+    }
+    for (int i = 0; i < tabella.conteggio(); ++i) {
+        Elemento& atteso = modello_[static_cast<std::size_t>(i)];
+        if (atteso[5].empty()) {
+            atteso[5] = tabella(CampoElemento::Guid, i);
+            if (!atteso[5].starts_with(atteso[4] + L" ")) {
+                segnala("guid: " + inUtf8(atteso[5]));
+            }
+        }
+        for (int campo = 0; campo < numeroCampi; ++campo) {
+            const std::wstring& vero = tabella(static_cast<CampoElemento>(campo), i);
+            if (vero != atteso[static_cast<std::size_t>(campo)]) {
+                segnala("item " + std::to_string(i) + ", field " + std::to_string(campo) + ": " +
+                        inUtf8(vero) + ", in the model " +
+                        inUtf8(atteso[static_cast<std::size_t>(campo)]));
+                return;
+            }
+        }
+    }
+    const int scelto = finestra_.ElementoSelezionato();
+    if (scelto >= tabella.conteggio() ||
+        finestra_.griglia().righe().righe() !=
+            std::max(RigheGriglia::minime, tabella.conteggio() + 1)) {
+        segnala("the grid shows other rows");
+    }
+    if (finestra_.griglia().trascinato() >= 0) {
+        segnala("a drag that has no end");
+    }
+}
+
+// Inside the loops of menus and dialogs.
+
+void CALLBACK Scimmia::sorveglia(HWND, UINT, UINT_PTR, DWORD) noexcept {
+    if (viva() != nullptr) {
+        viva()->sorveglia();
+    }
+}
+
+void Scimmia::sorveglia() {
+    if (const HWND dialogo = sopra(L"#32770")) {
+        PostMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
+        return;
+    }
+    GUITHREADINFO stato{};
+    stato.cbSize = sizeof(stato);
+    if (GetGUIThreadInfo(GetCurrentThreadId(), &stato) == FALSE ||
+        (stato.flags & GUI_INMENUMODE) == 0) {
+        return;
+    }
+    const HWND menu = sopra(L"#32768");
+    if (voceMenu_ < 0 || menu == nullptr || ++battiti_ > 20) {
+        EndMenu();
+        return;
+    }
+    if (battiti_ == 1) {
+        for (int i = 0; i <= voceMenu_; ++i) {
+            PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+        }
+        PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
+    }
+}

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "support/ClsCodaEliminazione.h"
+#include "support/dialoghiFile.h"
+#include "support/messaggi.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/impostazioni_finte.h"
+#include "tests/aiuti/orologio_fermo.h"
+#include "tests/aiuti/schermo_win.h"
+#include "ui/dialogs/editorElementi.h"
+#include "ui/main/FrmMain_win.h"
+
+#include <windows.h>
+
+#include <array>
+#include <map>
+#include <optional>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+// Does random things to the real main window and answers at random what it asks. What the items
+// must be afterwards it knows from what it was asked and what it answered.
+class Scimmia : private Messaggi,
+                private DialoghiFile,
+                private EditorElementi,
+                private Impostazioni {
+public:
+    struct Conti {
+        int aggiunti = 0;
+        int modificati = 0;
+        int cancellati = 0;
+        int spostati = 0;
+        int salvati = 0;
+        int aperti = 0;
+    };
+
+    explicit Scimmia(std::uint32_t seme);
+    Scimmia(const Scimmia&) = delete;
+    Scimmia& operator=(const Scimmia&) = delete;
+    ~Scimmia() override;
+
+    // One random thing, then the comparison with the model.
+    void passo();
+    // The window as it was at the start.
+    void riposa();
+
+    // What is wrong since the start; empty when nothing is.
+    [[nodiscard]] const std::string& guasto() const noexcept { return guasto_; }
+    // The last step, in words.
+    [[nodiscard]] const std::string& fatto() const noexcept { return fatto_; }
+    [[nodiscard]] const Conti& conti() const noexcept { return conti_; }
+
+private:
+    using Elemento = std::array<std::wstring, numeroCampi>;
+    using Modello = std::vector<Elemento>;
+
+    // What the window asks.
+    Risposta mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
+                    Pulsanti pulsanti) override;
+    std::wstring apri(const RichiestaFile& richiesta) override;
+    std::wstring salva(const RichiestaFile& richiesta) override;
+    std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData) override;
+    [[nodiscard]] std::wstring leggi(std::wstring_view sezione, std::wstring_view chiave,
+                                     std::wstring_view altrimenti) const override {
+        return valori_.leggi(sezione, chiave, altrimenti);
+    }
+    void scrivi(std::wstring_view sezione, std::wstring_view chiave,
+                std::wstring_view valore) override;
+
+    // What it does.
+    void tasto();
+    void scriveTesto();
+    void clicca();
+    void trascinaInUnCampo();
+    void trascinaInGriglia();
+    void menuGriglia();
+    void comando();
+    void eseguiUno(int comando);
+    void nuovo();
+    void apre(int comando);
+    void ridimensiona();
+    void chiudeEAnnulla();
+
+    void confronta();
+    void segnala(std::string guasto);
+    void sposta(int da, int a);
+    // Whether the question of this step, if any, let the document go.
+    [[nodiscard]] bool lasciato() const;
+
+    [[nodiscard]] int caso(int quanti);
+    [[nodiscard]] std::wstring testoCaso(int massimo);
+    [[nodiscard]] std::wstring percorsoCaso(bool salvataggio);
+    // A random point of a random control, where a press starts no loop of the system's own.
+    struct Posto {
+        HWND finestra;
+        POINT punto;
+    };
+    [[nodiscard]] std::optional<Posto> postoCaso();
+    [[nodiscard]] POINT puntoGriglia();
+    void portaFuoco();
+
+    static void CALLBACK sorveglia(HWND, UINT, UINT_PTR, DWORD) noexcept;
+    void sorveglia();
+
+    std::mt19937 generatore_;
+    OrologioFermo orologio_{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
+    ImpostazioniFinte valori_;
+    ClsCodaEliminazione coda_;
+    CartellaProva cartella_;
+    std::wstring rovinato_;
+    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}};
+    ConFiltro filtro_{[this](MSG& msg) { return finestra_.anticipa(msg); }};
+    UINT_PTR timer_;
+
+    Modello modello_;
+    // By path in lower case, as the recent files hold it.
+    std::map<std::wstring, Modello> salvati_;
+    Conti conti_;
+    std::string guasto_;
+    std::string fatto_;
+
+    // Of the current step.
+    std::optional<Risposta> domanda_;
+    bool salvato_ = false;
+    bool chiude_ = false;
+    std::wstring scelto_;
+    // How many entries down to go in a menu that comes up; -1 leaves it.
+    int voceMenu_ = -1;
+    int battiti_ = 0;
+    bool nellEditor_ = false;
+};

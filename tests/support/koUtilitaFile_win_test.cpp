@@ -1,0 +1,195 @@
+#include "support/koUtilita.h"
+
+#include "support/ansi_win.h"
+#include "support/file_win.h"
+#include "support/maniglie_win.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/sollevato.h"
+
+#include <windows.h>
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+template <class Azione>
+std::int32_t errore(Azione azione) {
+    return sollevatoDa([&azione] {
+               azione();
+               return 0;
+           })
+        .numero;
+}
+
+ManigliaFile apri(const std::wstring& file, DWORD condivisione) {
+    return ManigliaFile(CreateFileW(file.c_str(), GENERIC_READ, condivisione, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+// A compressed file of eight literal bytes and one match that repeats the first four of them.
+std::string compresso() {
+    std::string file("SZDD\x88\xF0\x27\x33"
+                     "A\0",
+                     10);
+    file += std::string("\x0C\0\0\0", 4);
+    // Flags: eight literals; then one match. The window begins at 4096 - 16.
+    file += "\xFF"
+            "ABCDEFGH";
+    file += std::string("\0\xF0\xF1", 3);
+    return file;
+}
+
+std::size_t quantiFile(const CartellaProva& cartella) {
+    return static_cast<std::size_t>(
+        std::distance(std::filesystem::directory_iterator(cartella.percorso()),
+                      std::filesystem::directory_iterator()));
+}
+
+} // namespace
+
+TEST(KoUtilitaFileAperto, ESaSeQualcunoTieneIlFile) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"Ωmega.txt", "x");
+    EXPECT_FALSE(koUtilita::FileAperto(file));
+    {
+        const auto tenuto = apri(file, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+        ASSERT_TRUE(tenuto);
+        EXPECT_TRUE(koUtilita::FileAperto(file));
+    }
+    EXPECT_FALSE(koUtilita::FileAperto(file));
+    EXPECT_EQ(leggiTutto(file), "x");
+}
+
+TEST(KoUtilitaFileAperto, UnFileCheMancaEUnErrore) {
+    const CartellaProva cartella;
+    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.file(L"manca")); }), 53);
+    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.file(L"manca\\a")); }), 76);
+    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.percorso()); }), 75);
+    EXPECT_NE(errore([] { return koUtilita::FileAperto(L""); }), 0);
+    EXPECT_NE(errore([] { return koUtilita::FileAperto(std::wstring(1000, L'x')); }), 0);
+}
+
+TEST(KoUtilitaReadOnly, ToglieSoloQuellAttributo) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.txt", "x");
+    constexpr DWORD altri = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE;
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), altri | FILE_ATTRIBUTE_READONLY));
+    koUtilita::EliminaReadOnly(file);
+    EXPECT_EQ(GetFileAttributesW(file.c_str()), altri);
+    koUtilita::EliminaReadOnly(file);
+    EXPECT_EQ(GetFileAttributesW(file.c_str()), altri);
+}
+
+TEST(KoUtilitaReadOnly, UnFileCheMancaEUnErrore) {
+    const CartellaProva cartella;
+    EXPECT_EQ(errore([&] { koUtilita::EliminaReadOnly(cartella.file(L"manca")); }), 53);
+    EXPECT_NE(errore([] { koUtilita::EliminaReadOnly(L""); }), 0);
+    EXPECT_NE(errore([] { koUtilita::EliminaReadOnly(std::wstring(1000, L'x')); }), 0);
+}
+
+TEST(KoUtilitaDecomprimi, EspandeUnFileCompresso) {
+    const CartellaProva cartella;
+    const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
+    const std::wstring destinazione = cartella.file(L"è nuovo.txt");
+    koUtilita::Decomprimi(sorgente, destinazione);
+    EXPECT_EQ(leggiTutto(destinazione), "ABCDEFGHABCD");
+    EXPECT_EQ(leggiTutto(sorgente), compresso());
+    EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, UnFileNonCompressoSiCopia) {
+    const CartellaProva cartella;
+    const std::string contenuto = std::string(50000, 'x') + "fine";
+    const std::wstring sorgente = cartella.scrivi(L"a.txt", contenuto);
+    const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
+    koUtilita::Decomprimi(sorgente, destinazione);
+    EXPECT_EQ(leggiTutto(destinazione), contenuto);
+    koUtilita::Decomprimi(cartella.scrivi(L"vuoto", ""), destinazione);
+    EXPECT_EQ(leggiTutto(destinazione), "");
+}
+
+TEST(KoUtilitaDecomprimi, UnFileTroncatoNonToccaLaDestinazione) {
+    const CartellaProva cartella;
+    const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
+    for (std::size_t quanto = 14; quanto < compresso().size(); ++quanto) {
+        const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso().substr(0, quanto));
+        EXPECT_EQ(errore([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57) << quanto;
+    }
+    EXPECT_EQ(leggiTutto(destinazione), "prima");
+    EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, SenzaSorgenteOCartellaEUnErrore) {
+    const CartellaProva cartella;
+    const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
+    const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
+    EXPECT_EQ(errore([&] { koUtilita::Decomprimi(cartella.file(L"manca"), destinazione); }), 53);
+    EXPECT_NE(errore([&] { koUtilita::Decomprimi(L"", destinazione); }), 0);
+    EXPECT_NE(errore([&] { koUtilita::Decomprimi(sorgente, cartella.file(L"manca\\b")); }), 0);
+    EXPECT_EQ(errore([&] { koUtilita::Decomprimi(sorgente, L""); }), 5);
+    EXPECT_NE(errore([&] { koUtilita::Decomprimi(sorgente, std::wstring(1000, L'x')); }), 0);
+    EXPECT_EQ(leggiTutto(destinazione), "prima");
+    EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaWriteAccess, UnaCartellaScrivibileResta) {
+    const CartellaProva cartella;
+    MessaggiFinti messaggi;
+    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
+    EXPECT_EQ(quantiFile(cartella), 0U);
+}
+
+TEST(KoUtilitaWriteAccess, IlFileDellUtenteConQuelNomeResta) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"120asd12.tmp", "mio");
+    MessaggiFinti messaggi;
+    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso() + L"\\"));
+    EXPECT_EQ(leggiTutto(file), "mio");
+    // It cannot be written: nothing says that the folder can.
+    {
+        const auto tenuto = apri(file, FILE_SHARE_READ);
+        ASSERT_TRUE(tenuto);
+        messaggi.attendi(L"Autorizzazione negata", L"Errore # 70", Icona::Critica);
+        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
+    }
+    EXPECT_EQ(leggiTutto(file), "mio");
+}
+
+TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
+    const CartellaProva cartella;
+    for (const std::wstring& quale :
+         {cartella.file(L"manca"), std::wstring(), std::wstring(L" ")}) {
+        MessaggiFinti messaggi;
+        messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
+        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(quale));
+    }
+}
+
+TEST(KoUtilitaPrintErroreEx, DiceNumeroLuogoEDescrizione) {
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Errore 13: Tipo non corrispondente", L"Errore 13", Icona::Critica);
+    messaggi.attendi(L"Errore 13 in Leggi: Tipo non corrispondente", L"Errore 13", Icona::Critica);
+    messaggi.attendi(L"Errore 52: Impossibile leggere l'unità specificata.", L"Errore 52",
+                     Icona::Critica);
+    messaggi.attendi(L"Errore 440: Errore di automazione", L"Errore 440", Icona::Critica);
+    const koUtilita utilita(messaggi);
+    try {
+        solleva(errori::tipoNonCorrispondente);
+    } catch (...) {
+        utilita.PrintErroreEx();
+        utilita.PrintErroreEx(L"Leggi");
+    }
+    try {
+        solleva(errori::nomeFileNonValido);
+    } catch (...) {
+        utilita.PrintErroreEx();
+    }
+    try {
+        throw std::runtime_error("x");
+    } catch (...) {
+        utilita.PrintErroreEx();
+    }
+}

@@ -1,0 +1,124 @@
+#include "support/koUtilita.h"
+
+#include "support/file_win.h"
+#include "support/maniglie_win.h"
+#include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/sollevato.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct TrattiEvento {
+    using Tipo = HANDLE;
+    static Tipo vuota() noexcept { return nullptr; }
+    static void chiudi(Tipo evento) noexcept { CloseHandle(evento); }
+};
+
+std::wstring inVirgolette(const std::wstring& testo) {
+    return L'"' + testo + L'"';
+}
+
+std::int32_t erroreComando(const std::wstring& comando) {
+    return sollevatoDa([&comando] { return koUtilita::ShellSospensiva(comando); }).numero;
+}
+
+} // namespace
+
+TEST(KoUtilitaVersione, InfoSODiceIlSistemaCheGira) {
+    // The process's own block holds what really runs.
+    const auto* const vera = reinterpret_cast<const ULONG*>(0x7FFE026C);
+    const auto versione = koUtilita::InfoSOVersione();
+    EXPECT_EQ(versione.maggiore, vera[0]);
+    EXPECT_EQ(versione.minore, vera[1]);
+    EXPECT_GT(versione.build, 0U);
+    EXPECT_TRUE(koUtilita::IsWindowsNT());
+    const std::wstring nome = koUtilita::InfoSO();
+    EXPECT_TRUE(nome.starts_with(L"Windows ")) << inUtf8(nome);
+    EXPECT_EQ(nome.find(L"XP"), std::wstring::npos) << inUtf8(nome);
+}
+
+TEST(KoUtilitaVersione, GetVersioneLeggeIQuattroNumeri) {
+    // Known from the file's own resource, read another way by the run time of the system.
+    const std::wstring versione =
+        koUtilita::GetVersione(koUtilita::GetWindowsSysDir() + L"kernel32.dll");
+    EXPECT_GT(koUtilita::ConfrontaVersione(versione, L"4"), 0) << inUtf8(versione);
+    EXPECT_EQ(std::count(versione.begin(), versione.end(), L'.'), 3);
+    EXPECT_EQ(koUtilita::GetVersione(koUtilita::CurDirApp() + L"prove_win.exe").substr(0, 2),
+              L"1.");
+}
+
+TEST(KoUtilitaVersione, SenzaVersioneSonoQuattroZeri) {
+    const CartellaProva cartella;
+    for (const std::wstring& file :
+         {cartella.file(L"manca.exe"), cartella.scrivi(L"a.exe", "MZ"), cartella.percorso(),
+          koUtilita::CurDirApp() + L"attesa.exe", std::wstring(), std::wstring(1000, L'x')}) {
+        EXPECT_EQ(koUtilita::GetVersione(file), L"0.0.0.0") << inUtf8(file);
+    }
+}
+
+TEST(KoUtilitaAttesa, WaitSecondiLasciaVivereLeFinestre) {
+    static int scatti = 0;
+    scatti = 0;
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) { ++scatti; });
+    const ULONGLONG inizio = GetTickCount64();
+    koUtilita::WaitSecondi(1);
+    const ULONGLONG durata = GetTickCount64() - inizio;
+    EXPECT_GE(durata, 1000U);
+    EXPECT_LT(durata, 20000U);
+    EXPECT_GT(scatti, 1);
+    const int prima = scatti;
+    koUtilita::Sleep(100);
+    EXPECT_EQ(scatti, prima);
+    KillTimer(nullptr, timer);
+}
+
+TEST(KoUtilitaAttesa, LaFineDelProgrammaFinisceWaitSecondi) {
+    PostQuitMessage(3);
+    const ULONGLONG inizio = GetTickCount64();
+    koUtilita::WaitSecondi(3600);
+    EXPECT_LT(GetTickCount64() - inizio, 60000U);
+    MSG messaggio{};
+    EXPECT_EQ(GetMessageW(&messaggio, nullptr, 0, 0), 0);
+    EXPECT_EQ(messaggio.wParam, 3U);
+}
+
+TEST(KoUtilitaAttesa, SleepAspettaIMillisecondi) {
+    const ULONGLONG inizio = GetTickCount64();
+    koUtilita::Sleep(150);
+    EXPECT_GE(GetTickCount64() - inizio, 140U);
+    koUtilita::Sleep(0);
+    koUtilita::WaitSecondi(0);
+}
+
+TEST(KoUtilitaProcessi, ShellSospensivaAspettaLaFineEDaIlCodice) {
+    EXPECT_EQ(koUtilita::ShellSospensiva(L"cmd.exe /c exit 7"), 7U);
+    Registratore registratore;
+    const CartellaProva cartella;
+    const std::wstring programma = cartella.file(L"un nome con spazi.exe");
+    Registratore::copiaIn(programma);
+    EXPECT_EQ(koUtilita::ShellSospensiva(inVirgolette(programma) + L" fatto"), 0U);
+    // It has ended: what it wrote is there.
+    EXPECT_EQ(registratore.attendi().programma, programma);
+}
+
+TEST(KoUtilitaProcessi, ShellSospensivaNonAspettaOltreIlTempo) {
+    const std::wstring nome = L"OstrelleProveAttesa" + std::to_wstring(GetCurrentProcessId());
+    const Maniglia<TrattiEvento> evento(CreateEventW(nullptr, TRUE, FALSE, nome.c_str()));
+    const std::wstring comando = inVirgolette(koUtilita::CurDirApp() + L"attesa.exe") + L' ' + nome;
+    EXPECT_EQ(koUtilita::ShellSospensiva(comando, 50), std::nullopt);
+    SetEvent(evento.get());
+    EXPECT_EQ(koUtilita::ShellSospensiva(comando), 7U);
+}
+
+TEST(KoUtilitaProcessi, UnComandoCheNonParteEUnErrore) {
+    const CartellaProva cartella;
+    EXPECT_EQ(erroreComando(L""), 5);
+    EXPECT_EQ(erroreComando(L"  "), 5);
+    EXPECT_EQ(erroreComando(inVirgolette(cartella.file(L"manca.exe"))), 53);
+    EXPECT_EQ(erroreComando(inVirgolette(cartella.scrivi(L"a.exe", "nessun programma"))), 57);
+    EXPECT_NE(erroreComando(std::wstring(1000, L'x')), 0);
+}

@@ -1,0 +1,147 @@
+#include "tests/aiuti/frmMain_win.h"
+
+#include "support/messaggi_win.h"
+#include "ui/dialogs/FrmEditFeed_win.h"
+
+#include <commctrl.h>
+
+namespace {
+
+using FrmMainChiusura = ProvaFrmMain;
+
+constexpr const wchar_t* boxWindows = L"#32770";
+
+// The main window with the boxes and the editor that the program has.
+class FrmMainVera : public testing::Test {
+protected:
+    FrmMainVera() {
+        finestra.apri(SW_SHOWNORMAL);
+        portaAvanti(finestra.hwnd());
+    }
+    void modifica() {
+        finestra.campi().testo(CampoCanale::Titolo, L"scritto");
+        ASSERT_TRUE(finestra.stato().modificato());
+    }
+    [[nodiscard]] std::wstring scritto() { return finestra.campi().testo(CampoCanale::Titolo); }
+    // Neither a close nor the end of the session gets past the box that is up.
+    void insisti() {
+        SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+        ASSERT_NE(finestra.hwnd(), nullptr);
+        EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+        SendMessageW(finestra.hwnd(), WM_COMMAND, mnChiudi, 0);
+        ASSERT_NE(finestra.hwnd(), nullptr);
+        EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
+    }
+
+    MessaggiWindows messaggi;
+    DialoghiFinti dialoghi;
+    OrologioFermo orologio{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
+    ImpostazioniFinte impostazioni;
+    ClsCodaEliminazione coda;
+    EditorElementiWindows editor{messaggi, orologio};
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
+    ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
+};
+
+} // namespace
+
+TEST_F(FrmMainVera, MentreLaDomandaEApertaNonSiChiude) {
+    modifica();
+    const QuandoAppare domanda(boxWindows, L"Salvataggio", [&](HWND box) {
+        insisti();
+        PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    });
+    SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+    ASSERT_NE(finestra.hwnd(), nullptr);
+    EXPECT_EQ(scritto(), L"scritto");
+    EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainVera, MentreLEditorEApertoNonSiChiudeEIlTestoResta) {
+    modifica();
+    const QuandoAppare dialogo(boxWindows, L"Edit", [&](HWND box) {
+        SetWindowTextW(GetDlgItem(box, IDC_EDITTITOLO), L"elemento");
+        SetWindowTextW(GetDlgItem(box, IDC_EDITLINK), L"https://e.example/");
+        insisti();
+        EXPECT_EQ(testoDi(GetDlgItem(box, IDC_EDITTITOLO)), L"elemento");
+        PostMessageW(box, WM_COMMAND, IDC_CMDSALVA, 0);
+    });
+    finestra.esegui(mnaddFeed);
+    ASSERT_EQ(finestra.elementi().conteggio(), 1);
+    EXPECT_EQ(finestra.elementi()(CampoElemento::Titolo, 0), L"elemento");
+    EXPECT_EQ(scritto(), L"scritto");
+}
+
+TEST_F(FrmMainVera, DopoUnaDomandaAnnullataLaProssimaSiFaAncora) {
+    modifica();
+    for (int i = 0; i < 2; ++i) {
+        const QuandoAppare domanda(boxWindows, L"Salvataggio",
+                                   [](HWND box) { PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+        EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+    }
+    const QuandoAppare domanda(boxWindows, L"Salvataggio",
+                               [](HWND box) { PostMessageW(box, WM_COMMAND, IDNO, 0); });
+    SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(finestra.hwnd(), nullptr);
+}
+
+TEST_F(FrmMainVera, AncheDaSfondoLaDomandaTieneFermaLaFinestra) {
+    modifica();
+    // Another thread of the desktop is in front: none of this thread's windows is the active one.
+    ShowWindow(finestra.hwnd(), SW_MINIMIZE);
+    pompa();
+    const QuandoAppare domanda(boxWindows, L"Salvataggio", [&](HWND box) {
+        EXPECT_EQ(GetWindow(box, GW_OWNER), finestra.hwnd());
+        EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
+        PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+}
+
+TEST_F(FrmMainChiusura, ConUnMessaggioApertoNullaSiComandaENullaSiPerde) {
+    metti(L"uno");
+    finestra.campi().testo(CampoCanale::Titolo, L"resta");
+    messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
+                     Icona::Domanda, Pulsanti::SiNo, Risposta::No, [&] {
+                         SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+                         EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+                         for (const int comando : {mnNuovo, mnsalva, mnaddFeed, mnDelFeed}) {
+                             SendMessageW(finestra.hwnd(), WM_COMMAND, static_cast<WPARAM>(comando),
+                                          0);
+                         }
+                     });
+    finestra.esegui(mnDelFeed);
+    ASSERT_NE(finestra.hwnd(), nullptr);
+    EXPECT_EQ(titoliElementi(), L"uno;");
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"resta");
+    EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainChiusura, ChiudendoSeNeVannoLeAltreFinestreDelProgramma) {
+    const HWND altra = CreateWindowExW(0, WC_STATICW, L"altra", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                       finestra.hwnd(), nullptr, nullptr, nullptr);
+    ASSERT_NE(altra, nullptr);
+    SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+    EXPECT_FALSE(IsWindow(altra));
+    MSG messaggio{};
+    EXPECT_TRUE(PeekMessageW(&messaggio, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(FrmMainChiusura, AllaFineDellaSessioneLAnteprimaSiCancella) {
+    const std::wstring anteprima = cartella.scrivi(L"anteprima.htm", "x");
+    coda.Push(anteprima);
+    SendMessageW(finestra.hwnd(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_NE(GetFileAttributesW(anteprima.c_str()), INVALID_FILE_ATTRIBUTES);
+    SendMessageW(finestra.hwnd(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(GetFileAttributesW(anteprima.c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(FrmMainChiusura, UnCambioDelleImpostazioniRinnovaIlCarattereDellaGriglia) {
+    const HWND lista = finestra.griglia().lista();
+    const auto prima = reinterpret_cast<HFONT>(SendMessageW(lista, WM_GETFONT, 0, 0));
+    SendMessageW(finestra.hwnd(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+    const auto dopo = reinterpret_cast<HFONT>(SendMessageW(lista, WM_GETFONT, 0, 0));
+    EXPECT_NE(dopo, nullptr);
+    EXPECT_NE(dopo, prima);
+    EXPECT_EQ(finestra.griglia().righe().righe(), 50);
+}

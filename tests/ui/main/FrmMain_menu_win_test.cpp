@@ -1,0 +1,281 @@
+#include "tests/aiuti/accessibile_win.h"
+#include "tests/aiuti/frmMain_win.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <vector>
+
+namespace {
+
+using FrmMainMenu = ProvaFrmMain;
+
+// An entry as a menu has to show it; "-" is a separator, a submenu has no command.
+struct Attesa {
+    const wchar_t* didascalia;
+    UINT comando = 0;
+};
+
+constexpr std::array file{
+    Attesa{L"&Nuovo", mnNuovo},
+    Attesa{L"&Apri", mnApri},
+    Attesa{L"-"},
+    Attesa{L"&Salva", mnsalva},
+    Attesa{L"Sa&lva con nome...", mnSalvaCon},
+    Attesa{L"-"},
+    Attesa{L"&Esporta come pagina Web...", mnsalvahtm},
+    Attesa{L"-"},
+    Attesa{L"&File recenti"},
+    Attesa{L"-"},
+    Attesa{L"&Chiudi", mnChiudi},
+};
+
+constexpr std::array contenuto{
+    Attesa{L"&Aggiungi Feed", mnaddFeed},
+    Attesa{L"&Modifica Feed", mnEditFeed},
+    Attesa{L"&Cancella Feed", mnDelFeed},
+    Attesa{L"-"},
+    Attesa{L"Visualizza come pagina web", mnvisualhtml},
+    Attesa{L"-"},
+    Attesa{L"&Aggiorna Lista", mnAggiorna},
+};
+
+constexpr std::array aiuto{
+    Attesa{L"&Guida", mnGuida},
+    Attesa{L"-"},
+    Attesa{L"Q&uorvex sul Web", mniaco},
+    Attesa{L"G&uide on-line", mnguidaonline},
+    Attesa{L"&Scrivi all'autore", mnautore},
+    Attesa{L"-"},
+    Attesa{L"&Aggiornamento", mnVerificaUpgrade},
+    Attesa{L"-"},
+    Attesa{L"S&egnala Bug", mnBug},
+    Attesa{L"-"},
+    Attesa{L"&Informazione sul prodotto...", mninfo},
+};
+
+std::wstring didascalia(HMENU menu, UINT posizione) {
+    std::array<wchar_t, 100> testo{};
+    GetMenuStringW(menu, posizione, testo.data(), static_cast<int>(testo.size()), MF_BYPOSITION);
+    return testo.data();
+}
+
+void confronta(HMENU menu, std::span<const Attesa> attese) {
+    ASSERT_EQ(GetMenuItemCount(menu), static_cast<int>(attese.size()));
+    for (UINT i = 0; i < attese.size(); ++i) {
+        const Attesa& attesa = attese[i];
+        const UINT stato = GetMenuState(menu, i, MF_BYPOSITION);
+        if (std::wstring_view(attesa.didascalia) == L"-") {
+            EXPECT_NE(stato & MF_SEPARATOR, 0U) << i;
+            continue;
+        }
+        EXPECT_EQ(didascalia(menu, i), attesa.didascalia);
+        EXPECT_EQ(stato & (MF_GRAYED | MF_DISABLED), 0U) << i;
+        if (attesa.comando == 0) {
+            EXPECT_NE(GetSubMenu(menu, static_cast<int>(i)), nullptr) << i;
+        } else {
+            EXPECT_EQ(GetMenuItemID(menu, static_cast<int>(i)), attesa.comando);
+        }
+    }
+}
+
+// The menu that a popup window shows.
+HMENU menuDi(HWND popup) {
+    constexpr UINT mnGetHMenu = 0x01E1;
+    return reinterpret_cast<HMENU>(SendMessageW(popup, mnGetHMenu, 0, 0));
+}
+
+std::vector<HWND> suggerimenti() {
+    std::vector<HWND> trovati;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND hwnd, LPARAM l) -> BOOL {
+            std::array<wchar_t, 64> nome{};
+            GetClassNameW(hwnd, nome.data(), static_cast<int>(nome.size()));
+            if (std::wstring_view(nome.data()) == TOOLTIPS_CLASSW) {
+                reinterpret_cast<std::vector<HWND>*>(l)->push_back(hwnd);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&trovati));
+    return trovati;
+}
+
+// Rests the pointer on a point: whether this text comes up.
+bool suggerisce(HWND finestra, POINT punto, std::wstring_view testo) {
+    for (const HWND s : suggerimenti()) {
+        SendMessageW(s, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
+        SendMessageW(s, TTM_SETDELAYTIME, TTDT_RESHOW, 1);
+    }
+    muoviMouse(finestra, punto);
+    return attendi([&] {
+        return std::ranges::any_of(
+            suggerimenti(), [&](HWND s) { return IsWindowVisible(s) && testoDi(s) == testo; });
+    });
+}
+
+POINT meta(const RECT& r) {
+    return {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+}
+
+} // namespace
+
+TEST_F(FrmMainMenu, LaBarraHaOgniVoceNelSuoOrdineENessunaMorta) {
+    const HMENU barra = GetMenu(finestra.hwnd());
+    ASSERT_EQ(GetMenuItemCount(barra), 3);
+    EXPECT_EQ(didascalia(barra, 0), L"&File");
+    EXPECT_EQ(didascalia(barra, 1), L"&Contenuto");
+    EXPECT_EQ(didascalia(barra, 2), L"?");
+    confronta(GetSubMenu(barra, 0), file);
+    confronta(GetSubMenu(barra, 1), contenuto);
+    confronta(GetSubMenu(barra, 2), aiuto);
+}
+
+TEST_F(FrmMainMenu, IlMenuDellaGrigliaEQuelloDelContenuto) {
+    const QuandoAppare menu(L"#32768", L"", [](HWND popup) {
+        confronta(menuDi(popup), contenuto);
+        EndMenu();
+    });
+    clicDestro(finestra.griglia().lista(), {40, 60});
+    EXPECT_TRUE(menu.apparsa());
+}
+
+TEST_F(FrmMainMenu, IlPulsanteDestroParlaDellaRigaCliccata) {
+    for (const wchar_t* const t : {L"a", L"b", L"c"}) {
+        metti(t);
+    }
+    ASSERT_EQ(finestra.griglia().rigaCorrente(), 1);
+    RECT r{};
+    ListView_GetItemRect(finestra.griglia().lista(), 2, &r, LVIR_BOUNDS);
+    messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
+                     Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+    const QuandoAppare menu(L"#32768", L"", [&](HWND) {
+        EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+        PostMessageW(finestra.hwnd(), WM_CHAR, L'c', 0);
+    });
+    clicDestro(finestra.griglia().lista(), {40, meta(r).y});
+    EXPECT_TRUE(attendi([&] { return titoliElementi() == L"a;b;"; }));
+}
+
+TEST_F(FrmMainMenu, IlTastoMenuApreAllaRigaCorrente) {
+    for (const wchar_t* const t : {L"a", L"b", L"c"}) {
+        metti(t);
+    }
+    finestra.SelezionaRiga(3);
+    SetFocus(finestra.griglia().lista());
+    RECT riga{};
+    ListView_GetItemRect(finestra.griglia().lista(), 2, &riga, LVIR_BOUNDS);
+    MapWindowPoints(finestra.griglia().lista(), nullptr, reinterpret_cast<POINT*>(&riga), 2);
+    const QuandoAppare menu(L"#32768", L"", [&](HWND popup) {
+        RECT r{};
+        GetWindowRect(popup, &r);
+        // Below the point, or above it near the screen's bottom.
+        EXPECT_TRUE((r.top >= riga.top && r.top <= riga.bottom) ||
+                    (r.bottom >= riga.top && r.bottom <= riga.bottom))
+            << r.top << ' ' << r.bottom << " for " << riga.top << ' ' << riga.bottom;
+        EndMenu();
+    });
+    premi(VK_APPS);
+    EXPECT_TRUE(menu.apparsa());
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+}
+
+TEST_F(FrmMainMenu, OgniPulsanteDellaBarraDiceCheCosaFa) {
+    const HWND barra = GetDlgItem(finestra.hwnd(), IDC_TOOLBAR);
+    const std::array attesi{
+        Attesa{L"Crea un nuovo Feed RSS", mnNuovo},
+        Attesa{L"Apre il Feed RSS per la modifica", mnApri},
+        Attesa{L"Salva il Feed RSS", mnsalva},
+        Attesa{L"Invia un email all'autore...", mnautore},
+        Attesa{L"Informazioni sul prodotto...", mninfo},
+    };
+    ASSERT_EQ(SendMessageW(barra, TB_BUTTONCOUNT, 0, 0), static_cast<LRESULT>(attesi.size()));
+    for (std::size_t i = 0; i < attesi.size(); ++i) {
+        TBBUTTON pulsante{};
+        SendMessageW(barra, TB_GETBUTTON, i, reinterpret_cast<LPARAM>(&pulsante));
+        EXPECT_EQ(pulsante.idCommand, static_cast<int>(attesi[i].comando));
+        RECT r{};
+        SendMessageW(barra, TB_GETITEMRECT, i, reinterpret_cast<LPARAM>(&r));
+        EXPECT_TRUE(suggerisce(barra, meta(r), attesi[i].didascalia)) << i;
+    }
+}
+
+TEST_F(FrmMainMenu, LaBarraEsegueQuelCheDice) {
+    const HWND barra = GetDlgItem(finestra.hwnd(), IDC_TOOLBAR);
+    const auto preme = [&](WPARAM posizione) {
+        RECT r{};
+        SendMessageW(barra, TB_GETITEMRECT, posizione, reinterpret_cast<LPARAM>(&r));
+        clic(barra, meta(r));
+    };
+    metti(L"uno");
+    // A new document asks for its name, as the menu's entry does.
+    const std::wstring percorso = cartella.file(L"barra.xml");
+    dialoghi.attendiSalva(richiestaSalva, percorso);
+    preme(2);
+    EXPECT_EQ(finestra.campi().Tag(), percorso);
+    preme(0);
+    EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+    dialoghi.attendiApri(richiestaApri, percorso);
+    preme(1);
+    EXPECT_EQ(titoliElementi(), L"uno;");
+}
+
+TEST_F(FrmMainMenu, LeEtichetteSpieganoIndirizzoEMisure) {
+    const std::array attesi{
+        Attesa{L"URL (Percorso)", IDC_LBLURL},
+        Attesa{L"Larghezza in pixels", IDC_LBLLARGHEZZA},
+        Attesa{L"Altezza in pixels", IDC_LBLALTEZZA},
+    };
+    for (const Attesa& attesa : attesi) {
+        EXPECT_TRUE(suggerisce(campo(static_cast<int>(attesa.comando)), {4, 4}, attesa.didascalia))
+            << attesa.comando;
+    }
+}
+
+TEST_F(FrmMainMenu, OgniCampoHaUnNomePerChiLoLegge) {
+    const std::array<std::pair<HWND, const wchar_t*>, 15> attesi{{
+        {campo(IDC_TXTTITOLO), L"Titolo:"},
+        {campo(IDC_TXTLINKHOME), L"Link Home:"},
+        {campo(IDC_TXTDESCRIZIONE), L"Descrizione:"},
+        {campo(IDC_TXTCOPYRIGHT), L"Copyright:"},
+        {campo(IDC_TXTWEBMASTER), L"WebMaster:"},
+        {campo(IDC_TXTLOGO), L"Titolo Logo:"},
+        {campo(IDC_TXTURL), L"Url:"},
+        {campo(IDC_TXTLINKIMG), L"Click Link:"},
+        {finestra.campi().txtLarghezza().txtnumero(), L"Larghezza:"},
+        {finestra.campi().txtAltezza().txtnumero(), L"Altezza:"},
+        {campo(IDC_CMDGETSIZE), L"Determina dimensioni"},
+        {finestra.griglia().lista(), L"Elementi"},
+        {finestra.hwnd(), L"Ostrelle  [Nuovo Documento]"},
+        {GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed),
+         L"Aggiungi Feed"},
+        {GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnDelFeed),
+         L"Cancella Feed"},
+    }};
+    for (const auto& [controllo, nome] : attesi) {
+        EXPECT_EQ(nomeAccessibile(controllo), nome) << GetDlgCtrlID(controllo);
+    }
+    // Here the object's name is the label where Windows provides the object, and not under Wine.
+    for (const auto& [id, nome] : {std::pair{IDC_CBOLINGUA, L"Linguaggio:"},
+                                   {IDC_TXTDATA, L"Data:"},
+                                   {IDC_TXTORARIO, L"Ora:"}}) {
+        const HWND etichetta = GetWindow(campo(id), GW_HWNDPREV);
+        EXPECT_NE(SendMessageW(etichetta, WM_GETDLGCODE, 0, 0) & DLGC_STATIC, 0) << id;
+        EXPECT_EQ(testoDi(etichetta), nome);
+    }
+}
+
+TEST_F(FrmMainMenu, AggiornaListaRileggeLaTabellaETornaAllaPrimaRiga) {
+    metti(L"a");
+    metti(L"b");
+    finestra.SelezionaRiga(2);
+    const int nuovo = finestra.elementi().aggiungi();
+    finestra.elementi()(CampoElemento::Titolo, nuovo) = L"c";
+    EXPECT_EQ(finestra.griglia().righe().elemento(3), -1);
+    finestra.esegui(mnAggiorna);
+    EXPECT_EQ(finestra.griglia().righe().elemento(3), 2);
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 1);
+    EXPECT_FALSE(finestra.stato().modificato());
+}

@@ -1,0 +1,195 @@
+#include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/immagini_prova.h"
+
+#include "support/file_win.h"
+
+#include <commctrl.h>
+
+namespace {
+
+class FrmMainTasti : public ProvaFrmMain {
+protected:
+    void riempi() {
+        for (const wchar_t* const t : {L"a", L"b", L"c"}) {
+            metti(t);
+        }
+        SetFocus(finestra.griglia().lista());
+    }
+    [[nodiscard]] HWND lista() { return finestra.griglia().lista(); }
+    [[nodiscard]] HWND pulsante(int id) {
+        return GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), id);
+    }
+    // A point of a grid row.
+    [[nodiscard]] POINT punto(int riga) {
+        RECT r{};
+        ListView_GetItemRect(lista(), riga - 1, &r, LVIR_BOUNDS);
+        return {60, (r.top + r.bottom) / 2};
+    }
+    void attendiNessunaSelezione() {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+    }
+    void attendiCancellazione(Risposta risposta) {
+        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
+                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
+    }
+    // The editor comes up for this item, and the user gives it another title.
+    void attendiEditor(std::wstring_view atteso, std::wstring_view nuovo) {
+        editor.attendi([=](clsItemRss& elemento, DataOra ultima) {
+            EXPECT_EQ(elemento.sTitle(), atteso);
+            elemento.sTitle(std::wstring(nuovo));
+            return std::optional(ultima);
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(FrmMainTasti, InsInvioECancNellaGriglia) {
+    riempi();
+    attendiEditor(L"", L"d");
+    premi(VK_INSERT);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;d;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 4);
+    attendiEditor(L"d", L"e");
+    premi(VK_RETURN);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;e;");
+    attendiCancellazione(Risposta::No);
+    premi(VK_DELETE);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;e;");
+    attendiCancellazione(Risposta::Si);
+    premi(VK_DELETE);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+}
+
+TEST_F(FrmMainTasti, AltConLeFrecceSpostaSenzaSegnareLaModifica) {
+    riempi();
+    premi(VK_DOWN, {VK_MENU});
+    EXPECT_EQ(titoliElementi(), L"b;a;c;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
+    premi(VK_DOWN, {VK_MENU});
+    premi(VK_DOWN, {VK_MENU});
+    EXPECT_EQ(titoliElementi(), L"b;c;a;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+    premi(VK_UP, {VK_MENU});
+    EXPECT_EQ(titoliElementi(), L"b;a;c;");
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainTasti, FuoriDallaGrigliaITastiSonoDelCampo) {
+    riempi();
+    SetFocus(campo(IDC_TXTTITOLO));
+    scrivi(L"xy");
+    premi(VK_HOME);
+    premi(VK_DELETE);
+    premi(VK_INSERT);
+    premi(VK_RETURN);
+    EXPECT_EQ(testoDi(campo(IDC_TXTTITOLO)), L"y");
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+}
+
+TEST_F(FrmMainTasti, CtrlNOESOvunqueStiaIlFuoco) {
+    for (const HWND fuoco : {campo(IDC_TXTTITOLO), campo(IDC_TXTDESCRIZIONE), lista()}) {
+        finestra.NuovoDocumento();
+        metti(L"uno");
+        SetFocus(fuoco);
+        const std::wstring percorso = cartella.file(L"tasti.xml");
+        dialoghi.attendiSalva(richiestaSalva, percorso);
+        premi(L'S', {VK_CONTROL});
+        EXPECT_EQ(finestra.campi().Tag(), percorso);
+        premi(L'N', {VK_CONTROL});
+        EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+        dialoghi.attendiApri(richiestaApri, percorso);
+        premi(L'O', {VK_CONTROL});
+        EXPECT_EQ(titoliElementi(), L"uno;");
+    }
+}
+
+TEST_F(FrmMainTasti, SalvareDaTastieraPortaPrimaLeMisureNeiLimiti) {
+    metti(L"uno");
+    SetFocus(finestra.campi().txtLarghezza().txtnumero());
+    scrivi(L"25000");
+    dialoghi.attendiSalva(richiestaSalva, std::nullopt);
+    premi(L'S', {VK_CONTROL});
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 10000);
+}
+
+TEST_F(FrmMainTasti, F1ApreLaGuidaEDiceSeManca) {
+    std::wstring guida = cartellaProgramma() + L'\\' + nomeProgramma();
+    guida.replace(guida.rfind(L'.'), std::wstring::npos, L".htm");
+    messaggi.attendi(guida + L": file non trovato!", L"Errore", Icona::Critica);
+    premi(VK_F1);
+}
+
+TEST_F(FrmMainTasti, IlDoppioClicModificaLaRigaCliccata) {
+    riempi();
+    attendiEditor(L"b", L"x");
+    doppioClic(lista(), punto(2));
+    EXPECT_EQ(titoliElementi(), L"a;x;c;");
+}
+
+TEST_F(FrmMainTasti, IlDoppioClicSullIntestazioneOSuUnaRigaVuotaNonModificaNulla) {
+    riempi();
+    attendiNessunaSelezione();
+    doppioClic(ListView_GetHeader(lista()), {60, 5});
+    // Away, so that the next press is not a third one.
+    clic(campo(IDC_TXTTITOLO));
+    attendiNessunaSelezione();
+    doppioClic(lista(), punto(4));
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainTasti, ITastiDuranteUnTrascinamentoNonContano) {
+    riempi();
+    premiMouse(lista(), punto(1));
+    muoviMouse(lista(), punto(2));
+    ASSERT_EQ(finestra.griglia().trascinato(), 0);
+    premi(VK_DELETE);
+    premi(VK_RETURN);
+    premi(VK_INSERT);
+    premi(VK_DOWN, {VK_MENU});
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    lasciaMouse();
+    EXPECT_EQ(titoliElementi(), L"b;a;c;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
+    riempi();
+    premiMouse(lista(), punto(1));
+    muoviMouse(lista(), punto(3));
+    premi(VK_ESCAPE);
+    EXPECT_EQ(finestra.griglia().trascinato(), -1);
+    lasciaMouse();
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+}
+
+TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
+    riempi();
+    for (const WORD tasto : {WORD{VK_RETURN}, WORD{VK_SPACE}}) {
+        SetFocus(pulsante(mnDelFeed));
+        attendiCancellazione(Risposta::No);
+        premi(tasto);
+        SetFocus(campo(IDC_CMDGETSIZE));
+        dialoghi.attendiApri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
+                              L"Tutti i file (*.*)|*.*",
+                              4100, L""},
+                             std::nullopt);
+        premi(tasto);
+    }
+}
+
+TEST_F(FrmMainTasti, UnImmagineTroppoLargaEErrore380ELasciaLeMisure) {
+    finestra.campi().dimensioni(7, 8);
+    dialoghi.attendiApri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
+                          L"Tutti i file (*.*)|*.*",
+                          4100, L""},
+                         cartella.scrivi(L"larga.bmp", immagini::bmp(20000, 1)));
+    messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380", Icona::Informazione);
+    clic(campo(IDC_CMDGETSIZE));
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 7);
+    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 8);
+}

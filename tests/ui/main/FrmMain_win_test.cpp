@@ -1,0 +1,341 @@
+#include "tests/aiuti/frmMain_win.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+namespace {
+
+using FrmMainAperta = ProvaFrmMain;
+
+constexpr std::array campiTesto{IDC_TXTTITOLO, IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
+                                IDC_CBOLINGUA, IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
+                                IDC_TXTLOGO,   IDC_TXTURL,       IDC_TXTLINKIMG};
+
+std::wstring nomeClasse(HWND finestra) {
+    std::array<wchar_t, 64> nome{};
+    GetClassNameW(finestra, nome.data(), static_cast<int>(nome.size()));
+    return nome.data();
+}
+
+} // namespace
+
+TEST_F(FrmMainAperta, AllAvvioMostraUnDocumentoNuovoEPulito) {
+    EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_TRUE(finestra.stato().nuovo());
+    EXPECT_EQ(finestra.elementi().conteggio(), 0);
+    EXPECT_EQ(finestra.griglia().righe().righe(), 50);
+    for (const int id : campiTesto) {
+        EXPECT_EQ(testoDi(campo(id)), L"") << id;
+    }
+    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 0);
+    EXPECT_EQ(finestra.ultimaData(), orologio.locale());
+}
+
+TEST_F(FrmMainAperta, LaBarraDiStatoMostraLaDataDiAvvioELaMisuraEsterna) {
+    EXPECT_EQ(pannello(0), L"Tue, 15 Nov 2005 10:00:00 +0200");
+    SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 640, 480, SWP_NOZORDER | SWP_NOMOVE);
+    EXPECT_EQ(pannello(1), L"(640,480)");
+    finestra.ImpostaStato(L"  in mezzo  ");
+    EXPECT_EQ(pannello(0), L"in mezzo");
+}
+
+TEST_F(FrmMainAperta, UnCarattereInOgniCampoSegnaLaModificaENonIlTitolo) {
+    for (const int id : campiTesto) {
+        finestra.NuovoDocumento();
+        ASSERT_FALSE(finestra.stato().modificato());
+        SetFocus(campo(id));
+        scrivi(L"x");
+        EXPECT_TRUE(finestra.stato().modificato()) << id;
+        EXPECT_EQ(testoDi(campo(id)), L"x") << id;
+        EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+    }
+}
+
+TEST_F(FrmMainAperta, CambiareDataOraOMisureSegnaLaModifica) {
+    for (const int id : {IDC_TXTDATA, IDC_TXTORARIO, IDC_TXTLARGHEZZA, IDC_TXTALTEZZA}) {
+        finestra.NuovoDocumento();
+        ASSERT_FALSE(finestra.stato().modificato());
+        SetFocus(campo(id));
+        // The pickers change the part of the date that was chosen.
+        premi(VK_RIGHT);
+        EXPECT_FALSE(finestra.stato().modificato()) << id;
+        premi(VK_UP);
+        EXPECT_TRUE(finestra.stato().modificato()) << id;
+    }
+}
+
+TEST_F(FrmMainAperta, PassareDaUnCampoAllAltroNonSegnaNulla) {
+    SetFocus(campo(IDC_TXTTITOLO));
+    for (int i = 0; i < 20; ++i) {
+        premi(VK_TAB);
+    }
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainAperta, AssegnareLoStessoTestoNonSegnaNulla) {
+    finestra.campi().testo(CampoCanale::Descrizione, L"a\r\nb");
+    EXPECT_TRUE(finestra.stato().modificato());
+    finestra.campi().testo(CampoCanale::Descrizione, L"a\r\nb");
+    finestra.NuovoDocumento();
+    finestra.campi().testo(CampoCanale::Titolo, L"");
+    finestra.campi().testo(CampoCanale::Descrizione, L"");
+    finestra.campi().dataOra(orologio.locale());
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainAperta, LeLingueSonoItELoScrittoDallUtente) {
+    const HWND lingua = campo(IDC_CBOLINGUA);
+    ASSERT_EQ(SendMessageW(lingua, CB_GETCOUNT, 0, 0), 1);
+    std::array<wchar_t, 8> voce{};
+    SendMessageW(lingua, CB_GETLBTEXT, 0, reinterpret_cast<LPARAM>(voce.data()));
+    EXPECT_STREQ(voce.data(), L"it");
+    SetFocus(lingua);
+    premi(VK_DOWN);
+    EXPECT_EQ(testoDi(lingua), L"it");
+    EXPECT_TRUE(finestra.stato().modificato());
+    finestra.NuovoDocumento();
+    scrivi(L"de-AT");
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Lingua), L"de-AT");
+}
+
+TEST_F(FrmMainAperta, IlNuovoDocumentoRiportaTuttoAlVuoto) {
+    for (const int id : campiTesto) {
+        SetWindowTextW(campo(id), L"qualcosa");
+    }
+    finestra.campi().Tag(L"C:\\f.xml");
+    finestra.campi().txtLarghezza().Valore(100);
+    finestra.campi().dataOra(DataOra::daParti(2000, 1, 1));
+    metti(L"uno");
+    orologio.locale(DataOra::daParti(2006, 2, 3, 4, 5, 6));
+    finestra.NuovoDocumento();
+    for (const int id : campiTesto) {
+        EXPECT_EQ(testoDi(campo(id)), L"") << id;
+    }
+    EXPECT_EQ(finestra.campi().Tag(), L"");
+    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 0);
+    EXPECT_EQ(finestra.elementi().conteggio(), 0);
+    EXPECT_EQ(finestra.griglia().righe().elemento(1), -1);
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainAperta, LeMisureSonoPixelInteriFinoADiecimila) {
+    KOInputNumerico& larghezza = finestra.campi().txtLarghezza();
+    EXPECT_EQ(larghezza.CifreDecimali(), 0);
+    EXPECT_EQ(larghezza.Massimo(), 10000);
+    EXPECT_EQ(larghezza.Minimo(), 0);
+    EXPECT_EQ(larghezza.Incremento(), 1);
+    EXPECT_EQ(testoDi(larghezza.txtnumero()), L"0");
+}
+
+TEST_F(FrmMainAperta, LaDataCheUnSelettoreNonTieneEErrore380) {
+    const DataOra prima = finestra.campi().dataOra();
+    EXPECT_THROW(finestra.campi().dataOra(DataOra::daParti(1600, 1, 1)), Errore);
+    EXPECT_EQ(finestra.campi().dataOra(), prima);
+}
+
+TEST_F(FrmMainAperta, LOrarioSiLeggeSulleVentiquattroOre) {
+    finestra.campi().dataOra(DataOra::daParti(2005, 6, 7, 21, 8, 9));
+    EXPECT_EQ(testoDi(campo(IDC_TXTORARIO)), L"21:08:09");
+}
+
+TEST_F(FrmMainAperta, OgniCampoHaLaSuaEtichettaSubitoPrima) {
+    const std::array<std::pair<int, const wchar_t*>, 13> attese{{
+        {IDC_TXTTITOLO, L"Titolo:"},
+        {IDC_TXTLINKHOME, L"Link Home:"},
+        {IDC_TXTDESCRIZIONE, L"Descrizione:"},
+        {IDC_CBOLINGUA, L"Linguaggio:"},
+        {IDC_TXTCOPYRIGHT, L"Copyright:"},
+        {IDC_TXTDATA, L"Data:"},
+        {IDC_TXTWEBMASTER, L"WebMaster:"},
+        {IDC_TXTLOGO, L"Titolo Logo:"},
+        {IDC_TXTURL, L"Url:"},
+        {IDC_TXTLINKIMG, L"Click Link:"},
+        {IDC_TXTLARGHEZZA, L"Larghezza:"},
+        {IDC_TXTALTEZZA, L"Altezza:"},
+        {IDC_FRADATI, nullptr},
+    }};
+    for (const auto& [id, etichetta] : attese) {
+        if (etichetta == nullptr) {
+            EXPECT_EQ(testoDi(campo(id)), L"Dati documento ");
+            continue;
+        }
+        const HWND prima = GetWindow(campo(id), GW_HWNDPREV);
+        EXPECT_EQ(nomeClasse(prima), L"Static") << id;
+        EXPECT_EQ(testoDi(prima), etichetta);
+    }
+}
+
+TEST_F(FrmMainAperta, IlTabulatoreSegueLOcchio) {
+    const std::array ordine{campo(IDC_TXTTITOLO),
+                            campo(IDC_TXTLINKHOME),
+                            campo(IDC_TXTDESCRIZIONE),
+                            campo(IDC_CBOLINGUA),
+                            campo(IDC_TXTCOPYRIGHT),
+                            campo(IDC_TXTDATA),
+                            campo(IDC_TXTORARIO),
+                            campo(IDC_TXTWEBMASTER),
+                            campo(IDC_TXTLOGO),
+                            campo(IDC_TXTURL),
+                            campo(IDC_TXTLINKIMG),
+                            finestra.campi().txtLarghezza().txtnumero(),
+                            finestra.campi().txtAltezza().txtnumero(),
+                            campo(IDC_CMDGETSIZE),
+                            finestra.griglia().lista()};
+    SetFocus(ordine.front());
+    for (std::size_t i = 0; i < ordine.size(); ++i) {
+        const HWND fuoco = GetFocus();
+        EXPECT_TRUE(fuoco == ordine[i] || IsChild(ordine[i], fuoco))
+            << "step " << i << ": " << inUtf8(nomeClasse(fuoco));
+        premi(VK_TAB);
+    }
+    for (const wchar_t* const pulsante : {L"Aggiungi Feed", L"Modifica Feed", L"Cancella Feed"}) {
+        EXPECT_EQ(testoDi(GetFocus()), pulsante);
+        premi(VK_TAB);
+    }
+    EXPECT_EQ(GetFocus(), ordine.front());
+    premi(VK_TAB, {VK_SHIFT});
+    EXPECT_EQ(testoDi(GetFocus()), L"Cancella Feed");
+}
+
+TEST_F(FrmMainAperta, OgniMisuraDellaFinestraVaBene) {
+    for (const SIZE misura : {SIZE{1, 1}, SIZE{200, 150}, SIZE{5760, 1080}, SIZE{800, 600}}) {
+        SetWindowPos(finestra.hwnd(), nullptr, 0, 0, misura.cx, misura.cy,
+                     SWP_NOZORDER | SWP_NOMOVE);
+        pompa();
+    }
+    ShowWindow(finestra.hwnd(), SW_MINIMIZE);
+    ShowWindow(finestra.hwnd(), SW_RESTORE);
+    RECT interno{};
+    RECT griglia{};
+    GetClientRect(finestra.hwnd(), &interno);
+    GetWindowRect(finestra.griglia().hwnd(), &griglia);
+    MapWindowPoints(nullptr, finestra.hwnd(), reinterpret_cast<POINT*>(&griglia), 2);
+    EXPECT_GT(griglia.right, interno.right / 2);
+    EXPECT_LT(griglia.right, interno.right);
+    EXPECT_LT(griglia.bottom, interno.bottom);
+}
+
+TEST_F(FrmMainAperta, UnaFinestraTroppoStrettaLasciaICampiComErano) {
+    SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER | SWP_NOMOVE);
+    RECT prima{};
+    GetWindowRect(campo(IDC_TXTLOGO), &prima);
+    SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 300, 700, SWP_NOZORDER | SWP_NOMOVE);
+    RECT dopo{};
+    GetWindowRect(campo(IDC_TXTLOGO), &dopo);
+    EXPECT_EQ(dopo.right - dopo.left, prima.right - prima.left);
+}
+
+TEST_F(FrmMainAperta, ITreCampiDellImmagineHannoLaStessaLarghezzaFinoAQuellaDelTitolo) {
+    const auto larghezza = [&](int id) {
+        RECT r{};
+        GetWindowRect(campo(id), &r);
+        return r.right - r.left;
+    };
+    for (const int misura : {700, 850, 1800}) {
+        SetWindowPos(finestra.hwnd(), nullptr, 0, 0, misura, 700, SWP_NOZORDER | SWP_NOMOVE);
+        EXPECT_EQ(larghezza(IDC_TXTLOGO), larghezza(IDC_TXTURL));
+        EXPECT_EQ(larghezza(IDC_TXTLOGO), larghezza(IDC_TXTLINKIMG));
+        EXPECT_LE(larghezza(IDC_TXTLOGO), larghezza(IDC_TXTTITOLO));
+    }
+    EXPECT_EQ(larghezza(IDC_TXTLOGO), larghezza(IDC_TXTTITOLO));
+}
+
+TEST_F(FrmMainAperta, IPulsantiDegliElementiSonoImpilatiELarghiQuantoLaStriscia) {
+    const HWND striscia = GetParent(
+        GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed));
+    RECT interno{};
+    GetClientRect(striscia, &interno);
+    LONG alto = 0;
+    for (const int id : {mnaddFeed, mnEditFeed, mnDelFeed}) {
+        RECT r{};
+        GetWindowRect(GetDlgItem(striscia, id), &r);
+        MapWindowPoints(nullptr, striscia, reinterpret_cast<POINT*>(&r), 2);
+        EXPECT_EQ(r.top, alto);
+        EXPECT_EQ(r.left, 0);
+        EXPECT_EQ(r.right, interno.right);
+        alto = r.bottom;
+    }
+}
+
+TEST_F(FrmMainAperta, ChiudereUnDocumentoPulitoNonChiede) {
+    SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(finestra.hwnd(), nullptr);
+}
+
+TEST_F(FrmMainAperta, AnnullaTieneLaFinestraAperta) {
+    metti(L"uno");
+    finestra.ImpostaModificato();
+    attendiDomanda(Risposta::Annulla);
+    SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+    EXPECT_NE(finestra.hwnd(), nullptr);
+    EXPECT_EQ(titoliElementi(), L"uno;");
+}
+
+TEST_F(FrmMainAperta, LaFineDellaSessioneSiChiedeComeUnaChiusura) {
+    EXPECT_TRUE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+    metti(L"uno");
+    finestra.ImpostaModificato();
+    attendiDomanda(Risposta::Annulla);
+    EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+    attendiDomanda(Risposta::No);
+    EXPECT_TRUE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+}
+
+TEST_F(FrmMainAperta, MentreUnDialogoEApertoNonSiChiudeNeSiComanda) {
+    dialoghi.attendiApri(richiestaApri, std::nullopt, [&] {
+        SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+        SendMessageW(finestra.hwnd(), WM_COMMAND, mnNuovo, 0);
+        EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
+    });
+    finestra.campi().testo(CampoCanale::Titolo, L"resta");
+    attendiDomanda(Risposta::No);
+    finestra.esegui(mnApri);
+    ASSERT_NE(finestra.hwnd(), nullptr);
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"resta");
+}
+
+TEST_F(FrmMainAperta, UnMegabyteDiTestoSiTiene) {
+    std::wstring lungo;
+    while (lungo.size() < 1000000) {
+        lungo += std::wstring(98, L'ā') + L"\r\n";
+    }
+    finestra.campi().testo(CampoCanale::Descrizione, lungo);
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Descrizione), lungo);
+}
+
+TEST_F(FrmMainAperta, LeDimensioniDaUnImmagineSceltaDallUtente) {
+    // A GIF's size stands in its first bytes; this one is 3 by 2.
+    const std::string gif("GIF89a\x03\0\x02\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\x03\0\x02\0\0"
+                          "\x02\x03\x84\x1d\x05\0;",
+                          38);
+    const RichiestaFile richiesta{
+        L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", 4100, L""};
+    dialoghi.attendiApri(richiesta, cartella.scrivi(L"i.gif", gif));
+    clic(campo(IDC_CMDGETSIZE));
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 3);
+    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 2);
+    EXPECT_TRUE(finestra.stato().modificato());
+
+    dialoghi.attendiApri(richiesta, std::nullopt);
+    clic(campo(IDC_CMDGETSIZE));
+    dialoghi.attendiApri(richiesta, cartella.scrivi(L"t.txt", "testo"));
+    messaggi.attendi(L"Immagine non valida", L"Errore  481", Icona::Informazione);
+    clic(campo(IDC_CMDGETSIZE));
+    dialoghi.attendiApri(richiesta, cartella.file(L"manca.gif"));
+    messaggi.attendi(L"Impossibile trovare il file", L"Errore  53", Icona::Informazione);
+    clic(campo(IDC_CMDGETSIZE));
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 3);
+    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 2);
+}
+
+TEST_F(FrmMainAperta, UnaMisuraOltreIlMassimoLasciaEntrambiICampi) {
+    finestra.campi().dimensioni(7, 8);
+    EXPECT_THROW(finestra.campi().dimensioni(1, 20000), Errore);
+    EXPECT_THROW(finestra.campi().dimensioni(20000, 1), Errore);
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 7);
+    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 8);
+}

@@ -1,0 +1,377 @@
+#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/frmMain_win.h"
+
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr const wchar_t* nessunContenuto =
+    L"Per salvare il documento è necessario immettere almeno un contenuto. Salvataggio non "
+    L"consentito.";
+
+class Documenti : public ProvaFrmMain {
+protected:
+    // A feed file of one item.
+    std::wstring feed(std::wstring_view nome, std::string_view resto = "") {
+        return cartella.scrivi(nome, rssCon("<title>Canale</title>" + std::string(resto) +
+                                            "<item><title>uno</title></item>"));
+    }
+    // The document as it would be told apart from another one.
+    [[nodiscard]] std::wstring impronta() {
+        std::wstring tutto = titolo() + L'|' + finestra.campi().Tag() + L'|' + titoliElementi();
+        for (std::size_t i = 0; i < CampiCanale::numeroTesti; ++i) {
+            tutto += L'|' + finestra.campi().testo(static_cast<CampoCanale>(i));
+        }
+        return tutto;
+    }
+    [[nodiscard]] static std::wstring inMaiuscolo(std::wstring percorso) {
+        CharUpperBuffW(percorso.data(), static_cast<DWORD>(percorso.size()));
+        return percorso;
+    }
+};
+
+} // namespace
+
+TEST_F(Documenti, ApreChiedendoIlFileERiempieOgniCampo) {
+    const std::wstring percorso =
+        feed(L"a.xml", "<link>l</link><description>a\nb</description><language>it</language>"
+                       "<copyright>c</copyright><lastBuildDate>Sat, 05 Mar 2005 21:22:23 +0100"
+                       "</lastBuildDate><webMaster>w</webMaster><image><title>t</title><url>u</url>"
+                       "<link>k</link><width>120px</width><height>60</height></image>");
+    dialoghi.attendiApri(richiestaApri, percorso);
+    EXPECT_TRUE(finestra.documento().Apri(L""));
+    EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
+    EXPECT_EQ(finestra.campi().Tag(), percorso);
+    const std::array attesi{L"Canale", L"l", L"a\r\nb", L"it", L"c", L"w", L"t", L"u", L"k"};
+    for (std::size_t i = 0; i < attesi.size(); ++i) {
+        EXPECT_EQ(finestra.campi().testo(static_cast<CampoCanale>(i)), attesi[i]);
+    }
+    EXPECT_EQ(finestra.campi().dataOra(), DataOra::daParti(2005, 3, 5, 21, 22, 23));
+    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 120);
+    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 60);
+    EXPECT_EQ(titoliElementi(), L"uno;");
+    EXPECT_EQ(finestra.griglia().righe().elemento(1), 0);
+    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(finestra.stato().nuovo());
+    // Only a save adds to the recent files.
+    EXPECT_TRUE(impostazioni.valori.empty());
+}
+
+TEST_F(Documenti, AnnullareIDialoghiNonCambiaNulla) {
+    metti(L"uno");
+    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    const std::wstring prima = impronta();
+    attendiDomanda(Risposta::No);
+    dialoghi.attendiApri(richiestaApri, std::nullopt);
+    EXPECT_FALSE(finestra.documento().Apri(L""));
+    dialoghi.attendiSalva(richiestaSalva, std::nullopt);
+    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_EQ(impronta(), prima);
+    EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, UnFileRecenteCheMancaEErrore8292ELasciaIlDocumento) {
+    metti(L"uno");
+    const std::wstring prima = impronta();
+    const std::wstring percorso = cartella.file(L"città.xml");
+    attendiErrore(8292, inMaiuscolo(percorso) + L": impossibile trovare il file.");
+    EXPECT_FALSE(finestra.documento().Apri(percorso));
+    EXPECT_EQ(impronta(), prima);
+}
+
+TEST_F(Documenti, UnaCartellaOUnFileNascostoNonSiTrovano) {
+    attendiErrore(8292, inMaiuscolo(cartella.percorso()) + L": impossibile trovare il file.");
+    EXPECT_FALSE(finestra.documento().Apri(cartella.percorso()));
+    const std::wstring nascosto = feed(L"n.xml");
+    SetFileAttributesW(nascosto.c_str(), FILE_ATTRIBUTE_HIDDEN);
+    attendiErrore(8292, inMaiuscolo(nascosto) + L": impossibile trovare il file.");
+    EXPECT_FALSE(finestra.documento().Apri(nascosto));
+}
+
+TEST_F(Documenti, LaDomandaVienePrimaDelControlloDelFile) {
+    metti(L"uno");
+    finestra.ImpostaModificato();
+    attendiDomanda(Risposta::Annulla);
+    EXPECT_FALSE(finestra.documento().Apri(cartella.file(L"manca.xml")));
+}
+
+TEST_F(Documenti, UnFileIllegibileLasciaLaFinestraVuotaEPulita) {
+    metti(L"uno");
+    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    finestra.campi().Tag(L"C:\\vecchio.xml");
+    const std::wstring percorso = cartella.scrivi(L"rotto.xml", "<rss>");
+    attendiDomanda(Risposta::No);
+    attendiErrore(18343, inMaiuscolo(percorso) + L": impossibile caricare il documento.");
+    EXPECT_FALSE(finestra.documento().Apri(percorso));
+    EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+    EXPECT_EQ(titoliElementi(), L"");
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"");
+    EXPECT_EQ(finestra.campi().Tag(), L"");
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, UnaDataIllegibileSiDiceUnaVoltaEIlRestoSiCarica) {
+    attendiErrore(4453, L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
+    EXPECT_TRUE(finestra.documento().Apri(
+        feed(L"d.xml", "<lastBuildDate>ieri</lastBuildDate><webMaster>w</webMaster>")));
+    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::WebMaster), L"w");
+    EXPECT_EQ(titoliElementi(), L"uno;");
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, UnaDataCheISelettoriNonTengonoSiDiceUnaVolta) {
+    attendiErrore(380, L"Valore di proprietà non valido");
+    EXPECT_TRUE(finestra.documento().Apri(
+        feed(L"d.xml", "<lastBuildDate>Sat, 01 Jan 1600 00:00:00 +0000</lastBuildDate>")));
+    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
+}
+
+TEST_F(Documenti, UnaMisuraFuoriDaiLimitiFinisceLAperturaELasciaIlRiempito) {
+    for (const char* const misura : {"<width>10001</width>", "<width>-1</width>"}) {
+        attendiErrore(380, L"Valore di proprietà non valido");
+        const std::wstring percorso =
+            feed(L"m.xml", "<image><title>t</title>" + std::string(misura) + "</image>");
+        EXPECT_FALSE(finestra.documento().Apri(percorso));
+        EXPECT_EQ(finestra.campi().Tag(), percorso);
+        EXPECT_EQ(finestra.campi().testo(CampoCanale::Logo), L"t");
+        EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 0);
+        finestra.NuovoDocumento();
+    }
+}
+
+TEST_F(Documenti, SalvareSenzaElementiEErrore12883) {
+    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    attendiErrore(12883, nessunContenuto);
+    EXPECT_FALSE(finestra.documento().Salva(false));
+    attendiErrore(12883, nessunContenuto);
+    EXPECT_FALSE(finestra.documento().Salva(true));
+    EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, RispondereSiSenzaElementiAbbandonaLAzione) {
+    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    attendiDomanda(Risposta::Si);
+    attendiErrore(12883, nessunContenuto);
+    EXPECT_FALSE(finestra.documento().ChiediSalvataggio());
+    attendiDomanda(Risposta::Si);
+    attendiErrore(12883, nessunContenuto);
+    finestra.esegui(mnNuovo);
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"t");
+}
+
+TEST_F(Documenti, SalvaRifilaICampiETieneGliSpaziInizialiDellaDescrizione) {
+    metti(L"uno");
+    const std::array scritti{L"  t ", L" l  ", L"  d  ", L" it ", L" c ",
+                             L" w ",  L" i ",  L" u ",   L" k "};
+    for (std::size_t i = 0; i < scritti.size(); ++i) {
+        finestra.campi().testo(static_cast<CampoCanale>(i), scritti[i]);
+    }
+    finestra.campi().dimensioni(12, 34);
+    const std::wstring percorso = cartella.file(L"s.xml");
+    dialoghi.attendiSalva(richiestaSalva, percorso);
+    EXPECT_TRUE(finestra.documento().Salva(false));
+    Documento d;
+    d.leggi(percorso);
+    EXPECT_EQ(d.title, L"t");
+    EXPECT_EQ(d.link, L"l");
+    EXPECT_NE(leggiTutto(percorso).find("<description>  d</description>"), std::string::npos);
+    EXPECT_EQ(d.language, L"it");
+    EXPECT_EQ(d.copyright, L"c");
+    EXPECT_EQ(d.webMaster, L"w");
+    EXPECT_EQ(d.image.sTitle(), L"i");
+    EXPECT_EQ(d.image.sUrl(), L"u");
+    EXPECT_EQ(d.image.sLink(), L"k");
+    EXPECT_EQ(d.image.nWidth(), 12);
+    EXPECT_EQ(d.image.nHeight(), 34);
+    EXPECT_EQ(d.lastBuildDate.substr(0, 25), L"Tue, 15 Nov 2005 10:00:00");
+    EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, UnImmagineSenzaTitoloSiScriveSenzaMisure) {
+    metti(L"uno");
+    finestra.campi().testo(CampoCanale::Logo, L"   ");
+    finestra.campi().testo(CampoCanale::Url, L"u");
+    finestra.campi().dimensioni(12, 34);
+    const std::wstring percorso = cartella.file(L"i.xml");
+    dialoghi.attendiSalva(richiestaSalva, percorso);
+    ASSERT_TRUE(finestra.documento().Salva(false));
+    Documento d;
+    d.leggi(percorso);
+    EXPECT_EQ(d.image.sTitle(), L"");
+    EXPECT_EQ(d.image.sUrl(), L"u");
+    EXPECT_EQ(d.image.nWidth(), 0);
+    EXPECT_EQ(d.image.nHeight(), 0);
+}
+
+TEST_F(Documenti, SalvaSuUnDocumentoConNomeNonChiedeConNomeChiedeSempre) {
+    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
+    finestra.campi().testo(CampoCanale::Titolo, L"altro");
+    EXPECT_TRUE(finestra.documento().Salva(false));
+    const std::wstring nuovo = cartella.file(L"b.xml");
+    dialoghi.attendiSalva(richiestaSalva, nuovo);
+    EXPECT_TRUE(finestra.documento().Salva(true));
+    EXPECT_EQ(finestra.campi().Tag(), nuovo);
+    Documento d;
+    d.leggi(nuovo);
+    EXPECT_EQ(d.title, L"altro");
+}
+
+TEST_F(Documenti, UnSalvataggioFallitoLasciaPercorsoTitoloElencoEModifica) {
+    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
+    finestra.campi().testo(CampoCanale::Titolo, L"altro");
+    const std::wstring prima = impronta();
+    const std::wstring protetto = feed(L"p.xml");
+    SetFileAttributesW(protetto.c_str(), FILE_ATTRIBUTE_READONLY);
+    dialoghi.attendiSalva(richiestaSalva, protetto);
+    attendiErrore(75, L"Errore di accesso al percorso/file");
+    EXPECT_FALSE(finestra.documento().Salva(true));
+    EXPECT_NE(leggiTutto(protetto).find("Canale"), std::string::npos);
+    EXPECT_EQ(impronta(), prima);
+    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(impostazioni.valori.empty());
+}
+
+TEST_F(Documenti, UnFileTenutoDaUnAltroProgrammaNonSiSalva) {
+    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
+    const ManigliaFile tenuto(CreateFileW(finestra.campi().Tag().c_str(), GENERIC_READ, 0, nullptr,
+                                          OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(tenuto);
+    finestra.campi().testo(CampoCanale::Titolo, L"altro");
+    attendiErrore(70, L"Autorizzazione negata");
+    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(Documenti, UnCarattereCheLXmlNonTieneNonToccaIlFile) {
+    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
+    const std::string prima = leggiTutto(finestra.campi().Tag());
+    finestra.elementi()(CampoElemento::Descrizione, 0) = L"a]]>b";
+    attendiErrore(5, inMaiuscolo(finestra.campi().Tag()) +
+                         L": sequenza ]]> non ammessa in descrizione dell'elemento 1.");
+    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_EQ(leggiTutto(finestra.campi().Tag()), prima);
+}
+
+TEST_F(Documenti, NomiDifficiliSiSalvanoESiRiapronoUguali) {
+    for (const wchar_t* const nome :
+         {L"a%20b.xml", L"c#1.xml", L"d & e.xml", L"l'età.xml", L"f.rss"}) {
+        finestra.NuovoDocumento();
+        metti(nome);
+        const std::wstring percorso = cartella.file(nome);
+        dialoghi.attendiSalva(richiestaSalva, percorso);
+        ASSERT_TRUE(finestra.documento().Salva(false));
+        finestra.NuovoDocumento();
+        ASSERT_TRUE(finestra.documento().Apri(percorso));
+        EXPECT_EQ(titoliElementi(), std::wstring(nome) + L';');
+    }
+}
+
+TEST_F(Documenti, IRecentiStannoNelMenuESiAprono) {
+    const HMENU file = GetSubMenu(GetMenu(finestra.hwnd()), 0);
+    HMENU recenti = nullptr;
+    for (int i = 0; recenti == nullptr; ++i) {
+        recenti = GetSubMenu(file, i);
+    }
+    const auto voce = [&](UINT posizione) {
+        std::array<wchar_t, 300> testo{};
+        GetMenuStringW(recenti, posizione, testo.data(), static_cast<int>(testo.size()),
+                       MF_BYPOSITION);
+        return std::wstring(testo.data());
+    };
+    EXPECT_EQ(GetMenuItemCount(recenti), 1);
+    EXPECT_EQ(voce(0), L"nessuna voce in elenco");
+    EXPECT_NE(GetMenuState(recenti, 0, MF_BYPOSITION) & MF_GRAYED, 0U);
+
+    metti(L"uno");
+    const std::wstring percorso = cartella.file(L"A&B.XML");
+    dialoghi.attendiSalva(richiestaSalva, percorso);
+    ASSERT_TRUE(finestra.documento().Salva(false));
+    ASSERT_EQ(GetMenuItemCount(recenti), 1);
+    EXPECT_NE(voce(0).find(L"a&&b.xml"), std::wstring::npos);
+
+    finestra.NuovoDocumento();
+    SendMessageW(finestra.hwnd(), WM_COMMAND, GetMenuItemID(recenti, 0), 0);
+    EXPECT_EQ(titoliElementi(), L"uno;");
+    // Opened from the list, under the path as the list has it.
+    EXPECT_NE(finestra.campi().Tag().find(L"a&b.xml"), std::wstring::npos);
+}
+
+TEST_F(Documenti, UnDocumentoNuovoDiSoliSpaziVaSenzaDomanda) {
+    finestra.campi().testo(CampoCanale::Titolo, L"   ");
+    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(finestra.documento().ChiediSalvataggio());
+    finestra.esegui(mnNuovo);
+    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"");
+}
+
+// Every state of the document against every command that throws it away, and every answer.
+TEST_F(Documenti, OgniStatoOgniComandoOgniRisposta) {
+    const std::wstring altro = feed(L"altro.xml");
+    struct Caso {
+        Risposta risposta;
+        bool salvataggioAnnullato;
+    };
+    const std::array casi{Caso{Risposta::No, false}, Caso{Risposta::Annulla, false},
+                          Caso{Risposta::Si, false}, Caso{Risposta::Si, true}};
+    int numero = 0;
+    for (const bool conNome : {false, true}) {
+        for (const bool modificato : {false, true}) {
+            for (const bool vuoto : {false, true}) {
+                for (const int comando : {int{mnNuovo}, int{mnApri}}) {
+                    for (const Caso& caso : casi) {
+                        SCOPED_TRACE(++numero);
+                        finestra.NuovoDocumento();
+                        if (conNome) {
+                            const std::wstring mio = feed(L"mio.xml");
+                            ASSERT_TRUE(finestra.documento().Apri(mio));
+                        }
+                        if (vuoto) {
+                            finestra.elementi().svuota();
+                            finestra.campi().testo(CampoCanale::Titolo, L"");
+                        } else if (!conNome) {
+                            metti(L"uno");
+                        }
+                        finestra.stato().modificato(modificato);
+                        const std::wstring prima = impronta();
+
+                        const bool chiede = modificato && (conNome || !vuoto);
+                        bool prosegue = true;
+                        if (chiede) {
+                            attendiDomanda(caso.risposta);
+                            prosegue = caso.risposta == Risposta::No;
+                            if (caso.risposta == Risposta::Si && vuoto) {
+                                attendiErrore(12883, nessunContenuto);
+                            } else if (caso.risposta == Risposta::Si) {
+                                prosegue = conNome || !caso.salvataggioAnnullato;
+                                if (!conNome) {
+                                    dialoghi.attendiSalva(
+                                        richiestaSalva,
+                                        caso.salvataggioAnnullato
+                                            ? std::nullopt
+                                            : std::optional(cartella.file(L"salvato.xml")));
+                                }
+                            }
+                        }
+                        if (prosegue && comando == mnApri) {
+                            dialoghi.attendiApri(richiestaApri, altro);
+                        }
+                        finestra.esegui(comando);
+                        if (!prosegue) {
+                            EXPECT_EQ(impronta(), prima);
+                            EXPECT_TRUE(finestra.stato().modificato());
+                        } else if (comando == mnNuovo) {
+                            EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
+                            EXPECT_EQ(titoliElementi(), L"");
+                        } else {
+                            EXPECT_EQ(finestra.campi().Tag(), altro);
+                        }
+                        EXPECT_EQ(finestra.stato().modificato(), !prosegue);
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,423 @@
+// Every menu entry and every button that the running window has does its work.
+
+#include "support/file_win.h"
+#include "support/prodotto.h"
+#include "tests/aiuti/ambiente_win.h"
+#include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/registratore_win.h"
+
+#include <commctrl.h>
+
+#include <functional>
+#include <map>
+#include <set>
+#include <vector>
+
+namespace {
+
+const RichiestaFile richiestaPagina{
+    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", 2050, L".htm"};
+
+// A file of this content at a path outside the test's folder, gone afterwards.
+class FilePassante {
+public:
+    explicit FilePassante(std::wstring percorso) : percorso_(std::move(percorso)) {
+        const HANDLE file = CreateFileW(percorso_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+        EXPECT_NE(file, INVALID_HANDLE_VALUE);
+        CloseHandle(file);
+    }
+    FilePassante(const FilePassante&) = delete;
+    FilePassante& operator=(const FilePassante&) = delete;
+    ~FilePassante() { DeleteFileW(percorso_.c_str()); }
+
+private:
+    std::wstring percorso_;
+};
+
+class Comandi : public ProvaFrmMain {
+protected:
+    using Caso = std::function<void()>;
+
+    void SetUp() override {
+        for (const wchar_t* const protocollo : {L"https", L"mailto"}) {
+            registratore.protocollo(protocollo);
+        }
+        registratore.tipo(L".htm");
+        registratore.tipo(L".hlp");
+    }
+
+    // Three items, the second one selected; a clean document again.
+    void riparti() {
+        finestra.NuovoDocumento();
+        for (const wchar_t* const nome : {L"uno", L"due", L"tre"}) {
+            metti(nome);
+        }
+        finestra.SelezionaRiga(2);
+        finestra.stato().modificato(false);
+    }
+
+    // What an export or a preview must leave as it is.
+    [[nodiscard]] std::wstring stato() {
+        return titolo() + L'|' + finestra.campi().Tag() + L'|' + titoliElementi() +
+               std::to_wstring(finestra.stato().modificato()) +
+               std::to_wstring(impostazioni.valori.size()) + L'|' +
+               std::to_wstring(finestra.griglia().rigaCorrente());
+    }
+
+    void attendiDomandaPagina(Risposta risposta) {
+        messaggi.attendi(L"Si desidera aprire il file salvato?", L"Salva come pagina Web...",
+                         Icona::Domanda, Pulsanti::SiNo, risposta);
+    }
+    void attendiSelezione() {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+    }
+
+    void apreIlWeb(const std::wstring& dopoIlSito) {
+        esegui_();
+        EXPECT_EQ(registratore.attendi().obiettivo, std::wstring(prodotto::sito) + dopoIlSito);
+    }
+    void scriveAllAutore() {
+        esegui_();
+        EXPECT_EQ(registratore.attendi().obiettivo,
+                  L"Mailto:" + std::wstring(prodotto::postaAutore) + L"?subject=Ostrelle%20v" +
+                      prodotto::versione());
+    }
+    void mostraInformazioni() {
+        bool spenta = false;
+        {
+            const QuandoAppare quando(L"#32770", L"", [&](HWND box) {
+                EXPECT_NE(GetDlgItem(box, IDC_LBLPRODOTTO), nullptr);
+                EXPECT_EQ(GetWindow(box, GW_OWNER), finestra.hwnd());
+                spenta = IsWindowEnabled(finestra.hwnd()) == FALSE;
+                PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+            });
+            esegui_();
+        }
+        EXPECT_TRUE(spenta); // modal
+        EXPECT_TRUE(IsWindowEnabled(finestra.hwnd()));
+    }
+    void fannoNuovo() {
+        finestra.ImpostaModificato();
+        attendiDomanda(Risposta::No);
+        esegui_();
+        EXPECT_EQ(titoliElementi(), L"");
+        EXPECT_FALSE(finestra.stato().modificato());
+    }
+    void apre() {
+        const std::wstring feed =
+            cartella.scrivi(L"aperto.xml", "<rss version=\"2.0\"><channel><title>t</title><item>"
+                                           "<title>letto</title></item></channel></rss>");
+        dialoghi.attendiApri(richiestaApri, feed);
+        esegui_();
+        EXPECT_EQ(titoliElementi(), L"letto;");
+        EXPECT_EQ(titolo(), L"Ostrelle  [" + feed + L"]");
+    }
+    void salva(bool conNome) {
+        const std::wstring primo = cartella.file(L"primo.xml");
+        dialoghi.attendiSalva(richiestaSalva, primo);
+        esegui_();
+        ASSERT_TRUE(fileEsiste(primo));
+        EXPECT_EQ(finestra.campi().Tag(), primo);
+        // The second time only "save as" asks.
+        DeleteFileW(primo.c_str());
+        const std::wstring secondo = conNome ? cartella.file(L"secondo.xml") : primo;
+        if (conNome) {
+            dialoghi.attendiSalva(richiestaSalva, secondo);
+        }
+        esegui_();
+        EXPECT_TRUE(fileEsiste(secondo));
+        EXPECT_EQ(finestra.campi().Tag(), secondo);
+    }
+
+    // Runs a case for each name found; all cases must have been found.
+    void prova(const std::vector<std::pair<std::wstring, Caso>>& trovati,
+               const std::map<std::wstring, Caso>& casi) {
+        std::set<std::wstring> visti;
+        for (const auto& [nome, azione] : trovati) {
+            SCOPED_TRACE(inUtf8(nome));
+            const auto caso = casi.find(nome);
+            if (caso == casi.end()) {
+                ADD_FAILURE() << "no case knows it";
+                continue;
+            }
+            EXPECT_TRUE(visti.insert(nome).second) << "twice";
+            riparti();
+            esegui_ = azione;
+            caso->second();
+        }
+        for (const auto& [nome, caso] : casi) {
+            EXPECT_TRUE(visti.contains(nome)) << "not there: " << inUtf8(nome);
+        }
+    }
+
+    // What the entry or button of the present case does when it is used.
+    Caso esegui_;
+    Registratore registratore;
+};
+
+// The entries of a menu and of those in it, with the path of captions that leads there.
+void raccogli(HMENU menu, const std::wstring& dove, HWND finestra,
+              std::vector<std::pair<std::wstring, std::function<void()>>>& trovati) {
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        MENUITEMINFOW voce{};
+        std::array<wchar_t, 260> testo{};
+        voce.cbSize = sizeof(voce);
+        voce.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STATE | MIIM_SUBMENU | MIIM_STRING;
+        voce.dwTypeData = testo.data();
+        voce.cch = static_cast<UINT>(testo.size());
+        ASSERT_TRUE(GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &voce));
+        if ((voce.fType & MFT_SEPARATOR) != 0) {
+            continue;
+        }
+        const std::wstring nome = dove + testo.data();
+        if (voce.hSubMenu != nullptr) {
+            raccogli(voce.hSubMenu, nome + L" > ", finestra, trovati);
+            continue;
+        }
+        EXPECT_EQ(voce.fState & MFS_DISABLED, 0U) << inUtf8(nome);
+        trovati.emplace_back(nome, [finestra, id = voce.wID] {
+            SendMessageW(finestra, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+            pompa();
+        });
+    }
+}
+
+} // namespace
+
+TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
+    const std::wstring recente =
+        cartella.scrivi(L"recente.xml", "<rss version=\"2.0\"><channel><title>t</title><item>"
+                                        "<title>recente</title></item></channel></rss>");
+    impostazioni.scrivi(L"url", L"murl1", recente);
+    finestra.CaricaRecenti();
+    std::vector<std::pair<std::wstring, Caso>> voci;
+    raccogli(GetMenu(finestra.hwnd()), L"", finestra.hwnd(), voci);
+    // The caption is in lower case.
+    std::wstring voceRecente = recente;
+    CharLowerBuffW(voceRecente.data(), static_cast<DWORD>(voceRecente.size()));
+
+    const std::map<std::wstring, Caso> casi{
+        {L"&File > &Nuovo", [&] { fannoNuovo(); }},
+        {L"&File > &Apri", [&] { apre(); }},
+        {L"&File > &Salva", [&] { salva(false); }},
+        {L"&File > Sa&lva con nome...", [&] { salva(true); }},
+        {L"&File > &Esporta come pagina Web...",
+         [&] {
+             dialoghi.attendiSalva(richiestaPagina, cartella.file(L"p.htm"));
+             attendiDomandaPagina(Risposta::Si);
+             esegui_();
+             EXPECT_EQ(registratore.attendi().obiettivo, cartella.file(L"p.htm"));
+         }},
+        {L"&File > &File recenti > " + voceRecente,
+         [&] {
+             // The saves before it have pushed it down.
+             impostazioni.valori.clear();
+             impostazioni.scrivi(L"url", L"murl1", recente);
+             finestra.CaricaRecenti();
+             esegui_();
+             EXPECT_EQ(titoliElementi(), L"recente;");
+             EXPECT_EQ(finestra.campi().Tag(), voceRecente);
+         }},
+        {L"&File > &Chiudi",
+         [&] {
+             finestra.ImpostaModificato();
+             attendiDomanda(Risposta::Annulla);
+             esegui_();
+             EXPECT_TRUE(IsWindow(finestra.hwnd()));
+         }},
+        {L"&Contenuto > &Aggiungi Feed",
+         [&] {
+             editor.attendi([](clsItemRss& elemento, DataOra data) {
+                 elemento.sTitle(L"aggiunto");
+                 return std::optional(data);
+             });
+             esegui_();
+             EXPECT_EQ(titoliElementi(), L"uno;due;tre;aggiunto;");
+         }},
+        {L"&Contenuto > &Modifica Feed",
+         [&] {
+             editor.attendi([](clsItemRss& elemento, DataOra data) {
+                 elemento.sTitle(elemento.sTitle() + L" nuovo");
+                 return std::optional(data);
+             });
+             esegui_();
+             EXPECT_EQ(titoliElementi(), L"uno;due nuovo;tre;");
+         }},
+        {L"&Contenuto > &Cancella Feed",
+         [&] {
+             messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
+                              L"Attenzione", Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+             esegui_();
+             EXPECT_EQ(titoliElementi(), L"uno;tre;");
+         }},
+        {L"&Contenuto > Visualizza come pagina web",
+         [&] {
+             esegui_();
+             const std::wstring pagina = registratore.attendi().obiettivo;
+             EXPECT_NE(leggiTutto(pagina).find("due"), std::string::npos);
+         }},
+        {L"&Contenuto > &Aggiorna Lista",
+         [&] {
+             static_cast<void>(finestra.elementi().aggiungi());
+             EXPECT_EQ(finestra.griglia().righe().elemento(4), -1);
+             esegui_();
+             EXPECT_EQ(finestra.griglia().righe().elemento(4), 3);
+         }},
+        {L"? > &Guida",
+         [&] {
+             const std::wstring base = fileGuida().substr(0, fileGuida().rfind(L'.'));
+             const FilePassante htm(base + L".htm");
+             esegui_();
+             EXPECT_EQ(registratore.attendi().obiettivo, base + L".htm");
+             const FilePassante hlp(base + L".hlp");
+             esegui_();
+             EXPECT_EQ(registratore.attendi().obiettivo, base + L".hlp");
+         }},
+        {L"? > Q&uorvex sul Web", [&] { apreIlWeb(L""); }},
+        {L"? > G&uide on-line", [&] { apreIlWeb(L"/home/guide.htm"); }},
+        {L"? > &Scrivi all'autore", [&] { scriveAllAutore(); }},
+        {L"? > &Aggiornamento",
+         [&] { apreIlWeb(L"/ostrelle.asp?ver=" + prodotto::versione(L'+')); }},
+        {L"? > S&egnala Bug",
+         [&] { apreIlWeb(L"/bug.asp?prg=Ostrelle%20v" + prodotto::versione()); }},
+        {L"? > &Informazione sul prodotto...", [&] { mostraInformazioni(); }},
+    };
+    prova(voci, casi);
+}
+
+TEST_F(Comandi, OgniPulsanteDellaBarraFaIlSuoLavoro) {
+    const HWND barra = GetDlgItem(finestra.hwnd(), IDC_TOOLBAR);
+    std::vector<std::pair<std::wstring, Caso>> pulsanti;
+    const auto quanti = static_cast<int>(SendMessageW(barra, TB_BUTTONCOUNT, 0, 0));
+    for (int i = 0; i < quanti; ++i) {
+        TBBUTTON pulsante{};
+        ASSERT_TRUE(SendMessageW(barra, TB_GETBUTTON, static_cast<WPARAM>(i),
+                                 reinterpret_cast<LPARAM>(&pulsante)));
+        ASSERT_EQ(pulsante.fsState & TBSTATE_ENABLED, TBSTATE_ENABLED);
+        // Its name is the tooltip that the window gives for it.
+        NMTTDISPINFOW domanda{};
+        domanda.hdr.code = TTN_GETDISPINFOW;
+        domanda.hdr.idFrom = static_cast<UINT_PTR>(pulsante.idCommand);
+        SendMessageW(finestra.hwnd(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&domanda));
+        ASSERT_NE(domanda.lpszText, nullptr) << i;
+        pulsanti.emplace_back(domanda.lpszText, [barra, i] {
+            RECT r{};
+            SendMessageW(barra, TB_GETITEMRECT, static_cast<WPARAM>(i),
+                         reinterpret_cast<LPARAM>(&r));
+            clic(barra, {(r.left + r.right) / 2, (r.top + r.bottom) / 2});
+        });
+    }
+    const std::map<std::wstring, Caso> casi{
+        {L"Crea un nuovo Feed RSS", [&] { fannoNuovo(); }},
+        {L"Apre il Feed RSS per la modifica", [&] { apre(); }},
+        {L"Salva il Feed RSS", [&] { salva(false); }},
+        {L"Invia un email all'autore...", [&] { scriveAllAutore(); }},
+        {L"Informazioni sul prodotto...", [&] { mostraInformazioni(); }},
+    };
+    prova(pulsanti, casi);
+}
+
+TEST_F(Comandi, EsportareSenzaElementiSiRifiutaSenzaDialogo) {
+    attendiErrore(12883, L"Per salvare il documento è necessario immettere almeno un contenuto. "
+                         L"Salvataggio non consentito.");
+    finestra.esegui(mnsalvahtm);
+}
+
+TEST_F(Comandi, AnnullareLEsportazioneNonDiceNulla) {
+    riparti();
+    const std::wstring prima = stato();
+    dialoghi.attendiSalva(richiestaPagina, std::nullopt);
+    finestra.esegui(mnsalvahtm);
+    EXPECT_EQ(stato(), prima);
+}
+
+TEST_F(Comandi, RispondereNoLasciaLaPaginaENonApreNulla) {
+    riparti();
+    for (const bool modificato : {false, true}) {
+        finestra.stato().modificato(modificato);
+        const std::wstring prima = stato();
+        dialoghi.attendiSalva(richiestaPagina, cartella.file(L"no.htm"));
+        attendiDomandaPagina(Risposta::No);
+        finestra.esegui(mnsalvahtm);
+        EXPECT_NE(leggiTutto(cartella.file(L"no.htm")).find("tre"), std::string::npos);
+        EXPECT_EQ(stato(), prima);
+    }
+    // Had one of them opened something, it would come before this.
+    finestra.esegui(mniaco);
+    EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
+}
+
+TEST_F(Comandi, EsportareSuUnaPaginaInSolaLetturaOSuUnaCartellaSiDiceENienteSiPerde) {
+    riparti();
+    const std::wstring pagina = cartella.scrivi(L"ferma.htm", "vecchia");
+    SetFileAttributesW(pagina.c_str(), FILE_ATTRIBUTE_READONLY);
+    const std::wstring sotto = cartella.file(L"cartella.htm");
+    CreateDirectoryW(sotto.c_str(), nullptr);
+    const std::wstring prima = stato();
+    for (const std::wstring& dove : {pagina, sotto}) {
+        dialoghi.attendiSalva(richiestaPagina, dove);
+        attendiErrore(75, L"Errore di accesso al percorso/file");
+        finestra.esegui(mnsalvahtm);
+        EXPECT_EQ(stato(), prima);
+    }
+    EXPECT_EQ(leggiTutto(pagina), "vecchia");
+    SetFileAttributesW(pagina.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(Comandi, EsportareSulFeedApertoNonToccaIlDocumentoCheSiRisalva) {
+    riparti();
+    const std::wstring feed = cartella.file(L"feed.xml");
+    dialoghi.attendiSalva(richiestaSalva, feed);
+    finestra.esegui(mnsalva);
+    const std::string salvato = leggiTutto(feed);
+    const std::wstring prima = stato();
+    dialoghi.attendiSalva(richiestaPagina, feed);
+    attendiDomandaPagina(Risposta::No);
+    finestra.esegui(mnsalvahtm);
+    EXPECT_NE(leggiTutto(feed), salvato);
+    EXPECT_EQ(stato(), prima);
+    finestra.esegui(mnsalva);
+    EXPECT_EQ(leggiTutto(feed), salvato);
+}
+
+TEST_F(Comandi, LAnteprimaSenzaElementoDiceDiSceglierneUnoENonScriveNulla) {
+    const std::wstring temporanea = cartella.file(L"tmp");
+    CreateDirectoryW(temporanea.c_str(), nullptr);
+    const VariabileAmbiente tmp(L"TMP", temporanea);
+    attendiSelezione(); // no row at all
+    finestra.esegui(mnvisualhtml);
+    riparti();
+    finestra.SelezionaRiga(10); // a filler row
+    attendiSelezione();
+    finestra.esegui(mnvisualhtml);
+    EXPECT_TRUE(RemoveDirectoryW(temporanea.c_str())) << "not empty";
+}
+
+TEST_F(Comandi, LAnteprimaMostraSoloLElementoSceltoESparisceConLaCoda) {
+    riparti();
+    const std::wstring prima = stato();
+    finestra.esegui(mnvisualhtml);
+    const std::wstring una = registratore.attendi().obiettivo;
+    finestra.esegui(mnvisualhtml);
+    const std::wstring altra = registratore.attendi().obiettivo;
+    EXPECT_NE(una, altra);
+    const std::string pagina = leggiTutto(una);
+    EXPECT_NE(pagina.find("e.example/due"), std::string::npos);
+    EXPECT_EQ(pagina.find("e.example/tre"), std::string::npos);
+    EXPECT_EQ(stato(), prima);
+    coda.CancellaFile();
+    EXPECT_FALSE(fileEsiste(una));
+    EXPECT_FALSE(fileEsiste(altra));
+    EXPECT_FALSE(fileEsiste(una.substr(0, una.size() - 4)));
+}
+
+TEST_F(Comandi, LAnteprimaCheNonSiPuoScrivereSiDice) {
+    riparti();
+    const VariabileAmbiente tmp(L"TMP", cartella.file(L"manca"));
+    const std::wstring prima = stato();
+    attendiErrore(76, L"Impossibile trovare il percorso");
+    finestra.esegui(mnvisualhtml);
+    EXPECT_EQ(stato(), prima);
+}

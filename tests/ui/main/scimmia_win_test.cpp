@@ -1,0 +1,59 @@
+// A monkey: random work with a fixed seed on the real window, against a plain model of the items.
+
+#include "tests/aiuti/maniglieGui_win.h"
+#include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/scimmia_win.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int passiDiProva = 2000;
+constexpr int passiDiRiscaldamento = 300;
+
+int passiVoluti() {
+    const char* const voluti = std::getenv("OSTRELLE_SCIMMIA");
+    return voluti == nullptr ? passiDiProva : std::max(1, std::atoi(voluti));
+}
+
+} // namespace
+
+TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
+    Scimmia scimmia(20051115);
+    for (int i = 0; i < passiDiRiscaldamento; ++i) {
+        scimmia.passo();
+        ASSERT_EQ(scimmia.guasto(), "") << "warm-up step " << i << ": " << scimmia.fatto();
+    }
+    scimmia.riposa();
+    const ManiglieGui prima = ManiglieGui::adesso();
+    ASSERT_GT(prima.gdi, 0U);
+    ASSERT_GT(prima.user, 0U);
+
+    const int passi = passiVoluti();
+    for (int i = 0; i < passi; ++i) {
+        const auto inizio = std::chrono::steady_clock::now();
+        scimmia.passo();
+        ASSERT_EQ(scimmia.guasto(), "") << "step " << i << ": " << scimmia.fatto();
+        // A step that blocks would never come back; one that takes so long is as good as blocked.
+        ASSERT_LT(std::chrono::steady_clock::now() - inizio, std::chrono::seconds(20))
+            << "step " << i << ": " << scimmia.fatto();
+    }
+    scimmia.riposa();
+    EXPECT_EQ(ManiglieGui::adesso(), prima);
+    // The monkey did reach what it is for.
+    const Scimmia::Conti& conti = scimmia.conti();
+    EXPECT_GT(conti.aggiunti, passi / 200);
+    EXPECT_GT(conti.modificati, passi / 500);
+    EXPECT_GT(conti.cancellati, passi / 500);
+    EXPECT_GT(conti.spostati, passi / 500);
+    EXPECT_GT(conti.salvati, passi / 500);
+    EXPECT_GT(conti.aperti, passi / 1000);
+    RecordProperty("aggiunti", conti.aggiunti);
+    RecordProperty("spostati", conti.spostati);
+    RecordProperty("salvati", conti.salvati);
+}

@@ -1,0 +1,166 @@
+// The main window's events that run a command, one at a time.
+
+#include "ui/main/FrmMain_win.h"
+
+#include "support/ClsSizerImg.h"
+#include "support/immagine_win.h"
+#include "support/koUtilita.h"
+#include "ui/main/elementi.h"
+#include "ui/main/guardia_win.h"
+
+template <class Azione>
+void FrmMain::occupando(Azione azione) {
+    if (occupata_) {
+        return;
+    }
+    occupata_ = true;
+    // The boxes of a command belong to the active window. A minimised program, or one behind
+    // another that is asked about the end of the session, has none.
+    if (GetActiveWindow() == nullptr) {
+        SetActiveWindow(hwnd());
+    }
+    azione();
+    occupata_ = false;
+}
+
+bool FrmMain::Form_QueryUnload() {
+    // While a dialog is up over an unfinished command the answer stays no.
+    bool chiudere = false;
+    occupando([&] {
+        protetto(
+            [&] {
+                KOInputNumerico::lasciaQuelloColFuoco();
+                griglia_.abbandona();
+                chiudere = documento_.ChiediSalvataggio();
+            },
+            [&] { MostraErrore(); });
+    });
+    return chiudere;
+}
+
+void FrmMain::esegui(int id) {
+    if (id == mnChiudi) {
+        SendMessageW(hwnd(), WM_CLOSE, 0, 0);
+        return;
+    }
+    occupando([&] {
+        protetto(
+            [&] {
+                // A command does not move the focus: what it saves must be within the limits.
+                KOInputNumerico::lasciaQuelloColFuoco();
+                griglia_.abbandona();
+                comando(id);
+            },
+            [&] { MostraErrore(); });
+    });
+}
+
+void FrmMain::comando(int id) {
+    switch (id) {
+    case mnNuovo:
+        documento_.mnNuovo_Click();
+        break;
+    case mnApri:
+        documento_.Apri(L"");
+        break;
+    case mnsalva:
+        documento_.Salva(false);
+        break;
+    case mnSalvaCon:
+        documento_.Salva(true);
+        break;
+    case mnsalvahtm:
+        pagina_.EsportaHTML();
+        break;
+    case mnaddFeed:
+        comandiElementi_.cmdAggiungi_Click();
+        break;
+    case mnEditFeed:
+        comandiElementi_.cmdModifica_Click();
+        break;
+    case mnDelFeed:
+        comandiElementi_.cmdCancella_Click();
+        break;
+    case mnvisualhtml:
+        pagina_.mnvisualhtml_Click();
+        break;
+    case spostaSu:
+        spostaSelezionato(-1);
+        break;
+    case spostaGiu:
+        spostaSelezionato(1);
+        break;
+    case mnAggiorna:
+        RiempiGriglia(false);
+        break;
+    default:
+        if (id > mnrec && id <= ultimoRecente) {
+            // A copy: the list is read anew while the file opens.
+            const std::wstring percorso =
+                recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
+            documento_.Apri(percorso);
+        } else {
+            aiuto_.esegui(static_cast<Comando>(id), hwnd());
+        }
+        break;
+    }
+}
+
+void FrmMain::cmdGetSize_Click() {
+    occupando([&] {
+        protetto(
+            [&] {
+                const UnitaDiFinestra unita(hwnd());
+                ImmagineNascosta ImgDim;
+                ClsSizerImg misura;
+                misura.objForm(unita);
+                misura.objDlg(servizi_.dialoghi);
+                misura.objImg(ImgDim);
+                misura.LeggiImg(L"");
+                campi_.dimensioni(misura.nWidth(), misura.nHeight());
+            },
+            [&] { koUtilita(servizi_.messaggi).PrintErrore(); });
+    });
+}
+
+void FrmMain::grigliaDoppioClic(int riga) {
+    if (riga >= 1) {
+        esegui(mnEditFeed);
+        return;
+    }
+    // No row was clicked, whichever is the current one.
+    occupando([&] {
+        protetto([&] { avvisaNessunaSelezione(servizi_.messaggi); }, [&] { MostraErrore(); });
+    });
+}
+
+void FrmMain::grigliaRigaCambiata(int riga) {
+    GUI::SelezionaRiga(griglia_, riga);
+}
+
+void FrmMain::grigliaSposta(int da, int a) {
+    comandiElementi_.SpostaElemento(da, a);
+    RiempiGriglia(false);
+}
+
+void FrmMain::spostaSelezionato(int passo) {
+    const int da = ElementoSelezionato();
+    const int a = da + passo;
+    if (da < 0 || a < 0 || a >= elementi_.conteggio()) {
+        return;
+    }
+    const int cima = griglia_.rigaInCima();
+    comandiElementi_.SpostaElemento(da, a);
+    RiempiGriglia(false);
+    griglia_.rigaInCima(cima);
+    SelezionaRiga(rigaDi(a));
+}
+
+void FrmMain::grigliaMenu(POINT punto) {
+    const ManigliaMenu menu = creaMenuContenuto();
+    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, punto.x, punto.y, 0, hwnd(), nullptr);
+}
+
+bool FrmMain::grigliaTasto(UINT /*tasto*/) {
+    return false;
+}
