@@ -57,7 +57,7 @@ public:
         elemento.sTitle(L"Titolo scritto " + std::to_wstring(++volte_));
         elemento.sLink(L"https://giornale.example/scritto");
         if (elemento.sPubDate().empty()) {
-            elemento.sPubDate(L"15 Nov 2005 10:00:00 +0100");
+            elemento.sPubDate(L"Tue, 15 Nov 2005 10:00:00 +0100");
         }
         return ultimaData;
     }

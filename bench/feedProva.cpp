@@ -25,7 +25,7 @@ void aggiungiElemento(std::string& feed, int indice) {
         feed += frasi[(i + static_cast<std::size_t>(indice)) % frasi.size()];
     }
     feed += "]]></description><author>redazione@giornale.example</author><pubDate>";
-    feed += dueCifre(1 + indice % 28) + " Nov 2005 " + dueCifre(indice % 24) + ":" +
+    feed += "Tue, " + dueCifre(1 + indice % 28) + " Nov 2005 " + dueCifre(indice % 24) + ":" +
             dueCifre(indice % 60) + ":00 +0100</pubDate><guid>giornale-" + numero +
             "</guid></item>\n";
 }
