@@ -65,16 +65,19 @@ void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_
     }
 }
 
-std::wstring conRiferimenti(std::wstring_view testo) {
-    std::wstring risultato;
-    risultato.reserve(testo.size());
+std::wstring_view conRiferimenti(std::wstring_view testo, std::wstring& appoggio) {
+    const auto manca = [](wchar_t c) { return static_cast<char32_t>(c) > ultimoLatin1; };
+    if (std::ranges::none_of(testo, manca)) {
+        return testo;
+    }
+    appoggio.clear();
     for (std::size_t posizione = 0; posizione < testo.size();) {
         const char32_t c = leggiCarattere(testo, posizione);
         if (c > ultimoLatin1) {
-            risultato += L"&#" + std::to_wstring(static_cast<std::uint32_t>(c)) + L';';
+            appoggio += L"&#" + std::to_wstring(static_cast<std::uint32_t>(c)) + L';';
         } else {
-            risultato += static_cast<wchar_t>(c);
+            appoggio += static_cast<wchar_t>(c);
         }
     }
-    return risultato;
+    return appoggio;
 }

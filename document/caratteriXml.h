@@ -23,5 +23,6 @@ void verificaTesto(std::wstring_view testo, const NomeTesto& nome, std::wstring_
 void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso);
 
 // The text for a CDATA section, where the serialiser cannot write references: what ISO-8859-1
-// lacks, and only that, as decimal HTML references.
-[[nodiscard]] std::wstring conRiferimenti(std::wstring_view testo);
+// lacks, and only that, as decimal HTML references. What it gives lies in `testo` where nothing is
+// lacking, else in `appoggio`.
+[[nodiscard]] std::wstring_view conRiferimenti(std::wstring_view testo, std::wstring& appoggio);

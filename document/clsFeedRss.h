@@ -48,7 +48,6 @@ public:
 
 private:
     static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
-    static void LeggiElemento(const NodoXml& nodo, TabellaElementi& items, int indice);
 
     // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
     [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);

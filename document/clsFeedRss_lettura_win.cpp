@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -66,20 +69,59 @@ constexpr std::array<std::wstring_view, 5> nomiImmagine{L"title", L"url", L"link
 constexpr std::array<std::wstring_view, numeroCampi> nomiElemento{
     L"title", L"link", L"description", L"author", L"pubDate", L"guid"};
 
-// The children of the channel that count, gathered in one walk: a query for each field would go
-// through the whole document each time.
+// Texts of a document, kept in large blocks while it lives. As thousands of strings they would lie
+// between what the DOM allocates and frees for each node, and leave a heap of crumbs to search.
+class Deposito {
+public:
+    [[nodiscard]] std::wstring_view conserva(std::wstring_view testo) {
+        if (testo.size() > libero_.size()) {
+            blocchi_.emplace_back(std::max(testo.size(), blocco));
+            libero_ = blocchi_.back();
+        }
+        std::ranges::copy(testo, libero_.begin());
+        const std::wstring_view copia(libero_.data(), testo.size());
+        libero_ = libero_.subspan(testo.size());
+        return copia;
+    }
+
+private:
+    static constexpr std::size_t blocco = 512UL * 1024;
+
+    std::vector<std::vector<wchar_t>> blocchi_;
+    std::span<wchar_t> libero_;
+};
+
+using TestiElemento = std::array<std::wstring_view, numeroCampi>;
+
+// A later child of the same name overwrites an earlier one.
+TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito) {
+    TestiElemento testi;
+    perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
+        const auto dove = posto(nomiElemento, nome.vista());
+        if (!dove) {
+            return;
+        }
+        const bool descrizione = *dove == static_cast<std::size_t>(CampoElemento::Descrizione);
+        const NodoXml origine = descrizione ? figlio.primoFiglio() : figlio;
+        testi[*dove] = origine ? deposito.conserva(origine.testo().vista()) : std::wstring_view();
+    });
+    return testi;
+}
+
+// What counts of the channel, gathered in one walk: a query for each field would go through the
+// whole document each time.
 struct Canale {
     PrimiFigli<nomiCanale.size()> campi{nomiCanale};
     std::vector<NodoXml> immagini;
-    std::vector<NodoXml> elementi;
+    std::vector<TestiElemento> elementi;
 };
 
-Canale percorriCanale(const NodoXml& nodo) {
+Canale percorriCanale(const NodoXml& nodo, Deposito& deposito) {
     Canale canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
-                canale.elementi.push_back(figlio);
+                canale.elementi.push_back(leggiElemento(figlio, deposito));
             }
         } else if (nome.vista() == L"image") {
             if (figlio.elemento()) {
@@ -127,33 +169,44 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title
     items.svuota();
     image = clsImgRss();
 
-    const DocumentoXml documento;
-    if (!documento.carica(path)) {
-        rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
-    }
-    const Canale canale = percorriCanale(trovaCanale(documento, path));
     const ClsUTC utc;
     const std::wstring adesso = utc.GetDataUtc(utc.adessoLocale(), true);
-
-    for (std::size_t i = 0; i < campi.size(); ++i) {
-        if (const NodoXml& nodo = canale.campi[i]) {
-            *campi[i] = NormalizzaACapo(nodo.testo().vista());
-        } else if (i == postoData) {
-            *campi[i] = adesso;
+    Deposito deposito;
+    std::vector<TestiElemento> elementi;
+    {
+        const DocumentoXml documento;
+        if (!documento.carica(path)) {
+            rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
+        Canale canale = percorriCanale(trovaCanale(documento, path), deposito);
+        for (std::size_t i = 0; i < campi.size(); ++i) {
+            if (const NodoXml& nodo = canale.campi[i]) {
+                *campi[i] = NormalizzaACapo(nodo.testo().vista());
+            } else if (i == postoData) {
+                *campi[i] = adesso;
+            }
+        }
+        if (canale.immagini.size() > 1) {
+            rifiuta(formatoNonSupportato, path, L": formato non supportato.");
+        }
+        if (!canale.immagini.empty()) {
+            LeggiImmagine(canale.immagini.front(), image);
+        }
+        elementi = std::move(canale.elementi);
     }
-    if (canale.immagini.size() > 1) {
-        rifiuta(formatoNonSupportato, path, L": formato non supportato.");
-    }
-    if (!canale.immagini.empty()) {
-        LeggiImmagine(canale.immagini.front(), image);
-    }
-    if (canale.elementi.empty()) {
+    // The table is filled when the document is gone.
+    if (elementi.empty()) {
         return;
     }
-    items.dimensiona(static_cast<std::int64_t>(canale.elementi.size()));
+    items.dimensiona(static_cast<std::int64_t>(elementi.size()));
     for (int i = 0; i <= items.limiteSuperiore(); ++i) {
-        LeggiElemento(canale.elementi[static_cast<std::size_t>(i)], items, i);
+        const TestiElemento& testi = elementi[static_cast<std::size_t>(i)];
+        for (std::size_t c = 0; c < testi.size(); ++c) {
+            const auto campo = static_cast<CampoElemento>(c);
+            // The link keeps its line breaks as they are.
+            items(campo, i) =
+                campo == CampoElemento::Link ? std::wstring(testi[c]) : NormalizzaACapo(testi[c]);
+        }
         if (auto& data = items(CampoElemento::Data, i); data.empty()) {
             data = adesso;
         }
@@ -180,23 +233,4 @@ void clsFeedRss::LeggiImmagine(const NodoXml& nodo, clsImgRss& image) {
     if (campi[4]) {
         image.nHeight(misura(campi[4]));
     }
-}
-
-void clsFeedRss::LeggiElemento(const NodoXml& nodo, TabellaElementi& items, int indice) {
-    perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
-        const auto dove = posto(nomiElemento, nome.vista());
-        if (!dove) {
-            return;
-        }
-        const auto campo = static_cast<CampoElemento>(*dove);
-        auto& valore = items(campo, indice);
-        if (campo == CampoElemento::Link) {
-            valore = figlio.testo().vista();
-        } else if (campo == CampoElemento::Descrizione) {
-            const NodoXml primo = figlio.primoFiglio();
-            valore = primo ? NormalizzaACapo(primo.testo().vista()) : std::wstring();
-        } else {
-            valore = NormalizzaACapo(figlio.testo().vista());
-        }
-    });
 }

@@ -2,30 +2,28 @@
 
 #include "document/campo.h"
 
-#include <utility>
-
-void clsItemRss::sTitle(std::wstring valore) {
-    assegna(sTitle_, std::move(valore), modificato_);
+void clsItemRss::sTitle(std::wstring_view valore) {
+    assegna(sTitle_, valore, modificato_);
 }
 
-void clsItemRss::sLink(std::wstring valore) {
-    assegna(sLink_, std::move(valore), modificato_);
+void clsItemRss::sLink(std::wstring_view valore) {
+    assegna(sLink_, valore, modificato_);
 }
 
-void clsItemRss::sDescription(std::wstring valore) {
-    assegna(sDescription_, std::move(valore), modificato_);
+void clsItemRss::sDescription(std::wstring_view valore) {
+    assegna(sDescription_, valore, modificato_);
 }
 
-void clsItemRss::sAuthor(std::wstring valore) {
-    assegna(sAuthor_, std::move(valore), modificato_);
+void clsItemRss::sAuthor(std::wstring_view valore) {
+    assegna(sAuthor_, valore, modificato_);
 }
 
-void clsItemRss::sPubDate(std::wstring valore) {
-    assegna(sPubDate_, std::move(valore), modificato_);
+void clsItemRss::sPubDate(std::wstring_view valore) {
+    assegna(sPubDate_, valore, modificato_);
 }
 
-void clsItemRss::sGuid(std::wstring valore) {
-    assegna(sGuid_, std::move(valore), modificato_);
+void clsItemRss::sGuid(std::wstring_view valore) {
+    assegna(sGuid_, valore, modificato_);
 }
 
 void clsItemRss::Svuota() noexcept {

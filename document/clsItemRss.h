@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // The XML layer's types: only the bodies that build elements need to know them.
 class DocumentoXml;
@@ -19,12 +20,12 @@ public:
     [[nodiscard]] const std::wstring& sGuid() const noexcept { return sGuid_; }
     [[nodiscard]] bool Modificato() const noexcept { return modificato_; }
 
-    void sTitle(std::wstring valore);
-    void sLink(std::wstring valore);
-    void sDescription(std::wstring valore);
-    void sAuthor(std::wstring valore);
-    void sPubDate(std::wstring valore);
-    void sGuid(std::wstring valore);
+    void sTitle(std::wstring_view valore);
+    void sLink(std::wstring_view valore);
+    void sDescription(std::wstring_view valore);
+    void sAuthor(std::wstring_view valore);
+    void sPubDate(std::wstring_view valore);
+    void sGuid(std::wstring_view valore);
     void Modificato(bool valore) noexcept { modificato_ = valore; }
 
     // Empties the six texts and lowers Modificato.
@@ -40,5 +41,8 @@ private:
     std::wstring sAuthor_;
     std::wstring sPubDate_;
     std::wstring sGuid_;
+    // What getNodoItem works in: kept, as the texts' own memory is, since a writer of thousands of
+    // items that allocates for each one leaves the DOM a heap of crumbs.
+    mutable std::wstring appoggio_;
     bool modificato_ = false;
 };

@@ -8,7 +8,7 @@ ElementoXml clsItemRss::getNodoItem(const DocumentoXml& doc) const {
     nodo.aggiungi(doc.creaElemento(L"title", sTitle_));
     nodo.aggiungi(doc.creaElemento(L"link", sLink_));
     const ElementoXml descrizione = doc.creaElemento(L"description");
-    descrizione.aggiungi(doc.creaCData(conRiferimenti(sDescription_)));
+    descrizione.aggiungi(doc.creaCData(conRiferimenti(sDescription_, appoggio_)));
     nodo.aggiungi(descrizione);
     nodo.aggiungi(doc.creaElemento(L"author", sAuthor_));
     nodo.aggiungi(doc.creaElemento(L"pubDate", sPubDate_));

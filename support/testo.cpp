@@ -65,10 +65,25 @@ std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca, std::
 }
 
 std::wstring aCapoCrLf(std::wstring_view testo) {
-    if (testo.find(L'\n') == std::wstring_view::npos) {
-        return std::wstring(testo);
+    const auto manca = [&](std::size_t i) {
+        return testo[i] == L'\n' && (i == 0 || testo[i - 1] != L'\r');
+    };
+    std::size_t mancanti = 0;
+    for (std::size_t i = 0; i < testo.size(); ++i) {
+        mancanti += manca(i) ? 1 : 0;
     }
-    return sostituisci(sostituisci(testo, L"\r\n", L"\n"), L"\n", L"\r\n");
+    // In one piece of the right size: thousands of these are kept, and what a growing text leaves
+    // behind breaks the heap into crumbs.
+    std::wstring risultato;
+    risultato.reserve(testo.size() + mancanti);
+    std::size_t scritti = 0;
+    for (std::size_t i = 0; mancanti > 0 && i < testo.size(); ++i) {
+        if (manca(i)) {
+            risultato.append(testo.substr(scritti, i - scritti)).append(1, L'\r');
+            scritti = i;
+        }
+    }
+    return risultato.append(testo.substr(scritti));
 }
 
 std::vector<std::wstring_view> dividi(std::wstring_view testo, std::wstring_view separatore) {

@@ -1,7 +1,9 @@
 #include "support/xml_win.h"
 
 #include "support/errori_win.h"
-#include "support/indirizzo.h"
+#include "support/maniglie_win.h"
+
+#include <limits>
 
 namespace {
 
@@ -29,11 +31,30 @@ ComPtr<IXMLDOMNode> comeNodo(const ComPtr<Interfaccia>& origine) {
     return ComPtr<IXMLDOMNode>(origine.get());
 }
 
-std::wstring percorsoCompleto(const std::wstring& percorso) {
-    const DWORD serve = GetFullPathNameW(percorso.c_str(), 0, nullptr, nullptr);
-    std::wstring completo(serve, L'\0');
-    completo.resize(GetFullPathNameW(percorso.c_str(), serve, completo.data(), nullptr));
-    return completo;
+// All the bytes of a file, as an array that the DOM takes; false when it cannot be read.
+bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
+    const ManigliaFile file(CreateFileW(
+        percorso.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+        nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    LARGE_INTEGER lunghezza{};
+    if (!file || !GetFileSizeEx(file.get(), &lunghezza) ||
+        lunghezza.QuadPart > std::numeric_limits<LONG>::max()) {
+        return false;
+    }
+    const auto quanti = static_cast<DWORD>(lunghezza.QuadPart);
+    VARIANT* const variante = contenuto.riempi();
+    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti);
+    if (variante->parray == nullptr) {
+        solleva(errori::memoriaEsaurita);
+    }
+    variante->vt = VT_ARRAY | VT_UI1;
+    void* dati = nullptr;
+    verifica(SafeArrayAccessData(variante->parray, &dati));
+    DWORD letti = 0;
+    const bool riuscito =
+        ReadFile(file.get(), dati, quanti, &letti, nullptr) != FALSE && letti == quanti;
+    verifica(SafeArrayUnaccessData(variante->parray));
+    return riuscito;
 }
 
 } // namespace
@@ -79,10 +100,14 @@ DocumentoXml::DocumentoXml() : documento_(creaDocumento()) {
 }
 
 bool DocumentoXml::carica(const std::wstring& percorso) const {
-    // The DOM unescapes what it is given as if it were an address, so an address it gets.
-    const Variante indirizzo(indirizzoFile(percorsoCompleto(percorso)));
+    // Bytes and not the path: the DOM would unescape a path as if it were an address, and take its
+    // time to fetch a large file.
+    Variante contenuto;
+    if (!leggiByte(percorso, contenuto)) {
+        return false;
+    }
     VARIANT_BOOL riuscito = VARIANT_FALSE;
-    return documento_->load(indirizzo.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE;
+    return documento_->load(contenuto.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE;
 }
 
 void DocumentoXml::salva(const std::wstring& percorso) const {

@@ -7,6 +7,12 @@
 
 namespace {
 
+// The text as the CDATA section gets it.
+std::wstring riferito(std::wstring_view testo) {
+    std::wstring appoggio;
+    return std::wstring(conRiferimenti(testo, appoggio));
+}
+
 std::wstring testoDi(char32_t c) {
     std::wstring testo;
     aggiungiCarattere(testo, c);
@@ -61,9 +67,9 @@ TEST(CaratteriXml, LaFineDelCDataSoloNelCData) {
 }
 
 TEST(CaratteriXml, SoloCioCheMancaAlLatin1DiventaRiferimento) {
-    EXPECT_EQ(conRiferimenti(L"<p>€ ’“”–… àÿ&amp;\t\r\n</p>"),
+    EXPECT_EQ(riferito(L"<p>€ ’“”–… àÿ&amp;\t\r\n</p>"),
               L"<p>&#8364; &#8217;&#8220;&#8221;&#8211;&#8230; àÿ&amp;\t\r\n</p>");
-    EXPECT_EQ(conRiferimenti(testoDi(0x1F600) + testoDi(0xFF) + testoDi(0x100) + testoDi(0x85)),
+    EXPECT_EQ(riferito(testoDi(0x1F600) + testoDi(0xFF) + testoDi(0x100) + testoDi(0x85)),
               L"&#128512;" + testoDi(0xFF) + L"&#256;" + testoDi(0x85));
-    EXPECT_EQ(conRiferimenti(L""), L"");
+    EXPECT_EQ(riferito(L""), L"");
 }

@@ -14,6 +14,12 @@
 
 namespace {
 
+// The text as the CDATA section gets it.
+std::wstring riferito(std::wstring_view testo) {
+    std::wstring appoggio;
+    return std::wstring(conRiferimenti(testo, appoggio));
+}
+
 // What is written reads back equal, but for what the DOM and the format do to some texts.
 
 constexpr std::wstring_view spaziXml = L" \t\r\n";
@@ -34,7 +40,7 @@ std::wstring attesoElemento(std::wstring_view testo) {
 // A CDATA section: references for what the encoding lacks, a lone CR becomes a line break.
 std::wstring attesoCData(std::wstring_view testo) {
     const std::wstring lf = sostituisci(sostituisci(testo, L"\r\n", L"\n"), L"\r", L"\n");
-    return aCapoCrLf(conRiferimenti(lf));
+    return aCapoCrLf(riferito(lf));
 }
 
 // Texts over all that XML allows, with what is delicate more often than its share.
