@@ -15,6 +15,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -210,12 +212,10 @@ int salva(const wchar_t* percorso, const wchar_t* destinazione) {
 
 int genera(const wchar_t* percorso, int elementi) {
     const std::string feed = feedProva(elementi);
-    std::FILE* file = _wfopen(percorso, L"wb");
-    if (file == nullptr) {
-        return 1;
-    }
-    const bool scritto = std::fwrite(feed.data(), 1, feed.size(), file) == feed.size();
-    return std::fclose(file) == 0 && scritto ? 0 : 1;
+    std::ofstream file(std::filesystem::path(percorso), std::ios::binary);
+    file.write(feed.data(), static_cast<std::streamsize>(feed.size()));
+    file.close();
+    return file ? 0 : 1;
 }
 
 } // namespace

@@ -80,7 +80,10 @@ public:
     void calma() {
         MSG msg{};
         while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-            finestra_.smista(msg);
+            if (!finestra_.anticipa(msg)) {
+                TranslateMessage(&msg);
+                DispatchMessageW(&msg);
+            }
         }
         RedrawWindow(finestra_.hwnd(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     }

@@ -117,8 +117,13 @@ Letto leggiCollegamento(const std::wstring& file) {
     verifica(link->GetIconLocation(testo.data(), MAX_PATH, &letto.indice));
     letto.icona = testo.data();
     // The show command stands at this place of the file's header.
-    letto.stile = leggiTutto(file).at(0x3C);
+    letto.stile = static_cast<unsigned char>(leggiTutto(file).at(0x3C));
     return letto;
+}
+
+InfoDisinstallazione letta(const std::wstring& programma) {
+    return koUtilita::GetInfoDisinstallazione(programma).value_or(
+        InfoDisinstallazione{L"<manca>", L"<manca>"});
 }
 
 std::wstring libreria() {
@@ -219,18 +224,16 @@ TEST(KoUtilitaDisinstalla, LeInformazioniScritteSiRileggono) {
     const ChiaveSalvata chiave(HKEY_LOCAL_MACHINE, correnti + L"Uninstall\\OstrelleProva");
     EXPECT_FALSE(koUtilita::GetInfoDisinstallazione(L"OstrelleProva"));
     chiave.testo(L"Publisher", L"noi");
-    auto info = koUtilita::GetInfoDisinstallazione(L"OstrelleProva");
-    ASSERT_TRUE(info);
-    EXPECT_EQ(info->DisplayName, L"");
-    EXPECT_EQ(info->UninstallString, L"");
+    InfoDisinstallazione info = letta(L"OstrelleProva");
+    EXPECT_EQ(info.DisplayName, L"");
+    EXPECT_EQ(info.UninstallString, L"");
     koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {L"Prova Ω", L"\"C:\\a b\\u.exe\" /u"});
-    info = koUtilita::GetInfoDisinstallazione(L"ostrelleprova");
-    ASSERT_TRUE(info);
-    EXPECT_EQ(info->DisplayName, L"Prova Ω");
-    EXPECT_EQ(info->UninstallString, L"\"C:\\a b\\u.exe\" /u");
+    info = letta(L"ostrelleprova");
+    EXPECT_EQ(info.DisplayName, L"Prova Ω");
+    EXPECT_EQ(info.UninstallString, L"\"C:\\a b\\u.exe\" /u");
     EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, chiave.nome(), L"Publisher"), L"noi");
     koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {std::wstring(1000, L'x'), L""});
-    EXPECT_EQ(koUtilita::GetInfoDisinstallazione(L"OstrelleProva")->DisplayName.size(), 1000U);
+    EXPECT_EQ(letta(L"OstrelleProva").DisplayName.size(), 1000U);
 }
 
 TEST(KoUtilitaDisinstalla, UnNomeCheNonEUnaChiaveSiRifiuta) {
