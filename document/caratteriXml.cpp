@@ -43,6 +43,11 @@ std::wstring nomeCarattere(char32_t c) {
 
 std::optional<char32_t> primoVietato(std::wstring_view testo) noexcept {
     for (std::size_t posizione = 0; posizione < testo.size();) {
+        // Nearly every character, of which a large feed has millions.
+        if (testo[posizione] >= 0x20 && testo[posizione] < 0xD800) {
+            ++posizione;
+            continue;
+        }
         const char32_t c = leggiCarattere(testo, posizione);
         if (!ammesso(c)) {
             return c;

@@ -1,6 +1,7 @@
 #include "support/dialoghiFile_win.h"
 
-#include "support/errore.h"
+#include "support/errori_win.h"
+#include "support/maniglie_win.h"
 
 #include <windows.h>
 
@@ -9,9 +10,26 @@
 
 namespace {
 
-using Dialogo = BOOL(WINAPI*)(OPENFILENAMEW*);
+// Loaded with the first dialog: with what it needs itself it would take a good part of the
+// program's start. It stays, since a dialog may leave threads of the shell behind.
+template <class Funzione>
+Funzione comdlg32(const char* nome) {
+    const HMODULE libreria = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (libreria == nullptr) {
+        sollevaWin32();
+    }
+    const auto trovata = funzione<Funzione>(libreria, nome);
+    if (trovata == nullptr) {
+        sollevaWin32();
+    }
+    return trovata;
+}
 
-std::wstring chiedi(const RichiestaFile& richiesta, Dialogo dialogo) {
+using Dialogo = decltype(&GetOpenFileNameW);
+
+std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
+    const auto dialogo = comdlg32<Dialogo>(quale);
+    const auto errore = comdlg32<decltype(&CommDlgExtendedError)>("CommDlgExtendedError");
     const std::wstring filtro = filtroWindows(richiesta.filtro);
     const std::wstring estensione = estensioneWindows(richiesta.estensione);
     // The longest path that Windows knows.
@@ -25,7 +43,7 @@ std::wstring chiedi(const RichiestaFile& richiesta, Dialogo dialogo) {
     dati.Flags = richiesta.opzioni | OFN_EXPLORER | OFN_NOCHANGEDIR;
     dati.lpstrDefExt = estensione.empty() ? nullptr : estensione.c_str();
     if (!dialogo(&dati)) {
-        switch (CommDlgExtendedError()) {
+        switch (errore()) {
         case 0:
             sollevaDialogoAnnullato();
         case CDERR_MEMALLOCFAILURE:
@@ -45,9 +63,9 @@ std::wstring chiedi(const RichiestaFile& richiesta, Dialogo dialogo) {
 } // namespace
 
 std::wstring DialoghiFileWindows::apri(const RichiestaFile& richiesta) {
-    return chiedi(richiesta, &GetOpenFileNameW);
+    return chiedi(richiesta, "GetOpenFileNameW");
 }
 
 std::wstring DialoghiFileWindows::salva(const RichiestaFile& richiesta) {
-    return chiedi(richiesta, &GetSaveFileNameW);
+    return chiedi(richiesta, "GetSaveFileNameW");
 }

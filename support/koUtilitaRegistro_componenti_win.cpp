@@ -16,13 +16,6 @@
 
 namespace {
 
-struct TrattiLibreria {
-    using Tipo = HMODULE;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo libreria) noexcept { FreeLibrary(libreria); }
-};
-using Libreria = Maniglia<TrattiLibreria>;
-
 void chiama(const std::wstring& file, const char* procedura) {
     const Apartamento apartamento;
     // The library's own libraries stand beside it.
@@ -31,8 +24,7 @@ void chiama(const std::wstring& file, const char* procedura) {
         sollevaWin32();
     }
     using Procedura = HRESULT(STDAPICALLTYPE*)();
-    const auto registra = reinterpret_cast<Procedura>(
-        reinterpret_cast<void*>(GetProcAddress(libreria.get(), procedura)));
+    const auto registra = funzione<Procedura>(libreria.get(), procedura);
     if (registra == nullptr) {
         solleva(errori::proprietaNonSupportata);
     }

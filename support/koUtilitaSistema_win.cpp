@@ -18,9 +18,8 @@ RTL_OSVERSIONINFOW versioneVera() noexcept {
     // In no import library: Windows tells it to drivers' builds only.
     using RtlGetVersion = LONG(WINAPI*)(RTL_OSVERSIONINFOW*);
     const HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
-    const auto chiedi = ntdll == nullptr ? nullptr
-                                         : reinterpret_cast<RtlGetVersion>(reinterpret_cast<void*>(
-                                               GetProcAddress(ntdll, "RtlGetVersion")));
+    const auto chiedi =
+        ntdll == nullptr ? nullptr : funzione<RtlGetVersion>(ntdll, "RtlGetVersion");
     if (chiedi != nullptr) {
         chiedi(&versione);
     }

@@ -62,6 +62,19 @@ struct TrattiMenu {
 };
 using ManigliaMenu = Maniglia<TrattiMenu>;
 
+struct TrattiLibreria {
+    using Tipo = HMODULE;
+    static Tipo vuota() noexcept { return nullptr; }
+    static void chiudi(Tipo libreria) noexcept { FreeLibrary(libreria); }
+};
+using Libreria = Maniglia<TrattiLibreria>;
+
+// A function of a loaded library, by its name there; nullptr when it has none.
+template <class Funzione>
+[[nodiscard]] Funzione funzione(HMODULE libreria, const char* nome) noexcept {
+    return reinterpret_cast<Funzione>(reinterpret_cast<void*>(GetProcAddress(libreria, nome)));
+}
+
 // Pens, brushes, fonts, bitmaps.
 template <class Oggetto>
 struct TrattiGdi {
