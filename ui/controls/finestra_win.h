@@ -27,7 +27,8 @@ public:
     [[nodiscard]] HWND hwnd() const noexcept { return hwnd_; }
 
     // Makes the window, `posto` being left, top, width and height in pixels; the class must have
-    // been registered with `registra`. Raises what a handler raised during creation, else the run-time error of the failure.
+    // been registered with `registra`. Raises what a handler raised during creation, else the
+    // run-time error of the failure.
     void crea(const wchar_t* classe, const wchar_t* titolo, DWORD stile, DWORD stileEsteso,
               const RECT& posto, HWND padre, HMENU menu = nullptr);
     void distruggi() noexcept;
