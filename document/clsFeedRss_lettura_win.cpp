@@ -85,7 +85,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t blocco = 512UL * 1024;
+    static constexpr std::size_t blocco = std::size_t{512} * 1024;
 
     std::vector<std::vector<wchar_t>> blocchi_;
     std::span<wchar_t> libero_;

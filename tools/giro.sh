@@ -72,10 +72,37 @@ giro() {
   tasti ctrl+a
   scrivi "Notizie dal circolo, edizione di dicembre"
   foto "titolo-cambiato"
+
+  # An item through the editor, then another title for it, a question about it, left with No.
+  tasti alt+c
+  foto "menu-contenuto"
+  tasti a
+  attendi_finestra '^Edit$'
+  scrivi "Osservazione delle Pleiadi"
+  tasti Tab
+  scrivi "https://circolo.example/pleiadi"
+  foto "nuovo-elemento"
+  tasti Return
+  attendi_chiusa '^Edit$'
+  foto "elemento-aggiunto"
+  tasti alt+c m
+  attendi_finestra '^Edit$'
+  tasti ctrl+a
+  scrivi "Osservazione delle Pleiadi, con il telescopio"
+  tasti Return
+  attendi_chiusa '^Edit$'
+  foto "elemento-cambiato"
+  tasti alt+c c
+  attendi_finestra '^Attenzione$'
+  foto "domanda-cancella"
+  tasti Tab Return
+  attendi_chiusa '^Attenzione$'
+
   tasti alt+f s
   quieto
   foto "salvato"
   grep -q 'edizione di dicembre' "$dove/notizie.xml"
+  grep -q 'Pleiadi, con il telescopio' "$dove/notizie.xml"
 
   tasti alt+f c
   attendi_chiusa 'Ostrelle'

@@ -32,6 +32,7 @@ DWORD contaGdi() {
         return 0;
     }
     const VoceGdi* tabella = nullptr;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): it is the pointer that is read
     std::memcpy(&tabella, peb + postoTabellaGdi, sizeof(tabella));
     if (tabella == nullptr) {
         return 0;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(Testo, RifilaTogliesoloGliSpazi) {
+TEST(Testo, RifilaToglieSoloGliSpazi) {
     EXPECT_EQ(rifila(L"  a b  "), L"a b");
     EXPECT_EQ(rifila(L"   "), L"");
     EXPECT_EQ(rifila(L""), L"");

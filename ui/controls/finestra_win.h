@@ -26,8 +26,9 @@ public:
     // Null before WM_NCCREATE and after WM_NCDESTROY.
     [[nodiscard]] HWND hwnd() const noexcept { return hwnd_; }
 
-    // Makes the window; the class must have been registered with `registra`. Raises what a
-    // handler raised during creation, else the run-time error of the failure.
+    // Makes the window, `posto` being left, top, width and height in pixels; the class must have
+    // been registered with `registra`. Raises what a handler raised during creation, else the
+    // run-time error of the failure.
     void crea(const wchar_t* classe, const wchar_t* titolo, DWORD stile, DWORD stileEsteso,
               const RECT& posto, HWND padre, HMENU menu = nullptr);
     void distruggi() noexcept;

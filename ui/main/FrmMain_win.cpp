@@ -101,8 +101,7 @@ void FrmMain::apri(int comeMostrare) {
     const int sinistra = area.left + (area.right - area.left - larghezza) / 2;
     const int alto = area.top + (area.bottom - area.top - altezza) / 2;
     crea(classe, std::wstring(prodotto::titolo).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-         WS_EX_CONTROLPARENT, RECT{sinistra, alto, sinistra + larghezza, alto + altezza}, nullptr,
-         menu.get());
+         WS_EX_CONTROLPARENT, RECT{sinistra, alto, larghezza, altezza}, nullptr, menu.get());
     static_cast<void>(menu.cedi()); // the window's from here on
     ShowWindow(hwnd(), comeMostrare);
     UpdateWindow(hwnd());

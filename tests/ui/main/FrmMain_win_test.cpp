@@ -34,6 +34,17 @@ TEST_F(FrmMainAperta, AllAvvioMostraUnDocumentoNuovoEPulito) {
     EXPECT_EQ(finestra.ultimaData(), orologio.locale());
 }
 
+TEST_F(FrmMainAperta, SiApreInMezzoAlloSchermoTutta) {
+    RECT area{};
+    RECT posto{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    GetWindowRect(finestra.hwnd(), &posto);
+    EXPECT_NEAR(posto.left - area.left, area.right - posto.right, 1);
+    EXPECT_NEAR(posto.top - area.top, area.bottom - posto.bottom, 1);
+    EXPECT_LE(posto.right, area.right);
+    EXPECT_LE(posto.bottom, area.bottom);
+}
+
 TEST_F(FrmMainAperta, LaBarraDiStatoMostraLaDataDiAvvioELaMisuraEsterna) {
     EXPECT_EQ(pannello(0), L"Tue, 15 Nov 2005 10:00:00 +0200");
     SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 640, 480, SWP_NOZORDER | SWP_NOMOVE);
