@@ -50,9 +50,12 @@ void perIlReale(double valore, int intere, int decimali) {
     if (meno) {
         esigi(valore < 0 && testo.find_first_of(L"123456789") != std::wstring::npos);
     }
-    // Half a unit of the last place, and the 15 digits that a double shows.
-    const double errore = std::fabs(valoreIniziale(testo) - valore);
-    esigi(errore <= 0.5 * std::pow(10.0, -decimali) + std::fabs(valore) * 1e-14);
+    // Half a unit of the last place, and the 15 digits that a double shows; rounded up to those, the
+    // very largest doubles are none any more.
+    if (std::fabs(valore) < 1e308) {
+        const double errore = std::fabs(valoreIniziale(testo) - valore);
+        esigi(errore <= 0.5 * std::pow(10.0, -decimali) + std::fabs(valore) * 1e-14);
+    }
     try {
         const std::int32_t intero = aInt32(valore);
         esigi(std::fabs(valore - intero) <= 0.5);

@@ -63,7 +63,7 @@ protected:
         return lancio;
     }
     [[nodiscard]] std::wstring registratoreIn(const std::wstring& nomeFile) const {
-        const std::wstring percorso = cartella.file(nomeFile);
+        std::wstring percorso = cartella.file(nomeFile);
         std::filesystem::create_directories(std::filesystem::path(percorso).parent_path());
         Registratore::copiaIn(percorso);
         return percorso;

@@ -3,6 +3,9 @@
 #include <commctrl.h>
 
 #include <array>
+#include <string_view>
+
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -320,9 +323,9 @@ TEST_F(FrmMainAperta, UnMegabyteDiTestoSiTiene) {
 
 TEST_F(FrmMainAperta, LeDimensioniDaUnImmagineSceltaDallUtente) {
     // A GIF's size stands in its first bytes; this one is 3 by 2.
-    const std::string gif("GIF89a\x03\0\x02\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\x03\0\x02\0\0"
-                          "\x02\x03\x84\x1d\x05\0;",
-                          38);
+    constexpr std::string_view gif =
+        "GIF89a\x03\0\x02\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\x03\0\x02\0\0"
+        "\x02\x03\x84\x1d\x05\0;"sv;
     const RichiestaFile richiesta{
         L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", 4100, L""};
     dialoghi.attendiApri(richiesta, cartella.scrivi(L"i.gif", gif));
