@@ -50,8 +50,8 @@ void perIlReale(double valore, int intere, int decimali) {
     if (meno) {
         esigi(valore < 0 && testo.find_first_of(L"123456789") != std::wstring::npos);
     }
-    // Half a unit of the last place, and the 15 digits that a double shows; rounded up to those, the
-    // very largest doubles are none any more.
+    // Half a unit of the last place, and the 15 digits that a double shows; rounded up to those,
+    // the very largest doubles are none any more.
     if (std::fabs(valore) < 1e308) {
         const double errore = std::fabs(valoreIniziale(testo) - valore);
         esigi(errore <= 0.5 * std::pow(10.0, -decimali) + std::fabs(valore) * 1e-14);
