@@ -13,6 +13,7 @@
 
 namespace {
 
+// The program's own size: what a start paints goes by it.
 constexpr int larghezza = 1000;
 constexpr int altezza = 700;
 

@@ -42,6 +42,10 @@ int altezza(HDC dc, HFONT carattere) noexcept {
 }
 
 void scrivi(HDC dc, HFONT carattere, const std::wstring& testo, RECT posto) noexcept {
+    // The rows that fill the grid have none: there are many, in sight at every start.
+    if (testo.find_first_not_of(L' ') == std::wstring::npos) {
+        return;
+    }
     const Selezione selezione(dc, carattere);
     DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &posto,
               DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
