@@ -51,6 +51,11 @@ prefisso() {
     "$wine64" wineboot -i
     if [ "$1" = wine-prove ]; then
       "$wine64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+    else
+      # Pages open in this machine's own browser; Wine's is not part of the prefix.
+      "$wine64" reg add 'HKCR\.htm' /ve /d paginaweb /f >/dev/null
+      "$wine64" reg add 'HKCR\paginaweb\shell\open\command' /ve \
+        /d 'winebrowser.exe "%1"' /f >/dev/null
     fi
     "$wineserver" -w
     touch "$WINEPREFIX/pronto"
