@@ -114,20 +114,29 @@ void Scimmia::trascinaInUnCampo() {
     trascina(posto->finestra, posto->punto, {posto->punto.x + caso(200) - 100, posto->punto.y}, 3);
 }
 
-POINT Scimmia::puntoGriglia() {
+std::optional<POINT> Scimmia::puntoGriglia() {
     RECT r{};
     GetClientRect(finestra_.griglia().lista(), &r);
-    return {caso(std::max(1L, r.right)), caso(std::max(1L, r.bottom))};
+    // In a window too narrow for the rows there is only the scroll bar, and a press there starts a
+    // loop of the system's own.
+    if (r.right < 1 || r.bottom < 1) {
+        return std::nullopt;
+    }
+    return POINT{caso(r.right), caso(r.bottom)};
 }
 
 void Scimmia::trascinaInGriglia() {
     fatto_ = "drag in the grid";
     const HWND lista = finestra_.griglia().lista();
+    const auto inizio = puntoGriglia();
+    if (!inizio) {
+        return;
+    }
     // Between the pages of a pair of clicks a double click would open the editor.
     clic(finestra_.campi().hwnd(), {1, 1});
-    premiMouse(lista, puntoGriglia());
+    premiMouse(lista, *inizio);
     for (int i = caso(6); i > 0; --i) {
-        muoviMouse(lista, puntoGriglia());
+        muoviMouse(lista, puntoGriglia().value_or(*inizio));
     }
     if (caso(6) == 0) {
         constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
@@ -143,11 +152,11 @@ void Scimmia::menuGriglia() {
     fatto_ = "menu of the grid";
     SetFocus(finestra_.griglia().lista());
     voceMenu_ = caso(4) - 1;
-    if (caso(2) == 0) {
+    const auto punto = puntoGriglia();
+    if (!punto || caso(2) == 0) {
         premi(VK_APPS);
     } else {
-        const POINT punto = puntoGriglia();
-        const LPARAM dove = MAKELPARAM(punto.x, punto.y);
+        const LPARAM dove = MAKELPARAM(punto->x, punto->y);
         PostMessageW(finestra_.griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
         PostMessageW(finestra_.griglia().lista(), WM_RBUTTONUP, 0, dove);
         pompa();
