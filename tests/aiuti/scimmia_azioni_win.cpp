@@ -10,6 +10,21 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// The window whose inside is at a point of the screen; none where a press would start a loop of the
+// system's own, which no other message ends: on a frame, a scroll bar, the status bar's size grip.
+HWND internoA(POINT schermo) {
+    const HWND sotto = WindowFromPoint(schermo);
+    if (sotto == nullptr || GetDlgCtrlID(sotto) == IDC_STATUSBAR ||
+        SendMessageW(sotto, WM_NCHITTEST, 0, MAKELPARAM(schermo.x, schermo.y)) != HTCLIENT) {
+        return nullptr;
+    }
+    return sotto;
+}
+
+} // namespace
+
 void Scimmia::sposta(int da, int a) {
     if (da < 0 || a < 0 || da == a || std::max(da, a) >= static_cast<int>(modello_.size())) {
         return;
@@ -77,15 +92,12 @@ std::optional<Scimmia::Posto> Scimmia::postoCaso() {
     if (r.right < 1 || r.bottom < 1) {
         return std::nullopt;
     }
-    POINT punto{caso(r.right), caso(r.bottom)};
-    POINT schermo = punto;
+    POINT schermo{caso(r.right), caso(r.bottom)};
     ClientToScreen(figlio, &schermo);
-    const HWND sotto = WindowFromPoint(schermo);
-    // The toolbar has its own step, for it sends mail; the status bar has the size grip, and a
-    // press on what is not the inside of a window starts a loop of the system's.
+    const HWND sotto = internoA(schermo);
+    // The toolbar has its own step, for it sends mail.
     if (sotto == nullptr || IsChild(finestra_.hwnd(), sotto) == FALSE ||
-        GetDlgCtrlID(sotto) == IDC_TOOLBAR || GetDlgCtrlID(sotto) == IDC_STATUSBAR ||
-        SendMessageW(sotto, WM_NCHITTEST, 0, MAKELPARAM(schermo.x, schermo.y)) != HTCLIENT) {
+        GetDlgCtrlID(sotto) == IDC_TOOLBAR) {
         return std::nullopt;
     }
     ScreenToClient(sotto, &schermo);
@@ -115,14 +127,17 @@ void Scimmia::trascinaInUnCampo() {
 }
 
 std::optional<POINT> Scimmia::puntoGriglia() {
+    const HWND lista = finestra_.griglia().lista();
     RECT r{};
-    GetClientRect(finestra_.griglia().lista(), &r);
-    // In a window too narrow for the rows there is only the scroll bar, and a press there starts a
-    // loop of the system's own.
+    GetClientRect(lista, &r);
     if (r.right < 1 || r.bottom < 1) {
         return std::nullopt;
     }
-    return POINT{caso(r.right), caso(r.bottom)};
+    const POINT punto{caso(r.right), caso(r.bottom)};
+    POINT schermo = punto;
+    ClientToScreen(lista, &schermo);
+    const HWND sotto = internoA(schermo);
+    return sotto == lista || IsChild(lista, sotto) != FALSE ? std::optional(punto) : std::nullopt;
 }
 
 void Scimmia::trascinaInGriglia() {
