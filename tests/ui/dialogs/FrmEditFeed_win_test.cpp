@@ -309,6 +309,28 @@ TEST_F(FrmEditFeedModale, UnaDataCheNonSiLeggeDiventaAdesso) {
     }
 }
 
+TEST_F(FrmEditFeedModale, AdessoEQuandoIlMessaggioEStatoLetto) {
+    const auto dopo = DataOra::daParti(2005, 12, 2, 0, 0, 1);
+    editor.Elemento().sPubDate(L"ieri");
+    messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione, Pulsanti::Ok, Risposta::Ok,
+                     [&] { orologio.locale(dopo); });
+    usa([&] {
+        EXPECT_EQ(selettore(IDC_EDITDATA), dopo);
+        EXPECT_EQ(selettore(IDC_EDITORARIO), dopo);
+        premi(VK_ESCAPE);
+    });
+}
+
+TEST_F(FrmEditFeedModale, UnaDataUniversaleSiVedeNellOraLocale) {
+    editor.Elemento().sPubDate(L"Tue, 15 Nov 2005 23:30:00 GMT");
+    usa([&] {
+        const auto locale = DataOra::daParti(2005, 11, 16, 1, 30, 0);
+        EXPECT_EQ(selettore(IDC_EDITDATA), locale);
+        EXPECT_EQ(selettore(IDC_EDITORARIO), locale);
+        premi(VK_ESCAPE);
+    });
+}
+
 TEST_F(FrmEditFeedModale, SoliSpaziSonoLaDataZero) {
     editor.Elemento().sPubDate(L"  ");
     usa([&] {
