@@ -123,6 +123,28 @@ TEST(GrigliaTrascina, NonDaiBordiNeDallIntestazione) {
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
 }
 
+TEST(GrigliaTrascina, SottoLUltimaRigaNonCENessunaRiga) {
+    // A grid higher than its rows.
+    GrigliaProva p(3);
+    GUI::IntestaGriglia(p.griglia);
+    p.griglia.elenca(ClsUTC(), FormatoLocale());
+    p.griglia.seleziona(2);
+    p.osservatore.eventi.clear();
+    POINT sotto = p.punto(3);
+    sotto.y += 100;
+    p.trascina(sotto, p.punto(1));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    p.doppioClic(sotto);
+    EXPECT_EQ(p.osservatore.eventi, Testi{L"doppio 0"});
+    p.pulsante(MOUSEEVENTF_RIGHTDOWN);
+    p.pulsante(MOUSEEVENTF_RIGHTUP);
+    EXPECT_EQ(p.osservatore.menu.size(), 1U);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    // For a pointer that drags, the last row is the nearest.
+    p.trascina(p.punto(1), sotto);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
 TEST(GrigliaTrascina, EscLoAbbandona) {
     GrigliaProva p(4);
     p.vai(p.punto(1));

@@ -106,6 +106,26 @@ TEST(Griglia, UnaRigaFuoriVistaDiventaLaPrimaInAlto) {
     }
 }
 
+TEST(Griglia, UnaRigaDiCuiNonSiVedeNullaNonEVisibile) {
+    GrigliaProva p(200);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
+    const int altezza = r.bottom - r.top;
+    p.alta(r.top + 5 * altezza);
+    EXPECT_TRUE(p.griglia.visibile(5));
+    EXPECT_FALSE(p.griglia.visibile(6));
+    p.griglia.seleziona(6);
+    EXPECT_EQ(p.griglia.rigaInCima(), 6);
+    EXPECT_FALSE(p.griglia.visibile(5));
+    // One pixel is enough.
+    p.griglia.rigaInCima(1);
+    p.alta(r.top + 5 * altezza + 1);
+    EXPECT_TRUE(p.griglia.visibile(6));
+    p.griglia.seleziona(1);
+    p.griglia.seleziona(6);
+    EXPECT_EQ(p.griglia.rigaInCima(), 1);
+}
+
 TEST(Griglia, RiempireDiNuovoTornaAllaPrimaRiga) {
     GrigliaProva p(200);
     p.griglia.seleziona(150);
