@@ -94,9 +94,9 @@ protected:
                                 bool fuoco = false) const {
         const int alta = aspetto.altezzaRiga();
         return dipinta(fineRiga, alta, [&](HDC dc) {
-            aspetto.disegna(dc, righe, quale,
-                            {{0, 0, fineData, alta}, {fineData, 0, fineRiga, alta}, selezionata,
-                             fuoco});
+            aspetto.disegna(
+                dc, righe, quale,
+                {{0, 0, fineData, alta}, {fineData, 0, fineRiga, alta}, selezionata, fuoco});
         });
     }
     // The inside of the cells: without the lines that divide them.

@@ -146,8 +146,8 @@ TEST_F(FrmMainChiusura, ConLEditorApertoUnSecondoComandoLasciaLaTabellaComEra) {
     int aperture = 0;
     const auto insisti = [&](clsItemRss& elemento, DataOra ultima) {
         ++aperture;
-        for (const int comando : {mnaddFeed, mnEditFeed, mnDelFeed, mnNuovo, mnvisualhtml,
-                                  spostaSu, spostaGiu, mnAggiorna}) {
+        for (const int comando : {mnaddFeed, mnEditFeed, mnDelFeed, mnNuovo, mnvisualhtml, spostaSu,
+                                  spostaGiu, mnAggiorna}) {
             SendMessageW(finestra.hwnd(), WM_COMMAND, static_cast<WPARAM>(comando), 0);
         }
         // This editor leaves the window enabled, so that even hands reach it.
