@@ -10,7 +10,7 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -23,12 +23,12 @@ using enum CampoElemento;
 
 // Pixels from top to bottom, each line from left to right.
 struct Immagine {
-    int larghezza;
+    std::ptrdiff_t larghezza;
     std::vector<std::uint32_t> punti;
 
     bool operator==(const Immagine&) const = default;
 
-    [[nodiscard]] COLORREF colore(int x, int y) const {
+    [[nodiscard]] COLORREF colore(std::ptrdiff_t x, std::ptrdiff_t y) const {
         const std::uint32_t p = punti[static_cast<std::size_t>(y * larghezza + x)];
         return RGB(p >> 16 & 0xFF, p >> 8 & 0xFF, p & 0xFF);
     }
@@ -60,7 +60,7 @@ Immagine dipinta(int larghezza, int altezza, Pittore pittore) {
     pittore(dc);
     GdiFlush();
     const auto* const primo = static_cast<const std::uint32_t*>(punti);
-    Immagine immagine{larghezza, {primo, primo + larghezza * altezza}};
+    Immagine immagine{larghezza, {primo, primo + std::ptrdiff_t{larghezza} * altezza}};
     for (std::uint32_t& p : immagine.punti) {
         p &= 0xFFFFFF;
     }
@@ -277,7 +277,7 @@ TEST(GrigliaDipinta, IlContenutoArrivaFinoAlBordoAncheSenzaBarra) {
     // Beyond the second column begins the third, which shows nothing of its own.
     const int fine = ListView_GetColumnWidth(p.lista(), 0) + ListView_GetColumnWidth(p.lista(), 1);
     ASSERT_LT(fine + 4, i.larghezza);
-    for (int x = fine - 4; x < i.larghezza - 2; ++x) {
+    for (std::ptrdiff_t x = fine - 4; x < i.larghezza - 2; ++x) {
         EXPECT_EQ(i.colore(x, r.top + 2), GetSysColor(COLOR_HIGHLIGHT)) << x;
     }
 }
