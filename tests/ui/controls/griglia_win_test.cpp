@@ -314,6 +314,18 @@ TEST(Griglia, LIntestazioneNonSiTrascinaENonSiAllarga) {
     p.trascina({divisione.x - 60, divisione.y}, {divisione.x + 90, divisione.y});
     EXPECT_EQ(p.titolo(0), L"Data/Orario");
     EXPECT_TRUE(p.osservatore.mosse().empty());
+    // Nor from a header that would not keep its style.
+    NMHEADERW avviso{};
+    avviso.hdr.hwndFrom = ListView_GetHeader(p.lista());
+    const auto avvisa = [&](UINT codice) {
+        avviso.hdr.code = codice;
+        return SendMessageW(p.lista(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&avviso));
+    };
+    EXPECT_TRUE(avvisa(HDN_BEGINTRACKW));
+    EXPECT_TRUE(avvisa(HDN_BEGINTRACKA));
+    avvisa(HDN_DIVIDERDBLCLICKW);
+    avvisa(HDN_DIVIDERDBLCLICKA);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
 }
 
 TEST(Griglia, HaUnNomePerChiLaLegge) {
