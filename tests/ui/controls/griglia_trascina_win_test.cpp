@@ -161,6 +161,22 @@ TEST(GrigliaTrascina, EscLoAbbandona) {
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
 }
 
+TEST(GrigliaTrascina, EscArrivaAllaGrigliaAncheInUnDialogo) {
+    GrigliaProva p(4);
+    const ConFiltro dialogo(
+        [&p](MSG& msg) { return IsDialogMessageW(p.cornice(), &msg) != FALSE; });
+    p.vai(p.punto(1));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(3));
+    p.premiTasto(VK_TAB);
+    EXPECT_EQ(p.griglia.trascinato(), 0);
+    EXPECT_EQ(GetFocus(), p.lista());
+    p.premiTasto(VK_ESCAPE);
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
 TEST(GrigliaTrascina, GliAltriTastiNonContano) {
     GrigliaProva p(4);
     p.vai(p.punto(1));
