@@ -126,6 +126,9 @@ TEST_F(FrmEditFeedModale, InvioSalvaDaOgniCampoMenoLaDescrizione) {
         usa([&] {
             compila(L"titolo", L"link");
             SetFocus(controllo(id));
+            // The button is seen to be the one that Enter presses.
+            EXPECT_NE(
+                SendMessageW(controllo(IDC_CMDSALVA), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON, 0);
             premi(VK_RETURN);
             EXPECT_FALSE(aperta()) << id;
         });
