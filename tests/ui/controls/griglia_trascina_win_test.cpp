@@ -145,6 +145,21 @@ TEST(GrigliaTrascina, SottoLUltimaRigaNonCENessunaRiga) {
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
 }
 
+TEST(GrigliaTrascina, UnDoppioClicACavalloDiDueRigheParlaDellaSeconda) {
+    GrigliaProva p(5);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 2, &r, LVIR_BOUNDS);
+    POINT sopra{0, r.top - 1};
+    MapWindowPoints(p.lista(), nullptr, &sopra, 1);
+    sopra.x = p.punto(3).x;
+    p.nuovoClic();
+    p.clic(sopra);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    p.clic({sopra.x, sopra.y + 1});
+    EXPECT_EQ(p.osservatore.doppi(), Testi{L"doppio 3"});
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+}
+
 TEST(GrigliaTrascina, EscLoAbbandona) {
     GrigliaProva p(4);
     p.vai(p.punto(1));
