@@ -1,6 +1,5 @@
 #include "support/koUtilitaTesti.h"
 
-#include "support/errore.h"
 #include "support/testo.h"
 
 #include <algorithm>
@@ -27,8 +26,4 @@ wchar_t koUtilitaTesti::KeyMaiuscolo(wchar_t carattere) noexcept {
 DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
     constexpr std::int64_t secondiDelGiorno = 86400;
     return DataOra().piuSecondi(numero * secondiDelGiorno);
-}
-
-std::wstring koUtilitaTesti::MessaggioErroreITA(std::int32_t numero) {
-    return std::wstring(testoErrore(numero));
 }

@@ -27,8 +27,4 @@ public:
     // A date, a time or both as the user writes them, in the user's format; a time alone belongs to
     // 30 December 1899. Raises error 13 when it is none.
     [[nodiscard]] static DataOra StringaToDate(const std::wstring& testo);
-
-    // The Italian text of a run-time error, of the one table that errors are raised with; empty for
-    // a number that it lacks.
-    [[nodiscard]] static std::wstring MessaggioErroreITA(std::int32_t numero);
 };

@@ -1,7 +1,9 @@
 #include "support/koUtilita.h"
 
 #include "support/file_win.h"
+#include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <windows.h>
@@ -13,15 +15,16 @@
 namespace {
 
 std::int32_t erroreCrea(const std::wstring& percorso) {
-    return sollevatoDa([&percorso] {
-               koUtilita::CreaPercorsoDirectory(percorso);
-               return 0;
-           })
-        .numero;
+    return erroreDi([&percorso] { koUtilita::CreaPercorsoDirectory(percorso); });
 }
 
 bool eCartella(const std::wstring& percorso) {
     return std::filesystem::is_directory(percorso);
+}
+
+std::ptrdiff_t quantiIn(const std::wstring& percorso) {
+    return std::distance(std::filesystem::directory_iterator(percorso),
+                         std::filesystem::directory_iterator());
 }
 
 } // namespace
@@ -69,5 +72,39 @@ TEST(KoUtilitaCartelle, DirectoryReteDiceIlNomeDiRete) {
     for (const std::wstring& percorso : {std::wstring(L"9:\\a"), std::wstring(L"a\\b"),
                                          std::wstring(), std::wstring(1000, L'x')}) {
         EXPECT_EQ(koUtilita::DirectoryRete(percorso), L"") << inUtf8(percorso);
+    }
+}
+
+TEST(KoUtilitaWriteAccess, UnaCartellaScrivibileResta) {
+    const CartellaProva cartella;
+    MessaggiFinti messaggi;
+    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
+    EXPECT_EQ(quantiIn(cartella.percorso()), 0);
+}
+
+TEST(KoUtilitaWriteAccess, IlFileDellUtenteConQuelNomeResta) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"120asd12.tmp", "mio");
+    MessaggiFinti messaggi;
+    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso() + L"\\"));
+    EXPECT_EQ(leggiTutto(file), "mio");
+    // It cannot be written: nothing says that the folder can.
+    {
+        const ManigliaFile tenuto(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+        ASSERT_TRUE(tenuto);
+        messaggi.attendi(L"Autorizzazione negata", L"Errore # 70", Icona::Critica);
+        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
+    }
+    EXPECT_EQ(leggiTutto(file), "mio");
+}
+
+TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
+    const CartellaProva cartella;
+    for (const std::wstring& quale :
+         {cartella.file(L"manca"), std::wstring(), std::wstring(L" ")}) {
+        MessaggiFinti messaggi;
+        messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
+        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(quale));
     }
 }

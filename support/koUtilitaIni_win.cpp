@@ -1,4 +1,4 @@
-#include "support/koUtilitaFile.h"
+#include "support/koUtilitaIni.h"
 
 #include "support/ansi_win.h"
 #include "support/errori_win.h"
@@ -56,9 +56,8 @@ std::wstring protetto(const std::wstring& valore) {
 
 } // namespace
 
-std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
-                                     const std::wstring& chiave,
-                                     const std::wstring& DefaultValore) {
+std::wstring koUtilitaIni::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                                    const std::wstring& chiave, const std::wstring& DefaultValore) {
     // Nothing where Windows would list names instead.
     if (fileINI.empty() || Sezione.empty() || chiave.empty()) {
         return DefaultValore;
@@ -80,8 +79,8 @@ std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wst
     }
 }
 
-void koUtilitaFile::ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
-                              const std::wstring& chiave, const std::wstring& Valore) {
+void koUtilitaIni::ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                             const std::wstring& chiave, const std::wstring& Valore) {
     const std::wstring percorso = percorsoCompleto(fileINI);
     const std::wstring tutto = Sezione + chiave + Valore;
     if (!nomeValido(Sezione, L"]") || !nomeValido(chiave, L"=") || contiene(Valore, L"\r\n\0"sv) ||
