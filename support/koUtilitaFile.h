@@ -21,6 +21,7 @@ public:
 
     // Expands a file of the Windows LZ format (compress.exe, "SZDD") through lz32, which Windows
     // still has, and replaces the destination only when it is whole. Any other file is copied as it
-    // is, as lz32 does. Raises error 57 for a damaged file.
+    // is, as lz32 does. Raises error 57 for a damaged file, 75 for a destination that is open, as
+    // the source itself is.
     static void Decomprimi(const std::wstring& sorgente, const std::wstring& destinazione);
 };

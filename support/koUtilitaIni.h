@@ -16,8 +16,8 @@ public:
     // Writes it, so that LeggiINI gives exactly that value back; makes the file, not its folder.
     // Raises error 5, before the file is touched, for what an INI file cannot hold: an empty
     // section or key or one that would be read as another, a line break, a character that the
-    // file's encoding (the ANSI code page unless it is UTF-16) lacks; 52 for a path of 260
-    // characters or more.
+    // file's encoding (the ANSI code page unless it is UTF-16) lacks, and for a file in big-endian
+    // UTF-16, which Windows does not know; 52 for a path of 260 characters or more.
     static void ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
                           const std::wstring& chiave, const std::wstring& Valore);
 };

@@ -1,5 +1,6 @@
 #include "support/koUtilitaTesti.h"
 
+#include "support/errore.h"
 #include "support/testo.h"
 
 #include <algorithm>
@@ -24,6 +25,11 @@ wchar_t koUtilitaTesti::KeyMaiuscolo(wchar_t carattere) noexcept {
 }
 
 DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
+    constexpr std::int32_t primo = -657434;  // 1 January 100
+    constexpr std::int32_t ultimo = 2958465; // 31 December 9999
+    if (numero < primo || numero > ultimo) {
+        solleva(errori::overflow);
+    }
     constexpr std::int64_t secondiDelGiorno = 86400;
     return DataOra().piuSecondi(numero * secondiDelGiorno);
 }

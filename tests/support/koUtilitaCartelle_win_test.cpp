@@ -3,6 +3,8 @@
 #include "support/file_win.h"
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/sollevato.h"
 
@@ -55,6 +57,27 @@ TEST(KoUtilitaCartelle, UnPercorsoCheNonSiFaNonLasciaNulla) {
     EXPECT_EQ(leggiTutto(file), "x");
 }
 
+TEST(KoUtilitaCartelle, DoveNonSiScriveNonSiFannoCartelle) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    EXPECT_EQ(erroreCrea(*disco + L"\\a\\b"), 75);
+    EXPECT_FALSE(eCartella(*disco + L"\\a"));
+    // What is there needs no making.
+    EXPECT_EQ(erroreCrea(*disco), 0);
+}
+
+TEST(KoUtilitaCartelle, SuUnUnitaCheMancaNonSiFannoCartelle) {
+    EXPECT_EQ(GetDriveTypeW(L"Q:\\"), static_cast<UINT>(DRIVE_NO_ROOT_DIR));
+    EXPECT_NE(erroreCrea(L"Q:\\a\\b"), 0);
+}
+
+TEST(KoUtilitaCartelle, SenzaIlNomeNelRegistroNonCeCartellaCondivisa) {
+    const MacchinaVuota vuota;
+    EXPECT_EQ(koUtilita::CartellaCondivisi(), L"");
+}
+
 TEST(KoUtilitaCartelle, LeCartelleDelSistemaEsistonoEFinisconoConLaBarra) {
     for (const std::wstring& c : {koUtilita::CartellaWindows(), koUtilita::GetWindowsSysDir(),
                                   koUtilita::CurDirApp(), koUtilita::CartellaCondivisi()}) {
@@ -82,6 +105,16 @@ TEST(KoUtilitaWriteAccess, UnaCartellaScrivibileResta) {
     EXPECT_EQ(quantiIn(cartella.percorso()), 0);
 }
 
+TEST(KoUtilitaWriteAccess, UnaCartellaDiSolaLetturaSiDice) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Errore di accesso al percorso/file", L"Errore # 75", Icona::Critica);
+    EXPECT_FALSE(koUtilita(messaggi).WriteAccess(*disco));
+}
+
 TEST(KoUtilitaWriteAccess, IlFileDellUtenteConQuelNomeResta) {
     const CartellaProva cartella;
     const std::wstring file = cartella.scrivi(L"120asd12.tmp", "mio");
@@ -107,4 +140,24 @@ TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
         messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
         EXPECT_FALSE(koUtilita(messaggi).WriteAccess(quale));
     }
+}
+
+TEST(KoUtilitaWriteAccess, UnNomeTroppoLungoSiDice) {
+    const std::wstring lungo = koUtilita::CurDirApp() + std::wstring(1000, L'x');
+    const auto codice = erroreDi([&] { koUtilita::CreaPercorsoDirectory(lungo); });
+    ASSERT_NE(codice, 0);
+    MessaggiFinti messaggi;
+    messaggi.attendi(koUtilita::MessaggioErroreITA(76), L"Errore # 76", Icona::Critica);
+    EXPECT_FALSE(koUtilita(messaggi).WriteAccess(lungo));
+}
+
+TEST(KoUtilitaCartelle, DirectoryReteDiceIlNomeDiUnUnitaCollegata) {
+    const auto unita = unitaDiRete();
+    if (!unita) {
+        GTEST_SKIP() << "no drive stands for a network folder";
+    }
+    EXPECT_EQ(koUtilita::DirectoryRete(*unita + L"\\a b\\c"), L"\\\\server\\dati\\a b\\c\\");
+    EXPECT_EQ(koUtilita::DirectoryRete(*unita + L"\\"), L"\\\\server\\dati\\");
+    EXPECT_EQ(koUtilita::DirectoryRete(*unita), L"\\\\server\\dati\\");
+    EXPECT_EQ(koUtilita::DirectoryRete(*unita + L"a/b"), L"\\\\server\\dati\\a\\b\\");
 }

@@ -32,3 +32,15 @@ TEST(KoUtilitaPrintErroreEx, DiceNumeroLuogoEDescrizione) {
         utilita.PrintErroreEx();
     }
 }
+
+TEST(KoUtilitaPrintErroreEx, UnLuogoLungoSiMostraIntero) {
+    const std::wstring lungo(1000, L'x');
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Errore -2147467259 in " + lungo + L": ", L"Errore -2147467259",
+                     Icona::Critica);
+    try {
+        throw Errore(-2147467259, L"");
+    } catch (...) {
+        koUtilita(messaggi).PrintErroreEx(lungo);
+    }
+}

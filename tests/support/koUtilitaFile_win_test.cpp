@@ -2,6 +2,7 @@
 
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <windows.h>
@@ -71,6 +72,24 @@ TEST(KoUtilitaReadOnly, ToglieSoloQuellAttributo) {
     EXPECT_EQ(GetFileAttributesW(file.c_str()), altri);
 }
 
+TEST(KoUtilitaReadOnly, UnFileSoloDiLetturaDivieneNormale) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.txt", "x");
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
+    koUtilita::EliminaReadOnly(file);
+    EXPECT_EQ(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+}
+
+TEST(KoUtilitaReadOnly, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    const std::wstring file = *disco + L"\\a.txt";
+    ASSERT_NE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+    EXPECT_EQ(erroreDi([&] { koUtilita::EliminaReadOnly(file); }), 75);
+}
+
 TEST(KoUtilitaReadOnly, UnFileCheMancaEUnErrore) {
     const CartellaProva cartella;
     EXPECT_EQ(erroreDi([&] { koUtilita::EliminaReadOnly(cartella.file(L"manca")); }), 53);
@@ -102,12 +121,51 @@ TEST(KoUtilitaDecomprimi, UnFileNonCompressoSiCopia) {
 TEST(KoUtilitaDecomprimi, UnFileTroncatoNonToccaLaDestinazione) {
     const CartellaProva cartella;
     const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
-    for (std::size_t quanto = 14; quanto < compresso().size(); ++quanto) {
+    for (std::size_t quanto = 9; quanto < compresso().size(); ++quanto) {
         const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso().substr(0, quanto));
         EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57) << quanto;
     }
     EXPECT_EQ(leggiTutto(destinazione), "prima");
     EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, UnFileGuastoNonToccaLaDestinazione) {
+    const CartellaProva cartella;
+    const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
+    std::string lungo = compresso();
+    lungo.replace(10, 4, "\xFF\xFF\xFF\x7F");
+    std::string corto = compresso();
+    corto[10] = 3;
+    for (const std::string& contenuto : {lungo, corto}) {
+        const std::wstring sorgente = cartella.scrivi(L"a.tx_", contenuto);
+        EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57);
+    }
+    EXPECT_EQ(leggiTutto(destinazione), "prima");
+    EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, SuSeStessoEUnErrore) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.tx_", compresso());
+    EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(file, file); }), 75);
+    EXPECT_EQ(leggiTutto(file), compresso());
+    EXPECT_EQ(quantiFile(cartella), 1U);
+}
+
+TEST(KoUtilitaDecomprimi, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    const CartellaProva cartella;
+    const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
+    for (const wchar_t* nome : {L"\\b.txt", L"\\a.txt"}) {
+        EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, *disco + nome); }), 75);
+    }
+    EXPECT_EQ(leggiTutto(*disco + L"\\a.txt"), "testo");
+    // A folder stands in the way.
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, cartella.percorso()); }), 0);
+    EXPECT_EQ(quantiFile(cartella), 1U);
 }
 
 TEST(KoUtilitaDecomprimi, SenzaSorgenteOCartellaEUnErrore) {
@@ -116,6 +174,7 @@ TEST(KoUtilitaDecomprimi, SenzaSorgenteOCartellaEUnErrore) {
     const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
     EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(cartella.file(L"manca"), destinazione); }), 53);
     EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(L"", destinazione); }), 0);
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(std::wstring(1000, L'x'), destinazione); }), 0);
     EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, cartella.file(L"manca\\b")); }), 0);
     EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, L""); }), 5);
     EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, std::wstring(1000, L'x')); }), 0);

@@ -31,6 +31,7 @@ TEST(KoUtilitaTesti, EspuraSpaziToglieGliSpaziENonITab) {
     EXPECT_EQ(koUtilita::EspuraSpazi(L"  a b\tc  d "), L"ab\tcd");
     EXPECT_EQ(koUtilita::EspuraSpazi(L"   "), L"");
     EXPECT_EQ(koUtilita::EspuraSpazi(L""), L"");
+    EXPECT_EQ(koUtilita::EspuraSpazi(std::wstring(1000, L' ') + L"x"), L"x");
 }
 
 TEST(KoUtilitaTesti, KeyMaiuscoloCambiaSoloLeMinuscole) {
@@ -51,6 +52,6 @@ TEST(KoUtilitaTesti, LongToDateContaIGiorniDalTrentaDicembre1899) {
 
 TEST(KoUtilitaTesti, LongToDateRifiutaGliAnniDiTroppo) {
     for (const std::int32_t numero : {2958466, -657435, INT32_MAX, INT32_MIN}) {
-        EXPECT_EQ(sollevatoDa([numero] { return koUtilita::LongToDate(numero); }).numero, 5);
+        EXPECT_EQ(sollevatoDa([numero] { return koUtilita::LongToDate(numero); }).numero, 6);
     }
 }

@@ -79,3 +79,20 @@ TEST(KoUtilitaSpeciali, LeCartelleDellUtenteVengonoDalRegistroODallaShell) {
 TEST(KoUtilitaSpeciali, LeCartelleDiTuttiVengonoDalRegistroODallaShell) {
     provaSpeciali(HKEY_LOCAL_MACHINE, diTutti);
 }
+
+TEST(KoUtilitaSpeciali, UnValoreCheNonEUnTestoValeComeMancante) {
+    const std::wstring vera = koUtilita::CartellaDocumenti();
+    const std::wstring diTutti = koUtilita::CartellaDatiCondivisi();
+    const ChiaveSalvata utente(HKEY_CURRENT_USER, cartelleShell);
+    const ChiaveSalvata macchina(HKEY_LOCAL_MACHINE, cartelleShell);
+    utente.grezzo(L"Personal", REG_DWORD, "abcd");
+    macchina.testo(L"Common AppData", L"");
+    EXPECT_EQ(koUtilita::CartellaDocumenti(), vera);
+    EXPECT_EQ(koUtilita::CartellaDatiCondivisi(), diTutti);
+    const std::wstring lungo = L"C:\\" + std::wstring(1000, L'x');
+    utente.testo(L"Personal", lungo);
+    EXPECT_EQ(koUtilita::CartellaDocumenti(), lungo + L"\\");
+    // One that may not be read.
+    utente.nega(true);
+    EXPECT_EQ(koUtilita::CartellaDocumenti(), vera);
+}

@@ -5,6 +5,7 @@
 #include "support/file_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/sollevato.h"
 
@@ -90,4 +91,16 @@ TEST(KoUtilitaCollegamento, SenzaIlComponenteEErrore429) {
               }),
               429);
     EXPECT_FALSE(fileEsiste(cartella.file(L"a.lnk")));
+}
+
+TEST(KoUtilitaCollegamento, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    EXPECT_NE(erroreDi([&] {
+                  koUtilita::CreaCollegamento(*disco + L"\\a", {L"C:\\a.exe", L"", 1, L""});
+              }),
+              0);
+    EXPECT_FALSE(fileEsiste(*disco + L"\\a.lnk"));
 }

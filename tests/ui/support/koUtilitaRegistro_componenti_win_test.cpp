@@ -91,3 +91,26 @@ TEST(KoUtilitaComponenti, CioCheNonSiRegistraEUnErrore) {
         EXPECT_NE(erroreDi([&] { azione(std::wstring(1000, L'x') + L".dll"); }), 0);
     }
 }
+
+TEST(KoUtilitaComponenti, UnaLibreriaA32BitSiTrovaDopoQuellaA64) {
+    const std::wstring chiave = L"CLSID\\" + clsid;
+    const ChiaveSalvata a64(HKEY_LOCAL_MACHINE, classi + chiave);
+    const ChiaveSalvata a32(HKEY_LOCAL_MACHINE, classi + L"Wow6432Node\\" + chiave);
+    const ChiaveSalvata server32(HKEY_LOCAL_MACHINE, a32.nome() + L"\\InprocServer32");
+    server32.testo(L"", L"C:\\a32.ocx");
+    EXPECT_EQ(koUtilita::PathServerOcx(clsid), L"C:\\a32.ocx");
+    const ChiaveSalvata server64(HKEY_LOCAL_MACHINE, a64.nome() + L"\\InprocServer32");
+    server64.testo(L"", L"C:\\a64.ocx");
+    EXPECT_EQ(koUtilita::PathServerOcx(clsid), L"C:\\a64.ocx");
+    server64.nega(true);
+    EXPECT_EQ(koUtilita::PathServerOcx(clsid), L"C:\\a32.ocx");
+}
+
+TEST(KoUtilitaComponenti, IlRifiutoDelComponenteSiSolleva) {
+    const ChiaveSalvata classe(HKEY_LOCAL_MACHINE, classi + L"CLSID\\" + clsid);
+    const ChiaveSalvata nome(HKEY_LOCAL_MACHINE, classi + componente);
+    const ChiaveSalvata negata(HKEY_LOCAL_MACHINE, nome.nome() + L"\\CLSID");
+    negata.nega();
+    EXPECT_EQ(erroreDi([] { koUtilita::RegistraServer(libreria()); }), 70);
+    EXPECT_EQ(koUtilita::PathServerOcx(clsid), L"");
+}

@@ -52,6 +52,7 @@ TEST(KoUtilitaAppPaths, StartApplicazioneAvviaIlProgrammaRegistrato) {
     EXPECT_TRUE(koUtilita(messaggi).StartApplicazione(nullptr, L"OstrelleProva", L"\"uno due\""));
     const auto lancio = registratore.attendi();
     EXPECT_EQ(lancio.programma, programma);
+    EXPECT_EQ(lancio.obiettivo, L"uno due");
     EXPECT_EQ(lancio.cartella, cartella.percorso());
     EXPECT_EQ(lancio.stato, SW_SHOWNORMAL);
 }
@@ -103,6 +104,22 @@ TEST(KoUtilitaCondivisi, UnContoCheNonELoResta) {
     EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, chiave.nome(), L"testo.dll"), L"3");
 }
 
+TEST(KoUtilitaCondivisi, SenzaDirittiIlContoResta) {
+    const ChiaveSalvata chiave(HKEY_LOCAL_MACHINE, correnti + L"SharedDLLs");
+    EXPECT_EQ(koUtilita::SetFileShared(L"a.dll"), 1U);
+    chiave.nega();
+    EXPECT_EQ(erroreDi([] { koUtilita::SetFileShared(L"a.dll"); }), 75);
+    EXPECT_EQ(erroreDi([] { koUtilita::SetFileShared(L"b.dll"); }), 75);
+    EXPECT_EQ(erroreDi([] { koUtilita::DecFileShared(L"a.dll"); }), 75);
+    DWORD conto = 0;
+    DWORD byte = sizeof(conto);
+    RegGetValueW(HKEY_LOCAL_MACHINE, chiave.nome().c_str(), L"a.dll", RRF_RT_DWORD, nullptr, &conto,
+                 &byte);
+    EXPECT_EQ(conto, 1U);
+    chiave.nega(true);
+    EXPECT_EQ(erroreDi([] { koUtilita::DecFileShared(L"a.dll"); }), 75);
+}
+
 TEST(KoUtilitaDisinstalla, LeInformazioniScritteSiRileggono) {
     const ChiaveSalvata chiave(HKEY_LOCAL_MACHINE, correnti + L"Uninstall\\OstrelleProva");
     EXPECT_FALSE(koUtilita::GetInfoDisinstallazione(L"OstrelleProva"));
@@ -125,6 +142,39 @@ TEST(KoUtilitaDisinstalla, UnNomeCheNonEUnaChiaveSiRifiuta) {
         EXPECT_EQ(erroreDi([&] { koUtilita::SetInfoDisinstallazione(nome, {}); }), 5);
         EXPECT_FALSE(koUtilita::GetInfoDisinstallazione(nome));
     }
+}
+
+TEST(KoUtilitaDisinstalla, UnProgrammaA32BitOSoloDellUtenteSiTrovaESiScriveDoveSta) {
+    const std::wstring nome = L"Uninstall\\OstrelleProva";
+    const ChiaveSalvata macchina(HKEY_LOCAL_MACHINE, correnti + nome);
+    const ChiaveSalvata a32(HKEY_LOCAL_MACHINE,
+                            L"SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\" + nome);
+    const ChiaveSalvata utente(HKEY_CURRENT_USER, correnti + nome);
+    utente.testo(L"DisplayName", L"utente");
+    EXPECT_EQ(letta(L"OstrelleProva").DisplayName, L"utente");
+    koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {L"utente 2", L"u"});
+    EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, utente.nome(), L"DisplayName"), L"utente 2");
+    a32.testo(L"DisplayName", L"a 32 bit");
+    EXPECT_EQ(letta(L"OstrelleProva").DisplayName, L"a 32 bit");
+    koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {L"a 32 bit 2", L"u"});
+    EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, a32.nome(), L"DisplayName"), L"a 32 bit 2");
+    EXPECT_FALSE(leggiTesto(HKEY_LOCAL_MACHINE, macchina.nome(), L"DisplayName"));
+    macchina.testo(L"DisplayName", L"macchina");
+    EXPECT_EQ(letta(L"OstrelleProva").DisplayName, L"macchina");
+}
+
+TEST(KoUtilitaDisinstalla, SenzaDirittiNullaCambia) {
+    const ChiaveSalvata chiave(HKEY_LOCAL_MACHINE, correnti + L"Uninstall\\OstrelleProva");
+    chiave.testo(L"DisplayName", L"prima");
+    chiave.nega();
+    EXPECT_EQ(erroreDi([] {
+                  koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {L"a", L"b"});
+              }),
+              75);
+    EXPECT_EQ(letta(L"OstrelleProva").DisplayName, L"prima");
+    EXPECT_EQ(letta(L"OstrelleProva").UninstallString, L"");
+    chiave.nega(true);
+    EXPECT_FALSE(koUtilita::GetInfoDisinstallazione(L"OstrelleProva"));
 }
 
 TEST(KoUtilitaAssociazione, IFileDellEstensioneSiApronoConIlProgramma) {
@@ -167,4 +217,56 @@ TEST(KoUtilitaAssociazione, ArgomentiSbagliatiNonScrivonoNulla) {
     EXPECT_EQ(crea(L".okoprova", L"OstrelleProva.Tipo", L"a\" \"b"), 5);
     EXPECT_FALSE(leggiTesto(HKEY_CLASSES_ROOT, estensione.nome(), L""));
     EXPECT_FALSE(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome(), L""));
+}
+
+TEST(KoUtilitaAssociazione, SenzaDirittiValePerIlSoloUtente) {
+    const std::wstring estensione = L".okoprova";
+    const std::wstring tipo = L"OstrelleProva.Tipo";
+    const std::wstring mie = L"Software\\Classes\\";
+    const ChiaveSalvata tipoMio(HKEY_CURRENT_USER, mie + tipo);
+    const ChiaveSalvata estensioneMia(HKEY_CURRENT_USER, mie + estensione);
+    // The type, then the extension alone, is one that Windows keeps for administrators.
+    for (const std::wstring& negata : {tipo, estensione}) {
+        const ChiaveSalvata tipoDiTutti(HKEY_LOCAL_MACHINE, mie + tipo);
+        const ChiaveSalvata estensioneDiTutti(HKEY_LOCAL_MACHINE, mie + estensione);
+        (negata == tipo ? tipoDiTutti : estensioneDiTutti).nega();
+        koUtilita::CreaAssociazione(estensione, tipo, negata, L"C:\\a b.exe", L"C:\\a b.exe,1");
+        EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipoMio.nome(), L""), negata);
+        EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipoMio.nome() + L"\\Shell\\Open\\Command", L""),
+                  L"\"C:\\a b.exe\" \"%1\"");
+        EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, tipoMio.nome() + L"\\DefaultIcon", L""),
+                  L"C:\\a b.exe,1");
+        EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, estensioneMia.nome(), L""), tipo);
+        EXPECT_FALSE(leggiTesto(HKEY_LOCAL_MACHINE, estensioneDiTutti.nome(), L""));
+        // Of the type for all nothing is left but what was there.
+        HKEY chiave = nullptr;
+        EXPECT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, tipoDiTutti.nome().c_str(), 0, KEY_READ,
+                                &chiave) == ERROR_SUCCESS,
+                  negata == tipo);
+        RegCloseKey(chiave);
+    }
+}
+
+TEST(KoUtilitaAssociazione, SenzaAlcunDirittoEUnErrore) {
+    const ChiaveSalvata tipo(HKEY_CLASSES_ROOT, L"OstrelleProva.Tipo");
+    const ChiaveSalvata estensione(HKEY_CLASSES_ROOT, L".okoprova");
+    const ChiaveSalvata mio(HKEY_CURRENT_USER, L"Software\\Classes\\OstrelleProva.Tipo");
+    tipo.nega();
+    mio.nega();
+    EXPECT_EQ(erroreDi([] {
+                  koUtilita::CreaAssociazione(L".okoprova", L"OstrelleProva.Tipo", L"d", L"a.exe");
+              }),
+              75);
+    EXPECT_FALSE(leggiTesto(HKEY_CLASSES_ROOT, L".okoprova", L""));
+}
+
+TEST(KoUtilitaAssociazione, TestiLunghiSiScrivonoInteri) {
+    const ChiaveSalvata estensione(HKEY_CLASSES_ROOT, L".okoprova");
+    const ChiaveSalvata tipo(HKEY_CLASSES_ROOT, L"OstrelleProva.Tipo");
+    const std::wstring lungo(1000, L'x');
+    koUtilita::CreaAssociazione(L".okoprova", L"OstrelleProva.Tipo", lungo, lungo, lungo);
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome(), L""), lungo);
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome() + L"\\DefaultIcon", L""), lungo);
+    EXPECT_EQ(leggiTesto(HKEY_CLASSES_ROOT, tipo.nome() + L"\\Shell\\Open\\Command", L""),
+              L'"' + lungo + L"\" \"%1\"");
 }
