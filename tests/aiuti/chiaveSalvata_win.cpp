@@ -14,6 +14,13 @@ const std::wstring copie = L"Software\\OstrelleProve\\Registro\\";
 
 const std::wstring macchina = L"Software\\OstrelleProve\\Macchina";
 
+// Keys of one name stand under several roots.
+const wchar_t* nomeDi(HKEY radice) {
+    return radice == HKEY_CURRENT_USER    ? L"Utente\\"
+           : radice == HKEY_LOCAL_MACHINE ? L"Macchina\\"
+                                          : L"Classi\\";
+}
+
 ChiaveRegistro apri(HKEY radice, const std::wstring& nome, REGSAM diritti = KEY_READ) {
     HKEY chiave = nullptr;
     return RegOpenKeyExW(radice, nome.c_str(), 0, diritti, &chiave) == ERROR_SUCCESS
@@ -30,11 +37,11 @@ ChiaveRegistro crea(HKEY radice, const std::wstring& nome) {
 } // namespace
 
 ChiaveSalvata::ChiaveSalvata(HKEY radice, std::wstring nome)
-    : radice_(radice), nome_(std::move(nome)) {
+    : radice_(radice), nome_(std::move(nome)), copia_(copie + nomeDi(radice) + nome_) {
     // A copy that is there already is of a test that crashed: it holds the true original.
     const ChiaveRegistro originale = apri(radice_, nome_);
-    if (originale && !apri(HKEY_CURRENT_USER, copie + nome_)) {
-        const ChiaveRegistro copia = crea(HKEY_CURRENT_USER, copie + nome_);
+    if (originale && !apri(HKEY_CURRENT_USER, copia_)) {
+        const ChiaveRegistro copia = crea(HKEY_CURRENT_USER, copia_);
         EXPECT_EQ(RegCopyTreeW(originale.get(), nullptr, copia.get()), ERROR_SUCCESS);
     }
     RegDeleteTreeW(radice_, nome_.c_str());
@@ -45,10 +52,10 @@ ChiaveSalvata::~ChiaveSalvata() {
         permetti(L"D:(A;OICI;KA;;;WD)");
     }
     RegDeleteTreeW(radice_, nome_.c_str());
-    if (const ChiaveRegistro copia = apri(HKEY_CURRENT_USER, copie + nome_)) {
+    if (const ChiaveRegistro copia = apri(HKEY_CURRENT_USER, copia_)) {
         const ChiaveRegistro originale = crea(radice_, nome_);
         EXPECT_EQ(RegCopyTreeW(copia.get(), nullptr, originale.get()), ERROR_SUCCESS);
-        RegDeleteTreeW(HKEY_CURRENT_USER, (copie + nome_).c_str());
+        RegDeleteTreeW(HKEY_CURRENT_USER, copia_.c_str());
     }
 }
 

@@ -31,6 +31,7 @@ private:
 
     HKEY radice_;
     std::wstring nome_;
+    std::wstring copia_;
 };
 
 // The machine's part of the registry empty, as this program sees it, for the life of the object.

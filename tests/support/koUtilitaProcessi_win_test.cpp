@@ -51,7 +51,7 @@ TEST(KoUtilitaAttesa, LaFineDelProgrammaFinisceWaitSecondi) {
     koUtilita::WaitSecondi(3600);
     EXPECT_LT(GetTickCount64() - inizio, 60000U);
     MSG messaggio{};
-    EXPECT_EQ(GetMessageW(&messaggio, nullptr, 0, 0), 0);
+    ASSERT_TRUE(PeekMessageW(&messaggio, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(messaggio.wParam, 3U);
 }
 

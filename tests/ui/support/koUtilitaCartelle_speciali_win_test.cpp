@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 
 #include <gtest/gtest.h>
@@ -62,6 +63,9 @@ void provaSpeciali(HKEY radice, const std::array<Speciale, N>& speciali) {
             EXPECT_EQ(vere[i], *valore + L"\\");
         }
     }
+    std::array<std::wstring, N> diverse = vere;
+    std::ranges::sort(diverse);
+    EXPECT_EQ(std::ranges::adjacent_find(diverse), diverse.end());
     const ChiaveSalvata chiave(radice, cartelleShell);
     for (std::size_t i = 0; i < N; ++i) {
         EXPECT_EQ(speciali[i].cartella(), vere[i]) << inUtf8(speciali[i].valore);
@@ -95,4 +99,19 @@ TEST(KoUtilitaSpeciali, UnValoreCheNonEUnTestoValeComeMancante) {
     // One that may not be read.
     utente.nega(true);
     EXPECT_EQ(koUtilita::CartellaDocumenti(), vera);
+}
+
+TEST(KoUtilitaSpeciali, LeChiaviSalvateTornanoOgnunaAlSuoPosto) {
+    const auto utente = leggiTesto(HKEY_CURRENT_USER, cartelleShell, L"Desktop");
+    const auto macchina = leggiTesto(HKEY_LOCAL_MACHINE, cartelleShell, L"Common Desktop");
+    ASSERT_TRUE(utente && macchina);
+    {
+        const ChiaveSalvata una(HKEY_CURRENT_USER, cartelleShell);
+        const ChiaveSalvata altra(HKEY_LOCAL_MACHINE, cartelleShell);
+        altra.nega();
+        EXPECT_FALSE(leggiTesto(HKEY_CURRENT_USER, cartelleShell, L"Desktop"));
+        EXPECT_FALSE(leggiTesto(HKEY_LOCAL_MACHINE, cartelleShell, L"Common Desktop"));
+    }
+    EXPECT_EQ(leggiTesto(HKEY_CURRENT_USER, cartelleShell, L"Desktop"), utente);
+    EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, cartelleShell, L"Common Desktop"), macchina);
 }
