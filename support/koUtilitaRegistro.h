@@ -50,8 +50,8 @@ public:
     [[nodiscard]] static std::wstring PathServerExe(const std::wstring& componente);
 
     // Makes a shortcut with "WScript.Shell"; a name without ".lnk" gets it, one of that name is
-    // replaced. Raises error 5 without a name or a target, 76 when the folder is missing, 429 where
-    // that component is switched off.
+    // replaced. Raises error 5 without a name or a target and for a text of 260 characters or more,
+    // 76 when the folder is missing, 429 where that component is switched off.
     static void CreaCollegamento(const std::wstring& file, const Collegamento& dati);
 
     // What stands in the list of installed programs under a key: the machine's list, else that of

@@ -2,6 +2,7 @@
 
 #include "support/file_win.h"
 #include "support/maniglie_win.h"
+#include "support/registro_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/dischi_win.h"
@@ -73,9 +74,12 @@ TEST(KoUtilitaCartelle, SuUnUnitaCheMancaNonSiFannoCartelle) {
     EXPECT_NE(erroreCrea(L"Q:\\a\\b"), 0);
 }
 
-TEST(KoUtilitaCartelle, SenzaIlNomeNelRegistroNonCeCartellaCondivisa) {
+TEST(KoUtilitaCartelle, LaCartellaCondivisaEQuellaDelRegistroONessuna) {
     const MacchinaVuota vuota;
     EXPECT_EQ(koUtilita::CartellaCondivisi(), L"");
+    scriviTesto(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion",
+                L"CommonFilesDir", L"D:\\file comuni ");
+    EXPECT_EQ(koUtilita::CartellaCondivisi(), L"D:\\file comuni\\");
 }
 
 TEST(KoUtilitaCartelle, LeCartelleDelSistemaEsistonoEFinisconoConLaBarra) {
@@ -144,10 +148,8 @@ TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
 
 TEST(KoUtilitaWriteAccess, UnNomeTroppoLungoSiDice) {
     const std::wstring lungo = koUtilita::CurDirApp() + std::wstring(1000, L'x');
-    const auto codice = erroreDi([&] { koUtilita::CreaPercorsoDirectory(lungo); });
-    ASSERT_NE(codice, 0);
     MessaggiFinti messaggi;
-    messaggi.attendi(koUtilita::MessaggioErroreITA(76), L"Errore # 76", Icona::Critica);
+    messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
     EXPECT_FALSE(koUtilita(messaggi).WriteAccess(lungo));
 }
 

@@ -80,6 +80,12 @@ TEST(KoUtilitaCollegamento, SenzaNomeObiettivoOCartellaEUnErrore) {
     EXPECT_EQ(crea(cartella.file(L"manca\\a"), L"C:\\a.exe"), 76);
     EXPECT_NE(crea(std::wstring(1000, L'x'), L"C:\\a.exe"), 0);
     EXPECT_NE(crea(cartella.file(L"a?b"), L"C:\\a.exe"), 0);
+    const std::wstring lungo = L"C:\\" + std::wstring(1000, L'x');
+    EXPECT_EQ(crea(cartella.file(L"a"), lungo), 5);
+    for (const Collegamento& dati :
+         {Collegamento{L"C:\\a.exe", lungo, 1, L""}, Collegamento{L"C:\\a.exe", L"", 1, lungo}}) {
+        EXPECT_EQ(erroreDi([&] { koUtilita::CreaCollegamento(cartella.file(L"a"), dati); }), 5);
+    }
     EXPECT_FALSE(fileEsiste(cartella.file(L"*.lnk")));
 }
 
