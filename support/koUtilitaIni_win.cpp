@@ -65,7 +65,7 @@ std::wstring protetto(const std::wstring& valore) {
 
 std::wstring koUtilitaIni::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
                                     const std::wstring& chiave, const std::wstring& DefaultValore) {
-    // Nothing where Windows would list names instead.
+    // A broken line or section may bear the empty name.
     if (fileINI.empty() || Sezione.empty() || chiave.empty()) {
         return DefaultValore;
     }

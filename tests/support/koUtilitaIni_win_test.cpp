@@ -83,11 +83,13 @@ TEST(KoUtilitaIni, ScrivereUnaChiaveLasciaLeAltre) {
 
 TEST(KoUtilitaIni, LeSezioniRotteNonGuastanoLeAltre) {
     const CartellaProva cartella;
-    const std::wstring file = cartella.scrivi(
-        L"a.ini",
-        "fuori=0\r\n[rotta\r\nx=1\r\n]\r\n[]\r\n=niente\r\nsenza uguale\r\n[S]\r\nk=v\r\n");
+    const std::wstring file =
+        cartella.scrivi(L"a.ini", "fuori=0\r\n[rotta\r\nx=1\r\n]\r\n[]\r\nk=0\r\n=niente\r\nsenza "
+                                  "uguale\r\n[S]\r\nk=v\r\n=niente\r\n");
     EXPECT_EQ(leggi(file), L"v");
     EXPECT_EQ(leggi(file, L"nessuna", L"x"), L"<manca>");
+    EXPECT_EQ(leggi(file, L"", L"k"), L"<manca>");
+    EXPECT_EQ(leggi(file, L"S", L""), L"<manca>");
     koUtilita::ScriviINI(file, L"S", L"k", L"w");
     const std::string tutto = leggiTutto(file);
     EXPECT_EQ(leggi(file), L"w");
