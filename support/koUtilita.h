@@ -1,11 +1,14 @@
 #pragma once
 
 #include "support/koUtilitaCartelle.h"
+#include "support/koUtilitaErrori.h"
 #include "support/koUtilitaFile.h"
 #include "support/koUtilitaFinestre.h"
+#include "support/koUtilitaIni.h"
+#include "support/koUtilitaProcessi.h"
 #include "support/koUtilitaRegistro.h"
-#include "support/koUtilitaSistema.h"
 #include "support/koUtilitaTesti.h"
+#include "support/koUtilitaVersioni.h"
 #include "support/messaggi.h"
 
 #include <cstdint>
@@ -20,11 +23,14 @@ class Errore;
 // the service that shows its messages; make one where it is needed. Up to PrintErrore texts reach
 // Windows in the ANSI code page: a character it lacks becomes "?".
 class koUtilita : public koUtilitaCartelle,
+                  public koUtilitaErrori,
                   public koUtilitaFile,
                   public koUtilitaFinestre,
+                  public koUtilitaIni,
+                  public koUtilitaProcessi,
                   public koUtilitaRegistro,
-                  public koUtilitaSistema,
-                  public koUtilitaTesti {
+                  public koUtilitaTesti,
+                  public koUtilitaVersioni {
 public:
     explicit koUtilita(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
 

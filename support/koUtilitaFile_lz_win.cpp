@@ -23,7 +23,7 @@ struct TrattiLz {
 using FileLz = Maniglia<TrattiLz>;
 
 // The length that the header of a compressed file tells; none for any other file. Leaves the file
-// at its beginning.
+// at its beginning. Raises error 57 for half a header.
 std::optional<std::uint64_t> lunghezzaEspansa(HANDLE file) {
     constexpr std::array<unsigned char, 9> firma{'S', 'Z', 'D', 'D', 0x88, 0xF0, 0x27, 0x33, 'A'};
     std::array<unsigned char, 14> testata{};
@@ -32,8 +32,12 @@ std::optional<std::uint64_t> lunghezzaEspansa(HANDLE file) {
         SetFilePointer(file, 0, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER) {
         sollevaWin32();
     }
-    if (letti < testata.size() || !std::equal(firma.begin(), firma.end(), testata.begin())) {
+    if (letti < firma.size() || !std::equal(firma.begin(), firma.end(), testata.begin())) {
         return std::nullopt;
+    }
+    if (letti < testata.size()) {
+        // lz32 would copy a header that is cut short.
+        solleva(errori::erroreIO);
     }
     std::uint64_t lunghezza = 0;
     std::for_each(testata.rbegin(), testata.rbegin() + 4,

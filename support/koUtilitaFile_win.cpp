@@ -1,41 +1,14 @@
 #include "support/koUtilitaFile.h"
 
-#include "support/ansi_win.h"
-#include "support/dataora_win.h"
 #include "support/errori_win.h"
-#include "support/formato.h"
 #include "support/maniglie_win.h"
-#include "support/scrittura_win.h"
-#include "support/testo.h"
 
 #include <windows.h>
 
-#include <array>
-
-namespace {
-
-ManigliaFile apri(const std::wstring& file, DWORD diritti, DWORD condivisione, DWORD come) {
-    return ManigliaFile(CreateFileW(file.c_str(), diritti, condivisione, nullptr, come,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
-}
-
-// "2005-nov-15 10:30:00".
-std::wstring timbro() {
-    const DataOra adesso = istanteAttuale().locale;
-    const SYSTEMTIME tempo = aSystemTime(adesso);
-    std::array<wchar_t, 80> data{};
-    if (GetDateFormatW(LOCALE_USER_DEFAULT, 0, &tempo, L"yyyy'-'MMM'-'dd", data.data(),
-                       static_cast<int>(data.size())) == 0) {
-        sollevaWin32();
-    }
-    const std::wstring ora = formattaDataOra(adesso, formatoUtente());
-    return std::wstring(data.data()) + ora.substr(ora.find(L' '));
-}
-
-} // namespace
-
 bool koUtilitaFile::FileAperto(const std::wstring& file) {
-    if (apri(file, GENERIC_READ, 0, OPEN_EXISTING)) {
+    const ManigliaFile solo(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (solo) {
         return false;
     }
     const DWORD errore = GetLastError();
@@ -53,32 +26,5 @@ void koUtilitaFile::EliminaReadOnly(const std::wstring& file) {
     if ((attributi & FILE_ATTRIBUTE_READONLY) != 0 &&
         !SetFileAttributesW(file.c_str(), attributi & ~DWORD{FILE_ATTRIBUTE_READONLY})) {
         sollevaWin32();
-    }
-}
-
-void koUtilitaFile::ScriviLog(const std::wstring& file, std::wstring_view testo) {
-    if (DeterminaSoloFileName(file).empty()) {
-        solleva(errori::nomeFileNonValido);
-    }
-    constexpr std::wstring_view estensione = L".log";
-    std::wstring percorso = file;
-    if (minuscolo(EstraiEstensione(file)) != estensione) {
-        percorso += estensione;
-    }
-    std::wstring riga = timbro() + L' ' + sostituisci(testo, L"\r\n", L" ");
-    for (wchar_t& c : riga) {
-        c = c == L'\r' || c == L'\n' ? L' ' : c;
-    }
-    const std::string byte = inAnsi(riga + L"\r\n");
-    // Appending alone, in one piece: two programs may write the same log.
-    const ManigliaFile log =
-        apri(percorso, FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_ALWAYS);
-    DWORD scritti = 0;
-    if (!log ||
-        !WriteFile(log.get(), byte.data(), static_cast<DWORD>(byte.size()), &scritti, nullptr)) {
-        sollevaWin32();
-    }
-    if (scritti < byte.size()) {
-        solleva(errori::discoPieno);
     }
 }

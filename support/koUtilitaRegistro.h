@@ -19,9 +19,9 @@ struct Collegamento {
 };
 
 // The registry and the components it names, part of koUtilita. The machine's part of the registry,
-// where all of it stands but an association, is written by administrators only: others get error
-// 75. Names that hold "\", are empty or too long for a key raise error 5 when written and are not
-// found when read.
+// where nearly all of it stands, is written by administrators only: others get error 75 and nothing
+// changes. Names that hold "\", are empty or too long for a key raise error 5 when written and are
+// not found when read.
 class koUtilitaRegistro {
 public:
     // The folder of a program registered under "App Paths", the user's before the machine's, ending
@@ -44,27 +44,31 @@ public:
     static std::uint32_t DecFileShared(const std::wstring& file);
 
     // The file of a registered component, told by its class identifier ("{...}") or its
-    // programmatic name, without quotation marks and parameters; empty when there is none.
+    // programmatic name, without quotation marks and parameters; empty when there is none. Where no
+    // 64-bit component is registered, the 32-bit one, as its registration names it.
     [[nodiscard]] static std::wstring PathServerOcx(const std::wstring& componente);
     [[nodiscard]] static std::wstring PathServerExe(const std::wstring& componente);
 
     // Makes a shortcut with "WScript.Shell"; a name without ".lnk" gets it, one of that name is
-    // replaced. Raises error 5 without a name or a target, 76 when the folder is missing, 429 where
-    // that component is switched off.
+    // replaced. Raises error 5 without a name or a target and for a text of 260 characters or more,
+    // 76 when the folder is missing, 429 where that component is switched off.
     static void CreaCollegamento(const std::wstring& file, const Collegamento& dati);
 
-    // What stands in the list of installed programs under a key. Nothing when there is no such key;
-    // a value that is missing is empty. Writing keeps the key's other values.
+    // What stands in the list of installed programs under a key: the machine's list, else that of
+    // its 32-bit programs, else the user's own. Nothing when there is no such key; a value that is
+    // missing is empty. Writing goes where the key is, else to the machine's list, and keeps the
+    // key's other values.
     [[nodiscard]] static std::optional<InfoDisinstallazione>
     GetInfoDisinstallazione(const std::wstring& programma);
     static void SetInfoDisinstallazione(const std::wstring& programma,
                                         const InfoDisinstallazione& info);
 
     // Makes `programma` open the files of an extension (with or without its dot): for all users, or
-    // for this user alone where Windows refuses that, as it does but to administrators. A program
-    // that the user chose in Windows' own dialog stays before it. `tipo` is the name of the file
-    // type, `icona` a "file,index" or empty. Raises error 5 for names that no key can have, a type
-    // that looks like an extension, no program or one with a quotation mark.
+    // for this user alone where Windows refuses to write the type or the extension for all, as it
+    // does but to administrators. A program that the user chose in Windows' own dialog stays before
+    // it. `tipo` is the name of the file type, `icona` a "file,index" or empty. Raises error 5 for
+    // names that no key can have, a type that looks like an extension, no program or one with a
+    // quotation mark.
     static void CreaAssociazione(const std::wstring& estensione, const std::wstring& tipo,
                                  const std::wstring& descrizione, const std::wstring& programma,
                                  const std::wstring& icona = {});

@@ -60,7 +60,11 @@ void assegna(IDispatch& oggetto, const wchar_t* proprieta, const std::wstring& v
 } // namespace
 
 void koUtilitaRegistro::CreaCollegamento(const std::wstring& file, const Collegamento& dati) {
-    if (koUtilita::DeterminaSoloFileName(file).empty() || dati.TargetPath.empty()) {
+    // Some systems would write a shortcut that opens nothing.
+    const auto troppoLungo = [](const std::wstring& testo) { return testo.size() >= MAX_PATH; };
+    if (koUtilita::DeterminaSoloFileName(file).empty() || dati.TargetPath.empty() ||
+        troppoLungo(dati.TargetPath) || troppoLungo(dati.WorkingDirectory) ||
+        troppoLungo(dati.IconLocation)) {
         solleva(errori::chiamataNonValida);
     }
     constexpr std::wstring_view estensione = L".lnk";

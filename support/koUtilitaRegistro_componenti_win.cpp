@@ -48,7 +48,8 @@ void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzi
     }
 }
 
-// What stands under the key of a component's class; empty when there is none.
+// What stands under the key of a component's class, the 64-bit one before the 32-bit one; empty
+// when there is none.
 std::wstring diClasse(const std::wstring& componente, const wchar_t* chiave) {
     CLSID clsid{};
     std::array<wchar_t, 39> testo{};
@@ -56,8 +57,18 @@ std::wstring diClasse(const std::wstring& componente, const wchar_t* chiave) {
         StringFromGUID2(clsid, testo.data(), static_cast<int>(testo.size())) == 0) {
         return {};
     }
-    return leggiTesto(HKEY_CLASSES_ROOT, std::wstring(L"Clsid\\") + testo.data() + chiave, L"")
-        .value_or(L"");
+    const std::wstring nome = std::wstring(L"Clsid\\") + testo.data() + chiave;
+    for (const REGSAM vista : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
+        HKEY trovata = nullptr;
+        if (RegOpenKeyExW(HKEY_CLASSES_ROOT, nome.c_str(), 0, KEY_QUERY_VALUE | vista, &trovata) ==
+            ERROR_SUCCESS) {
+            const ChiaveRegistro padrone(trovata);
+            if (auto file = leggiTesto(trovata, L"", L""); file && !file->empty()) {
+                return *file;
+            }
+        }
+    }
+    return {};
 }
 
 } // namespace

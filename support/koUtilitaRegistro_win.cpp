@@ -48,8 +48,34 @@ std::wstring fileRegistrato(const std::wstring& programma) {
     return fileDelComando(diAppPaths(programma, L""));
 }
 
-std::wstring chiaveDisinstallazione(const std::wstring& programma) {
-    return correnti + std::wstring(L"Uninstall\\") + programma;
+// Opens the key of a program in the list of installed ones: the machine's, that of 32-bit programs
+// or the user's. The first place that has it or refuses it decides.
+LSTATUS apriDisinstallazione(const std::wstring& programma, REGSAM diritti,
+                             ChiaveRegistro& chiave) {
+    const std::wstring nome = correnti + std::wstring(L"Uninstall\\") + programma;
+    struct Posto {
+        HKEY radice;
+        REGSAM vista;
+    };
+    for (const auto& posto :
+         {Posto{HKEY_LOCAL_MACHINE, KEY_WOW64_64KEY}, Posto{HKEY_LOCAL_MACHINE, KEY_WOW64_32KEY},
+          Posto{HKEY_CURRENT_USER, 0}}) {
+        HKEY trovata = nullptr;
+        const LSTATUS esito =
+            RegOpenKeyExW(posto.radice, nome.c_str(), 0, diritti | posto.vista, &trovata);
+        if (esito != ERROR_FILE_NOT_FOUND) {
+            chiave = ChiaveRegistro(trovata);
+            return esito;
+        }
+    }
+    if ((diritti & KEY_SET_VALUE) == 0) {
+        return ERROR_FILE_NOT_FOUND;
+    }
+    HKEY nuova = nullptr;
+    const LSTATUS esito = RegCreateKeyExW(HKEY_LOCAL_MACHINE, nome.c_str(), 0, nullptr, 0,
+                                          diritti | KEY_WOW64_64KEY, nullptr, &nuova, nullptr);
+    chiave = ChiaveRegistro(nuova);
+    return esito;
 }
 
 // The count of a shared file; 0 when it has none.
@@ -90,19 +116,37 @@ void conto(const std::wstring& file, DWORD numero) {
     }
 }
 
-// Where this user may write a class: those of all users, else the user's own.
-ChiaveRegistro classiScrivibili(const std::wstring& classe) {
+// Whether this user may write a class among those of all users, which makes it where it is missing;
+// `nuova` tells so.
+bool siScrive(const std::wstring& classe, bool& nuova) {
     HKEY chiave = nullptr;
-    LSTATUS esito = RegCreateKeyW(HKEY_CLASSES_ROOT, classe.c_str(), &chiave);
-    const ChiaveRegistro prova(std::exchange(chiave, nullptr));
-    esito = esito == ERROR_ACCESS_DENIED
-                ? RegCreateKeyW(HKEY_CURRENT_USER, L"Software\\Classes", &chiave)
-            : esito == ERROR_SUCCESS ? RegOpenKeyW(HKEY_CLASSES_ROOT, nullptr, &chiave)
-                                     : esito;
-    if (esito != ERROR_SUCCESS) {
+    DWORD fatta = 0;
+    // Asked for by name: with "all that is allowed" a class that can only be read would open too.
+    const LSTATUS esito = RegCreateKeyExW(HKEY_CLASSES_ROOT, classe.c_str(), 0, nullptr, 0,
+                                          KEY_WRITE, nullptr, &chiave, &fatta);
+    const ChiaveRegistro padrone(chiave);
+    if (esito != ERROR_SUCCESS && esito != ERROR_ACCESS_DENIED) {
         sollevaWin32(static_cast<DWORD>(esito));
     }
-    return ChiaveRegistro(chiave);
+    nuova = fatta == REG_CREATED_NEW_KEY;
+    return esito == ERROR_SUCCESS;
+}
+
+// Where this user may write both classes: among those of all users, else among the user's own. Not
+// one here and one there: the user's own type would open the way for an extension that has none.
+std::pair<HKEY, std::wstring> dovePerClassi(const std::wstring& tipo,
+                                            const std::wstring& estensione) {
+    bool nuovoTipo = false;
+    bool nuovaEstensione = false;
+    if (siScrive(tipo, nuovoTipo)) {
+        if (siScrive(estensione, nuovaEstensione)) {
+            return {HKEY_CLASSES_ROOT, L""};
+        }
+        if (nuovoTipo) {
+            RegDeleteKeyW(HKEY_CLASSES_ROOT, tipo.c_str());
+        }
+    }
+    return {HKEY_CURRENT_USER, L"Software\\Classes\\"};
 }
 
 } // namespace
@@ -150,15 +194,13 @@ std::uint32_t koUtilitaRegistro::DecFileShared(const std::wstring& file) {
 
 std::optional<InfoDisinstallazione>
 koUtilitaRegistro::GetInfoDisinstallazione(const std::wstring& programma) {
-    const std::wstring chiave = chiaveDisinstallazione(programma);
-    HKEY maniglia = nullptr;
-    if (!nomeDiChiave(programma) || RegOpenKeyExW(HKEY_LOCAL_MACHINE, chiave.c_str(), 0,
-                                                  KEY_QUERY_VALUE, &maniglia) != ERROR_SUCCESS) {
+    ChiaveRegistro chiave;
+    if (!nomeDiChiave(programma) ||
+        apriDisinstallazione(programma, KEY_QUERY_VALUE, chiave) != ERROR_SUCCESS) {
         return std::nullopt;
     }
-    RegCloseKey(maniglia);
     const auto testo = [&chiave](const wchar_t* valore) {
-        return leggiTesto(HKEY_LOCAL_MACHINE, chiave, valore).value_or(L"");
+        return leggiTesto(chiave.get(), L"", valore).value_or(L"");
     };
     return InfoDisinstallazione{testo(L"DisplayName"), testo(L"UninstallString")};
 }
@@ -166,9 +208,13 @@ koUtilitaRegistro::GetInfoDisinstallazione(const std::wstring& programma) {
 void koUtilitaRegistro::SetInfoDisinstallazione(const std::wstring& programma,
                                                 const InfoDisinstallazione& info) {
     verificaNome(programma);
-    const std::wstring chiave = chiaveDisinstallazione(programma);
-    scriviTesto(HKEY_LOCAL_MACHINE, chiave, L"DisplayName", info.DisplayName);
-    scriviTesto(HKEY_LOCAL_MACHINE, chiave, L"UninstallString", info.UninstallString);
+    ChiaveRegistro chiave;
+    const LSTATUS esito = apriDisinstallazione(programma, KEY_SET_VALUE, chiave);
+    if (esito != ERROR_SUCCESS) {
+        sollevaWin32(static_cast<DWORD>(esito));
+    }
+    scriviTesto(chiave.get(), L"", L"DisplayName", info.DisplayName);
+    scriviTesto(chiave.get(), L"", L"UninstallString", info.UninstallString);
 }
 
 void koUtilitaRegistro::CreaAssociazione(const std::wstring& estensione, const std::wstring& tipo,
@@ -182,9 +228,9 @@ void koUtilitaRegistro::CreaAssociazione(const std::wstring& estensione, const s
         programma.find(L'"') != std::wstring::npos) {
         solleva(errori::chiamataNonValida);
     }
-    const ChiaveRegistro classi = classiScrivibili(tipo);
-    const auto scrivi = [&classi](const std::wstring& chiave, const std::wstring& valore) {
-        scriviTesto(classi.get(), chiave, L"", valore);
+    const auto dove = dovePerClassi(tipo, conPunto);
+    const auto scrivi = [&dove](const std::wstring& chiave, const std::wstring& valore) {
+        scriviTesto(dove.first, dove.second + chiave, L"", valore);
     };
     scrivi(tipo, descrizione);
     scrivi(tipo + L"\\Shell\\Open\\Command", L'"' + programma + L"\" \"%1\"");

@@ -25,10 +25,11 @@ wchar_t koUtilitaTesti::KeyMaiuscolo(wchar_t carattere) noexcept {
 }
 
 DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
+    constexpr std::int32_t primo = -657434;  // 1 January 100
+    constexpr std::int32_t ultimo = 2958465; // 31 December 9999
+    if (numero < primo || numero > ultimo) {
+        solleva(errori::overflow);
+    }
     constexpr std::int64_t secondiDelGiorno = 86400;
     return DataOra().piuSecondi(numero * secondiDelGiorno);
-}
-
-std::wstring koUtilitaTesti::MessaggioErroreITA(std::int32_t numero) {
-    return std::wstring(testoErrore(numero));
 }

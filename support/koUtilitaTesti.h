@@ -22,13 +22,9 @@ public:
     [[nodiscard]] static wchar_t KeyMaiuscolo(wchar_t carattere) noexcept;
 
     // The date that is so many days after 30 December 1899, negative before it, as date values
-    // count. Raises error 5 outside the years 100 to 9999.
+    // count. Raises error 6 outside the years 100 to 9999, as the automation run time does.
     [[nodiscard]] static DataOra LongToDate(std::int32_t numero);
     // A date, a time or both as the user writes them, in the user's format; a time alone belongs to
     // 30 December 1899. Raises error 13 when it is none.
     [[nodiscard]] static DataOra StringaToDate(const std::wstring& testo);
-
-    // The Italian text of a run-time error, of the one table that errors are raised with; empty for
-    // a number that it lacks.
-    [[nodiscard]] static std::wstring MessaggioErroreITA(std::int32_t numero);
 };

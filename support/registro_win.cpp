@@ -7,8 +7,9 @@ std::optional<std::wstring> leggiTesto(HKEY radice, const std::wstring& chiave,
     // Another program may write between the two calls: ask again while the value grows.
     for (DWORD byte = 0;;) {
         std::wstring valore(byte / sizeof(wchar_t), L'\0');
-        const LSTATUS esito = RegGetValueW(radice, chiave.c_str(), nome.c_str(), RRF_RT_REG_SZ,
-                                           nullptr, byte == 0 ? nullptr : valore.data(), &byte);
+        const LSTATUS esito =
+            RegGetValueW(radice, chiave.empty() ? nullptr : chiave.c_str(), nome.c_str(),
+                         RRF_RT_REG_SZ, nullptr, byte == 0 ? nullptr : valore.data(), &byte);
         if (esito == ERROR_MORE_DATA || (esito == ERROR_SUCCESS && valore.empty() && byte > 0)) {
             continue;
         }
@@ -24,8 +25,8 @@ std::optional<std::wstring> leggiTesto(HKEY radice, const std::wstring& chiave,
 void scriviTesto(HKEY radice, const std::wstring& chiave, const std::wstring& nome,
                  const std::wstring& valore) {
     const LSTATUS esito =
-        RegSetKeyValueW(radice, chiave.c_str(), nome.c_str(), REG_SZ, valore.c_str(),
-                        static_cast<DWORD>((valore.size() + 1) * sizeof(wchar_t)));
+        RegSetKeyValueW(radice, chiave.empty() ? nullptr : chiave.c_str(), nome.c_str(), REG_SZ,
+                        valore.c_str(), static_cast<DWORD>((valore.size() + 1) * sizeof(wchar_t)));
     if (esito != ERROR_SUCCESS) {
         sollevaWin32(static_cast<DWORD>(esito));
     }

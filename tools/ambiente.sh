@@ -60,7 +60,22 @@ prefisso() {
     "$wineserver" -w
     touch "$WINEPREFIX/pronto"
   fi
+  [ "$1" != wine-prove ] || unita_di_rete
   "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+}
+
+# unita_di_rete: in the tests' prefix drive R: is the network folder \\server\dati, an empty folder in
+# truth. Wine learns of a drive when it starts.
+unita_di_rete() {
+  local unita="$WINEPREFIX/dosdevices"
+  if [ ! -e "$unita/r:" ]; then
+    mkdir -p "$unita/unc/server/dati"
+    "$wine64" reg add 'HKLM\Software\Wine\Drives' /v r: /d network /f >/dev/null
+    "$wineserver" -k || true
+    "$wineserver" -w
+    ln -s unc/server/dati "$unita/r:"
+  fi
+  export OSTRELLE_UNITA_RETE=R:
 }
 
 # avvia_wine: Wine's own background programs, started with nothing of ours open: one that held a
@@ -88,13 +103,18 @@ schermo() {
   rm -f "$uscita"
 }
 
-# dischi: a volume of 256 KB for the tests to fill and one that cannot be written, where this user may
-# mount them; the tests find them by their Windows paths.
+# dischi: a volume of 256 KB for the tests to fill and one that cannot be written, with a read-only
+# file "a.txt" on it, where this user may mount them; the tests find them by their Windows paths.
 dischi() {
   local pieno="$build/disco-pieno" lettura="$build/disco-lettura"
   mkdir -p "$pieno" "$lettura"
   mountpoint -q "$pieno" || mount -t tmpfs -o size=256k tmpfs "$pieno" 2>/dev/null || return 0
-  mountpoint -q "$lettura" || mount -t tmpfs -o ro tmpfs "$lettura" 2>/dev/null || return 0
+  if ! mountpoint -q "$lettura"; then
+    mount -t tmpfs tmpfs "$lettura" 2>/dev/null || return 0
+    printf testo >"$lettura/a.txt"
+    chmod 444 "$lettura/a.txt"
+    mount -o remount,ro "$lettura"
+  fi
   dischi_montati=("$pieno" "$lettura")
   pieno="Z:$pieno" lettura="Z:$lettura"
   export OSTRELLE_DISCO_PIENO="${pieno//\//\\}" OSTRELLE_SOLA_LETTURA="${lettura//\//\\}"

@@ -17,12 +17,28 @@ public:
 
     [[nodiscard]] const std::wstring& nome() const noexcept { return nome_; }
 
+    // Makes the key, to be read by everybody and written by nobody, this program included; not even
+    // read with `nemmenoLetta`. Keys below it that are made later are not meant.
+    void nega(bool nemmenoLetta = false) const;
+
     // A string value; its end is marked.
     void testo(const std::wstring& valore, const std::wstring& contenuto) const;
     // A value of any type with exactly these bytes.
     void grezzo(const std::wstring& valore, DWORD tipo, std::string_view byte) const;
 
 private:
+    void permetti(const wchar_t* descrittore) const;
+
     HKEY radice_;
     std::wstring nome_;
+    std::wstring copia_;
+};
+
+// The machine's part of the registry empty, as this program sees it, for the life of the object.
+class MacchinaVuota {
+public:
+    MacchinaVuota();
+    MacchinaVuota(const MacchinaVuota&) = delete;
+    MacchinaVuota& operator=(const MacchinaVuota&) = delete;
+    ~MacchinaVuota();
 };

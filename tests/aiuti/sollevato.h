@@ -20,3 +20,13 @@ template <class Azione>
     }
     return {};
 }
+
+// The number alone, of an action that gives nothing.
+template <class Azione>
+[[nodiscard]] std::int32_t erroreDi(Azione azione) {
+    return sollevatoDa([&azione] {
+               azione();
+               return 0;
+           })
+        .numero;
+}

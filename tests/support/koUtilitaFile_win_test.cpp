@@ -1,10 +1,8 @@
 #include "support/koUtilita.h"
 
-#include "support/ansi_win.h"
-#include "support/file_win.h"
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <windows.h>
@@ -14,15 +12,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-template <class Azione>
-std::int32_t errore(Azione azione) {
-    return sollevatoDa([&azione] {
-               azione();
-               return 0;
-           })
-        .numero;
-}
 
 ManigliaFile apri(const std::wstring& file, DWORD condivisione) {
     return ManigliaFile(CreateFileW(file.c_str(), GENERIC_READ, condivisione, nullptr,
@@ -65,11 +54,11 @@ TEST(KoUtilitaFileAperto, ESaSeQualcunoTieneIlFile) {
 
 TEST(KoUtilitaFileAperto, UnFileCheMancaEUnErrore) {
     const CartellaProva cartella;
-    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.file(L"manca")); }), 53);
-    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.file(L"manca\\a")); }), 76);
-    EXPECT_EQ(errore([&] { return koUtilita::FileAperto(cartella.percorso()); }), 75);
-    EXPECT_NE(errore([] { return koUtilita::FileAperto(L""); }), 0);
-    EXPECT_NE(errore([] { return koUtilita::FileAperto(std::wstring(1000, L'x')); }), 0);
+    EXPECT_EQ(erroreDi([&] { return koUtilita::FileAperto(cartella.file(L"manca")); }), 53);
+    EXPECT_EQ(erroreDi([&] { return koUtilita::FileAperto(cartella.file(L"manca\\a")); }), 76);
+    EXPECT_EQ(erroreDi([&] { return koUtilita::FileAperto(cartella.percorso()); }), 75);
+    EXPECT_NE(erroreDi([] { return koUtilita::FileAperto(L""); }), 0);
+    EXPECT_NE(erroreDi([] { return koUtilita::FileAperto(std::wstring(1000, L'x')); }), 0);
 }
 
 TEST(KoUtilitaReadOnly, ToglieSoloQuellAttributo) {
@@ -83,11 +72,29 @@ TEST(KoUtilitaReadOnly, ToglieSoloQuellAttributo) {
     EXPECT_EQ(GetFileAttributesW(file.c_str()), altri);
 }
 
+TEST(KoUtilitaReadOnly, UnFileSoloDiLetturaDivieneNormale) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.txt", "x");
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
+    koUtilita::EliminaReadOnly(file);
+    EXPECT_EQ(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+}
+
+TEST(KoUtilitaReadOnly, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    const std::wstring file = *disco + L"\\a.txt";
+    ASSERT_NE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+    EXPECT_EQ(erroreDi([&] { koUtilita::EliminaReadOnly(file); }), 75);
+}
+
 TEST(KoUtilitaReadOnly, UnFileCheMancaEUnErrore) {
     const CartellaProva cartella;
-    EXPECT_EQ(errore([&] { koUtilita::EliminaReadOnly(cartella.file(L"manca")); }), 53);
-    EXPECT_NE(errore([] { koUtilita::EliminaReadOnly(L""); }), 0);
-    EXPECT_NE(errore([] { koUtilita::EliminaReadOnly(std::wstring(1000, L'x')); }), 0);
+    EXPECT_EQ(erroreDi([&] { koUtilita::EliminaReadOnly(cartella.file(L"manca")); }), 53);
+    EXPECT_NE(erroreDi([] { koUtilita::EliminaReadOnly(L""); }), 0);
+    EXPECT_NE(erroreDi([] { koUtilita::EliminaReadOnly(std::wstring(1000, L'x')); }), 0);
 }
 
 TEST(KoUtilitaDecomprimi, EspandeUnFileCompresso) {
@@ -114,82 +121,63 @@ TEST(KoUtilitaDecomprimi, UnFileNonCompressoSiCopia) {
 TEST(KoUtilitaDecomprimi, UnFileTroncatoNonToccaLaDestinazione) {
     const CartellaProva cartella;
     const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
-    for (std::size_t quanto = 14; quanto < compresso().size(); ++quanto) {
+    for (std::size_t quanto = 9; quanto < compresso().size(); ++quanto) {
         const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso().substr(0, quanto));
-        EXPECT_EQ(errore([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57) << quanto;
+        EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57) << quanto;
     }
     EXPECT_EQ(leggiTutto(destinazione), "prima");
     EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, UnFileGuastoNonToccaLaDestinazione) {
+    const CartellaProva cartella;
+    const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
+    std::string lungo = compresso();
+    lungo.replace(10, 4, "\xFF\xFF\xFF\x7F");
+    std::string corto = compresso();
+    corto[10] = 3;
+    for (const std::string& contenuto : {lungo, corto}) {
+        const std::wstring sorgente = cartella.scrivi(L"a.tx_", contenuto);
+        EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, destinazione); }), 57);
+    }
+    EXPECT_EQ(leggiTutto(destinazione), "prima");
+    EXPECT_EQ(quantiFile(cartella), 2U);
+}
+
+TEST(KoUtilitaDecomprimi, SuSeStessoEUnErrore) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.tx_", compresso());
+    EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(file, file); }), 75);
+    EXPECT_EQ(leggiTutto(file), compresso());
+    EXPECT_EQ(quantiFile(cartella), 1U);
+}
+
+TEST(KoUtilitaDecomprimi, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    const CartellaProva cartella;
+    const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
+    for (const wchar_t* nome : {L"\\b.txt", L"\\a.txt"}) {
+        EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, *disco + nome); }), 75);
+    }
+    EXPECT_EQ(leggiTutto(*disco + L"\\a.txt"), "testo");
+    // A folder stands in the way.
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, cartella.percorso()); }), 0);
+    EXPECT_EQ(quantiFile(cartella), 1U);
 }
 
 TEST(KoUtilitaDecomprimi, SenzaSorgenteOCartellaEUnErrore) {
     const CartellaProva cartella;
     const std::wstring destinazione = cartella.scrivi(L"b.txt", "prima");
     const std::wstring sorgente = cartella.scrivi(L"a.tx_", compresso());
-    EXPECT_EQ(errore([&] { koUtilita::Decomprimi(cartella.file(L"manca"), destinazione); }), 53);
-    EXPECT_NE(errore([&] { koUtilita::Decomprimi(L"", destinazione); }), 0);
-    EXPECT_NE(errore([&] { koUtilita::Decomprimi(sorgente, cartella.file(L"manca\\b")); }), 0);
-    EXPECT_EQ(errore([&] { koUtilita::Decomprimi(sorgente, L""); }), 5);
-    EXPECT_NE(errore([&] { koUtilita::Decomprimi(sorgente, std::wstring(1000, L'x')); }), 0);
+    EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(cartella.file(L"manca"), destinazione); }), 53);
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(L"", destinazione); }), 0);
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(std::wstring(1000, L'x'), destinazione); }), 0);
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, cartella.file(L"manca\\b")); }), 0);
+    EXPECT_EQ(erroreDi([&] { koUtilita::Decomprimi(sorgente, L""); }), 5);
+    EXPECT_NE(erroreDi([&] { koUtilita::Decomprimi(sorgente, std::wstring(1000, L'x')); }), 0);
     EXPECT_EQ(leggiTutto(destinazione), "prima");
     EXPECT_EQ(quantiFile(cartella), 2U);
-}
-
-TEST(KoUtilitaWriteAccess, UnaCartellaScrivibileResta) {
-    const CartellaProva cartella;
-    MessaggiFinti messaggi;
-    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
-    EXPECT_EQ(quantiFile(cartella), 0U);
-}
-
-TEST(KoUtilitaWriteAccess, IlFileDellUtenteConQuelNomeResta) {
-    const CartellaProva cartella;
-    const std::wstring file = cartella.scrivi(L"120asd12.tmp", "mio");
-    MessaggiFinti messaggi;
-    EXPECT_TRUE(koUtilita(messaggi).WriteAccess(cartella.percorso() + L"\\"));
-    EXPECT_EQ(leggiTutto(file), "mio");
-    // It cannot be written: nothing says that the folder can.
-    {
-        const auto tenuto = apri(file, FILE_SHARE_READ);
-        ASSERT_TRUE(tenuto);
-        messaggi.attendi(L"Autorizzazione negata", L"Errore # 70", Icona::Critica);
-        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
-    }
-    EXPECT_EQ(leggiTutto(file), "mio");
-}
-
-TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
-    const CartellaProva cartella;
-    for (const std::wstring& quale :
-         {cartella.file(L"manca"), std::wstring(), std::wstring(L" ")}) {
-        MessaggiFinti messaggi;
-        messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
-        EXPECT_FALSE(koUtilita(messaggi).WriteAccess(quale));
-    }
-}
-
-TEST(KoUtilitaPrintErroreEx, DiceNumeroLuogoEDescrizione) {
-    MessaggiFinti messaggi;
-    messaggi.attendi(L"Errore 13: Tipo non corrispondente", L"Errore 13", Icona::Critica);
-    messaggi.attendi(L"Errore 13 in Leggi: Tipo non corrispondente", L"Errore 13", Icona::Critica);
-    messaggi.attendi(L"Errore 52: Impossibile leggere l'unità specificata.", L"Errore 52",
-                     Icona::Critica);
-    messaggi.attendi(L"Errore 440: Errore di automazione", L"Errore 440", Icona::Critica);
-    const koUtilita utilita(messaggi);
-    try {
-        solleva(errori::tipoNonCorrispondente);
-    } catch (...) {
-        utilita.PrintErroreEx();
-        utilita.PrintErroreEx(L"Leggi");
-    }
-    try {
-        solleva(errori::nomeFileNonValido);
-    } catch (...) {
-        utilita.PrintErroreEx();
-    }
-    try {
-        throw std::runtime_error("x");
-    } catch (...) {
-        utilita.PrintErroreEx();
-    }
 }

@@ -7,6 +7,9 @@
 
 #include <windows.h>
 
+#include <objbase.h>
+
+#include <thread>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -57,15 +60,6 @@ COLORREF colore(HWND hWnd, int x, int y) {
     const COLORREF c = GetPixel(dc, x, y);
     ReleaseDC(hWnd, dc);
     return c;
-}
-
-template <class Azione>
-std::int32_t errore(Azione azione) {
-    return sollevatoDa([&azione] {
-               azione();
-               return 0;
-           })
-        .numero;
 }
 
 HWND nessuna() {
@@ -163,7 +157,7 @@ TEST(KoUtilitaFinestre, LoSfondoSfumaDalPrimoPassoAlSecondo) {
 
 TEST(KoUtilitaFinestre, UnColoreCheNonEsisteSiRifiuta) {
     const FinestraProva form(L"form");
-    EXPECT_EQ(errore([&] { koUtilita::SfumaForm(form.get(), 0x80FF00FFU, 0, 0); }), 380);
+    EXPECT_EQ(erroreDi([&] { koUtilita::SfumaForm(form.get(), 0x80FF00FFU, 0, 0); }), 380);
 }
 
 TEST(KoUtilitaFinestre, EvidenziaSceglieTuttoIlTesto) {
@@ -181,12 +175,12 @@ TEST(KoUtilitaFinestre, EvidenziaSceglieTuttoIlTesto) {
 TEST(KoUtilitaFinestre, UnaFinestraCheNonCeEUnErrore) {
     const FinestraProva viva(L"viva");
     for (const HWND finestra : {HWND{nullptr}, nessuna()}) {
-        EXPECT_EQ(errore([&] { koUtilita::CentraForm(finestra); }), 5);
-        EXPECT_EQ(errore([&] { koUtilita::CentraFormFiglio(finestra, viva.get()); }), 5);
-        EXPECT_EQ(errore([&] { koUtilita::CentraFormFiglio(viva.get(), finestra); }), 5);
-        EXPECT_EQ(errore([&] { koUtilita::FinetraTopMost(finestra, true); }), 5);
-        EXPECT_EQ(errore([&] { koUtilita::SfumaForm(finestra, 0, 0, 0); }), 5);
-        EXPECT_EQ(errore([&] { koUtilita::Evidenzia(finestra); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::CentraForm(finestra); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::CentraFormFiglio(finestra, viva.get()); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::CentraFormFiglio(viva.get(), finestra); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::FinetraTopMost(finestra, true); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::SfumaForm(finestra, 0, 0, 0); }), 5);
+        EXPECT_EQ(erroreDi([&] { koUtilita::Evidenzia(finestra); }), 5);
     }
 }
 
@@ -217,4 +211,15 @@ TEST(KoUtilitaSfoglia, AnnullareNonDaCartella) {
     const QuandoAppare quando(L"#32770", L"",
                               [](HWND dialogo) { PostMessageW(dialogo, WM_COMMAND, IDCANCEL, 0); });
     EXPECT_EQ(koUtilita::Sfoglia_Cartella(nullptr, std::wstring(1000, L'x')), L"");
+}
+
+TEST(KoUtilitaSfoglia, InUnFiloSenzaFinestreEUnErrore) {
+    std::int32_t codice = 0;
+    std::thread([&codice] {
+        if (CoInitializeEx(nullptr, COINIT_MULTITHREADED) == S_OK) {
+            codice = sollevatoDa([] { return koUtilita::Sfoglia_Cartella(nullptr, L""); }).numero;
+            CoUninitialize();
+        }
+    }).join();
+    EXPECT_EQ(codice, static_cast<std::int32_t>(RPC_E_CHANGED_MODE));
 }

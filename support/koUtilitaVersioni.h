@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,8 +16,8 @@ struct VersioneSO {
 // its build number sets right); where that is empty, "Windows" and the version.
 [[nodiscard]] std::wstring nomeSistema(const VersioneSO& versione, std::wstring_view prodotto);
 
-// The system, versions and processes, part of koUtilita.
-class koUtilitaSistema {
+// Versions of the system and of files, part of koUtilita.
+class koUtilitaVersioni {
 public:
     // The Windows that really runs, whatever a manifest or a compatibility setting makes the
     // documented version calls say.
@@ -33,16 +32,4 @@ public:
     // length; what is missing or no number counts as 0.
     [[nodiscard]] static int ConfrontaVersione(std::wstring_view VersioneA,
                                                std::wstring_view VersioneB) noexcept;
-
-    // Waits while the windows of this thread go on living; the end of the program ends the wait.
-    static void WaitSecondi(std::uint32_t secondi);
-    // Waits while nothing happens in this thread.
-    static void Sleep(std::uint32_t millisecondi) noexcept;
-
-    // Runs a command line (a program with blanks in its path in quotation marks) and gives its exit
-    // code; nothing when it still runs after that time, and it runs on. Raises error 5 for an empty
-    // command, else the run-time error of the failed start.
-    static constexpr std::uint32_t senzaLimite = 0xFFFFFFFF;
-    static std::optional<std::uint32_t> ShellSospensiva(const std::wstring& comando,
-                                                        std::uint32_t millisecondi = senzaLimite);
 };

@@ -4,6 +4,7 @@
 #include "support/dataora.h"
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <windows.h>
@@ -14,12 +15,8 @@
 
 namespace {
 
-std::int32_t erroreLog(const std::wstring& file) {
-    return sollevatoDa([&file] {
-               koUtilita::ScriviLog(file, L"x");
-               return 0;
-           })
-        .numero;
+std::int32_t erroreLog(const std::wstring& file, const std::wstring& testo = L"x") {
+    return erroreDi([&] { koUtilita::ScriviLog(file, testo); });
 }
 
 } // namespace
@@ -67,4 +64,41 @@ TEST(KoUtilitaLog, UnLogCheNonSiApreEUnErrore) {
         EXPECT_EQ(erroreLog(file), 70);
     }
     EXPECT_EQ(leggiTutto(file), "prima");
+}
+
+TEST(KoUtilitaLog, PiuProgrammiScrivonoLoStessoLog) {
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.log", "prima\r\n");
+    const ManigliaFile altro(CreateFileW(file.c_str(), FILE_APPEND_DATA,
+                                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(altro);
+    koUtilita::ScriviLog(file, L"nostra");
+    DWORD scritti = 0;
+    ASSERT_TRUE(WriteFile(altro.get(), "altra\r\n", 7, &scritti, nullptr));
+    koUtilita::ScriviLog(file, std::wstring(1000, L'y'));
+    const std::regex forma("prima\r\n\\S+ \\S+ nostra\r\naltra\r\n\\S+ \\S+ y{1000}\r\n");
+    EXPECT_TRUE(std::regex_match(leggiTutto(file), forma)) << leggiTutto(file);
+}
+
+TEST(KoUtilitaLog, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    EXPECT_EQ(erroreLog(*disco + L"\\b.log"), 75);
+    EXPECT_EQ(erroreLog(*disco + L"\\a.txt"), 75);
+    EXPECT_EQ(leggiTutto(*disco + L"\\a.txt"), "testo");
+}
+
+TEST(KoUtilitaLog, SuUnDiscoPienoEUnErrore) {
+    const auto disco = discoPiccolo();
+    if (!disco) {
+        GTEST_SKIP() << "no small volume";
+    }
+    const std::wstring file = *disco + L"\\a.log";
+    EXPECT_EQ(erroreLog(file, L"prima"), 0);
+    EXPECT_EQ(erroreLog(file, std::wstring(1000000, L'x')), 61);
+    EXPECT_NE(leggiTutto(file).find(" prima\r\n"), std::string::npos);
+    DeleteFileW(file.c_str());
 }

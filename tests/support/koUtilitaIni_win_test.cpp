@@ -4,6 +4,7 @@
 #include "support/file_win.h"
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <windows.h>
@@ -19,11 +20,7 @@ std::wstring leggi(const std::wstring& file, const std::wstring& sezione = L"S",
 
 std::int32_t erroreScrivi(const std::wstring& file, const std::wstring& sezione = L"S",
                           const std::wstring& chiave = L"k", const std::wstring& valore = L"v") {
-    return sollevatoDa([&] {
-               koUtilita::ScriviINI(file, sezione, chiave, valore);
-               return 0;
-           })
-        .numero;
+    return erroreDi([&] { koUtilita::ScriviINI(file, sezione, chiave, valore); });
 }
 
 std::string utf16(std::wstring_view testo) {
@@ -38,14 +35,19 @@ TEST(KoUtilitaIni, UnValoreScrittoSiRilegge) {
     const std::wstring file = cartella.file(L"Ωmega.ini");
     for (const std::wstring& valore :
          {std::wstring(L"uno"), std::wstring(L""), std::wstring(L"  spazi  "),
-          std::wstring(L"\"virgolette\""), std::wstring(L"'apici'"), std::wstring(L"a=b;c]"),
-          std::wstring(L"perché €"), std::wstring(1000, L'x'), std::wstring(70000 / 4, L'y')}) {
+          std::wstring(L"\"virgolette\""), std::wstring(L"\""), std::wstring(L"\"a' "),
+          std::wstring(L"'apici'"), std::wstring(L"a=b;c]"), std::wstring(L"perché €"),
+          std::wstring(1000, L'x'), std::wstring(70000 / 4, L'y')}) {
         koUtilita::ScriviINI(file, L"Sezione", L"chiave", valore);
         EXPECT_EQ(leggi(file, L"sezione", L"CHIAVE"), valore);
     }
     koUtilita::ScriviINI(file, L"Altra", L"chiave", L"due");
     EXPECT_EQ(leggi(file, L"Altra", L"chiave"), L"due");
     EXPECT_EQ(leggi(file, L"Sezione", L"chiave").size(), 17500U);
+    const std::wstring lungo(1000, L'n');
+    koUtilita::ScriviINI(file, lungo, lungo, lungo);
+    EXPECT_EQ(leggi(file, lungo, lungo), lungo);
+    EXPECT_EQ(leggi(file, L"Altra", L"chiave"), L"due");
 }
 
 TEST(KoUtilitaIni, CioCheMancaValeIlPredefinito) {
@@ -81,11 +83,13 @@ TEST(KoUtilitaIni, ScrivereUnaChiaveLasciaLeAltre) {
 
 TEST(KoUtilitaIni, LeSezioniRotteNonGuastanoLeAltre) {
     const CartellaProva cartella;
-    const std::wstring file = cartella.scrivi(
-        L"a.ini",
-        "fuori=0\r\n[rotta\r\nx=1\r\n]\r\n[]\r\n=niente\r\nsenza uguale\r\n[S]\r\nk=v\r\n");
+    const std::wstring file =
+        cartella.scrivi(L"a.ini", "fuori=0\r\n[rotta\r\nx=1\r\n]\r\n[]\r\nk=0\r\n=niente\r\nsenza "
+                                  "uguale\r\n[S]\r\nk=v\r\n=niente\r\n");
     EXPECT_EQ(leggi(file), L"v");
     EXPECT_EQ(leggi(file, L"nessuna", L"x"), L"<manca>");
+    EXPECT_EQ(leggi(file, L"", L"k"), L"<manca>");
+    EXPECT_EQ(leggi(file, L"S", L""), L"<manca>");
     koUtilita::ScriviINI(file, L"S", L"k", L"w");
     const std::string tutto = leggiTutto(file);
     EXPECT_EQ(leggi(file), L"w");
@@ -112,6 +116,34 @@ TEST(KoUtilitaIni, IlSegnoDiUtf8NonGuastaIlFile) {
     EXPECT_EQ(leggi(file), L"w");
     const std::string tutto = leggiTutto(file);
     EXPECT_TRUE(tutto.starts_with("\xEF\xBB\xBF[P]\r\na=1\r\n")) << tutto;
+    // The section that the mark stands before: whatever the system takes it for, it is read again.
+    koUtilita::ScriviINI(file, L"P", L"a", L"però");
+    EXPECT_EQ(leggi(file, L"P", L"a"), L"però");
+    EXPECT_EQ(leggi(file), L"w");
+}
+
+TEST(KoUtilitaIni, UnFileUtf16RovescioNonSiTocca) {
+    const CartellaProva cartella;
+    std::wstring testo = L"[S]\r\nk=v\r\n";
+    for (wchar_t& c : testo) {
+        c = static_cast<wchar_t>(c << 8 | c >> 8);
+    }
+    std::string contenuto = utf16(testo);
+    contenuto.replace(0, 2, "\xFE\xFF");
+    const std::wstring file = cartella.scrivi(L"a.ini", contenuto);
+    EXPECT_EQ(erroreScrivi(file), 5);
+    EXPECT_EQ(erroreScrivi(file, L"S", L"k", L"Ω"), 5);
+    EXPECT_EQ(leggiTutto(file), contenuto);
+}
+
+TEST(KoUtilitaIni, UnFileVuotoODiUnByteSiScrive) {
+    const CartellaProva cartella;
+    for (const char* contenuto : {"", "\xFF", "\n"}) {
+        const std::wstring file = cartella.scrivi(L"a.ini", contenuto);
+        EXPECT_EQ(leggi(file), L"<manca>");
+        koUtilita::ScriviINI(file, L"S", L"k", L"v");
+        EXPECT_EQ(leggi(file), L"v");
+    }
 }
 
 TEST(KoUtilitaIni, LeRigheDiSoloCrSiLeggonoESiConservano) {
@@ -156,4 +188,17 @@ TEST(KoUtilitaIni, UnFileCheNonSiScriveEUnErrore) {
         EXPECT_EQ(erroreScrivi(file), 70);
     }
     EXPECT_EQ(leggiTutto(file), contenuto);
+}
+
+TEST(KoUtilitaIni, DoveNonSiScriveEUnErrore) {
+    const auto disco = discoDiSolaLettura();
+    if (!disco) {
+        GTEST_SKIP() << "no volume that cannot be written";
+    }
+    EXPECT_EQ(erroreScrivi(*disco + L"\\b.ini"), 75);
+    EXPECT_EQ(erroreScrivi(*disco + L"\\a.txt"), 75);
+    EXPECT_EQ(leggi(*disco + L"\\a.txt"), L"<manca>");
+    EXPECT_EQ(leggiTutto(*disco + L"\\a.txt"), "testo");
+    const CartellaProva cartella;
+    EXPECT_NE(erroreScrivi(cartella.percorso()), 0);
 }

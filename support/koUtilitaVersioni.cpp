@@ -1,4 +1,4 @@
-#include "support/koUtilitaSistema.h"
+#include "support/koUtilitaVersioni.h"
 
 #include <algorithm>
 
@@ -49,8 +49,8 @@ std::wstring nomeSistema(const VersioneSO& versione, std::wstring_view prodotto)
     return std::wstring(prodotto);
 }
 
-int koUtilitaSistema::ConfrontaVersione(std::wstring_view VersioneA,
-                                        std::wstring_view VersioneB) noexcept {
+int koUtilitaVersioni::ConfrontaVersione(std::wstring_view VersioneA,
+                                         std::wstring_view VersioneB) noexcept {
     while (!VersioneA.empty() || !VersioneB.empty()) {
         const auto a = primoNumero(VersioneA);
         const auto b = primoNumero(VersioneB);

@@ -1,4 +1,4 @@
-#include "support/koUtilitaFile.h"
+#include "support/koUtilitaIni.h"
 
 #include "support/ansi_win.h"
 #include "support/errori_win.h"
@@ -27,14 +27,21 @@ bool nomeValido(std::wstring_view nome, std::wstring_view vietati) {
            !contiene(nome, L"\r\n\t\0"sv) && !contiene(nome, vietati);
 }
 
-bool eUtf16(const std::wstring& percorso) noexcept {
+enum class Codifica { ansi, utf16, utf16Rovescia };
+
+// By the mark at the beginning of the file; a file that is not there will be in the ANSI code page.
+Codifica codificaDi(const std::wstring& percorso) noexcept {
     const ManigliaFile file(CreateFileW(percorso.c_str(), GENERIC_READ,
                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                         nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     std::array<unsigned char, 2> inizio{};
     DWORD letti = 0;
-    return file && ReadFile(file.get(), inizio.data(), 2, &letti, nullptr) && letti == 2 &&
-           inizio[0] == 0xFF && inizio[1] == 0xFE;
+    if (!file || !ReadFile(file.get(), inizio.data(), 2, &letti, nullptr) || letti < 2) {
+        return Codifica::ansi;
+    }
+    return inizio[0] == 0xFF && inizio[1] == 0xFE   ? Codifica::utf16
+           : inizio[0] == 0xFE && inizio[1] == 0xFF ? Codifica::utf16Rovescia
+                                                    : Codifica::ansi;
 }
 
 // The profile calls know no longer paths; some systems take another file for one.
@@ -56,10 +63,9 @@ std::wstring protetto(const std::wstring& valore) {
 
 } // namespace
 
-std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
-                                     const std::wstring& chiave,
-                                     const std::wstring& DefaultValore) {
-    // Nothing where Windows would list names instead.
+std::wstring koUtilitaIni::LeggiINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                                    const std::wstring& chiave, const std::wstring& DefaultValore) {
+    // A broken line or section may bear the empty name.
     if (fileINI.empty() || Sezione.empty() || chiave.empty()) {
         return DefaultValore;
     }
@@ -80,12 +86,15 @@ std::wstring koUtilitaFile::LeggiINI(const std::wstring& fileINI, const std::wst
     }
 }
 
-void koUtilitaFile::ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
-                              const std::wstring& chiave, const std::wstring& Valore) {
+void koUtilitaIni::ScriviINI(const std::wstring& fileINI, const std::wstring& Sezione,
+                             const std::wstring& chiave, const std::wstring& Valore) {
     const std::wstring percorso = percorsoCompleto(fileINI);
     const std::wstring tutto = Sezione + chiave + Valore;
+    const Codifica codifica = codificaDi(percorso);
+    // Windows knows one order of UTF-16's bytes only: it would write others into the file.
     if (!nomeValido(Sezione, L"]") || !nomeValido(chiave, L"=") || contiene(Valore, L"\r\n\0"sv) ||
-        (daAnsi(inAnsi(tutto)) != tutto && !eUtf16(percorso))) {
+        codifica == Codifica::utf16Rovescia ||
+        (codifica == Codifica::ansi && daAnsi(inAnsi(tutto)) != tutto)) {
         solleva(errori::chiamataNonValida);
     }
     if (troppoLungo(percorso)) {
