@@ -123,6 +123,34 @@ TEST_F(frmAboutAperta, MostraITestiDelProdotto) {
     EXPECT_EQ(testo(IDC_CMDSYSINFO), L"&System Info...");
 }
 
+TEST_F(frmAboutAperta, IlTitoloSpicca) {
+    const auto carattere = [this](int id) {
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HGDIOBJ>(SendMessageW(controllo(id), WM_GETFONT, 0, 0)),
+                   sizeof(font), &font);
+        return font;
+    };
+    EXPECT_EQ(carattere(IDC_LBLTITLE).lfWeight, FW_BOLD);
+    EXPECT_EQ(carattere(IDC_LBLTITLE).lfHeight, MulDiv(carattere(IDC_LBLAUTORE).lfHeight, 3, 2));
+}
+
+TEST_F(frmAboutAperta, SulCollegamentoSiVedeIlFuoco) {
+    const auto bordo = [this] {
+        pompa();
+        auto visti = colori(IDC_LBLSITO);
+        const RECT r = posto(IDC_LBLSITO);
+        visti.resize(static_cast<std::size_t>(r.right - r.left));
+        return visti;
+    };
+    // As if the keyboard had been used already: else the mouse hides the focus.
+    SendMessageW(about.hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    const auto prima = bordo();
+    SetFocus(controllo(IDC_LBLSITO));
+    EXPECT_NE(bordo(), prima);
+    SetFocus(controllo(IDOK));
+    EXPECT_EQ(bordo(), prima);
+}
+
 TEST_F(frmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
     const RECT riquadro = posto(IDC_FRAME1);
     for (const int id :
