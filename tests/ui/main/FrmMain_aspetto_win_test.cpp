@@ -22,8 +22,9 @@ TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
         });
         SendMessageW(finestra.hwnd(), WM_SYSCOLORCHANGE, 0, 0);
     }
-    for (const HWND controllo : {lista, GetDlgItem(finestra.hwnd(), IDC_STATUSBAR),
-                                 GetDlgItem(finestra.hwnd(), IDC_TOOLBAR)}) {
+    for (const HWND controllo :
+         {lista, GetDlgItem(finestra.hwnd(), IDC_STATUSBAR),
+          GetDlgItem(finestra.hwnd(), IDC_TOOLBAR), campo(IDC_TXTDATA), campo(IDC_TXTORARIO)}) {
         EXPECT_EQ(avvisati[controllo], 1);
     }
     EXPECT_NE(SendMessageW(lista, WM_GETFONT, 0, 0), prima);
