@@ -17,7 +17,7 @@ public:
     MessaggiFinti& operator=(const MessaggiFinti&) = delete;
     ~MessaggiFinti() override {
         for (const auto& a : attesi_) {
-            ADD_FAILURE() << "message never shown: " << testing::PrintToString(a.testo());
+            ADD_FAILURE() << "message never shown: " << testing::PrintToString(a.testo);
         }
     }
 
@@ -25,14 +25,24 @@ public:
     void attendi(std::wstring testo, std::wstring titolo, Icona icona,
                  Pulsanti pulsanti = Pulsanti::Ok, Risposta risposta = Risposta::Ok,
                  std::function<void()> intanto = {}) {
-        attesi_.push_back({[testo = std::move(testo)] { return testo; }, std::move(titolo), icona,
-                           pulsanti, risposta, std::move(intanto)});
+        attesi_.push_back({std::move(testo),
+                           {},
+                           std::move(titolo),
+                           icona,
+                           pulsanti,
+                           risposta,
+                           std::move(intanto)});
     }
 
     // The same for a text that is known only when the box is up.
     void attendiCome(std::function<std::wstring()> testo, std::wstring titolo, Icona icona) {
-        attesi_.push_back(
-            {std::move(testo), std::move(titolo), icona, Pulsanti::Ok, Risposta::Ok, {}});
+        attesi_.push_back({L"titled " + titolo,
+                           std::move(testo),
+                           std::move(titolo),
+                           icona,
+                           Pulsanti::Ok,
+                           Risposta::Ok,
+                           {}});
     }
 
     Risposta mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
@@ -44,7 +54,7 @@ public:
         }
         const Atteso a = attesi_.front();
         attesi_.pop_front();
-        EXPECT_EQ(testo, a.testo());
+        EXPECT_EQ(testo, a.testoAllora ? a.testoAllora() : a.testo);
         EXPECT_EQ(titolo, a.titolo);
         EXPECT_EQ(icona, a.icona);
         EXPECT_EQ(pulsanti, a.pulsanti);
@@ -56,7 +66,8 @@ public:
 
 private:
     struct Atteso {
-        std::function<std::wstring()> testo;
+        std::wstring testo;
+        std::function<std::wstring()> testoAllora;
         std::wstring titolo;
         Icona icona;
         Pulsanti pulsanti;
