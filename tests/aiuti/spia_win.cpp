@@ -20,9 +20,9 @@ LRESULT CALLBACK procedura(int codice, WPARAM w, LPARAM l) {
 
 } // namespace
 
-Spia::Spia(std::function<void(const CWPSTRUCT&)> guarda) : gancio_(nullptr) {
+Spia::Spia(std::function<void(const CWPSTRUCT&)> guarda)
+    : gancio_(SetWindowsHookExW(WH_CALLWNDPROC, procedura, nullptr, GetCurrentThreadId())) {
     chiGuarda() = std::move(guarda);
-    gancio_ = SetWindowsHookExW(WH_CALLWNDPROC, procedura, nullptr, GetCurrentThreadId());
     EXPECT_NE(gancio_, nullptr);
 }
 

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <exception>
 
 namespace {
 
@@ -156,7 +157,10 @@ INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmAbout::eccezione() noexcept {
-    koUtilita(messaggi_).PrintErrore();
+    try {
+        koUtilita(messaggi_).PrintErrore();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
+    }
 }
 
 bool frmAbout::comando(WORD id, WORD notifica) {
