@@ -1,9 +1,8 @@
 // What the program itself takes, driven through its main window on the screen:
 //   bench_ostrelle apri FILE             until the grid has painted the items
 //   bench_ostrelle salva FILE            the open feed onto its own file
-//   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move, each
-//   until
-//                                        the window is painted, at the size of that feed
+//   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move at the
+//                                        size of that feed, each until the window is painted
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"

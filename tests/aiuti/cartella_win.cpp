@@ -17,6 +17,8 @@ CartellaProva::CartellaProva() {
     const auto base = std::filesystem::temp_directory_path();
     const auto cartella =
         base / (L"prova" + std::to_wstring(GetCurrentProcessId()) + L"_" + std::to_wstring(numero));
+    // A process of the same number that was killed may have left one.
+    std::filesystem::remove_all(cartella);
     std::filesystem::create_directories(cartella);
     percorso_ = cartella.wstring();
 }

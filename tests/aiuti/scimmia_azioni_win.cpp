@@ -10,6 +10,21 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// The window whose inside is at a point of the screen; none where a press would start a loop of the
+// system's own, which no other message ends: on a frame, a scroll bar, the status bar's size grip.
+HWND internoA(POINT schermo) {
+    const HWND sotto = WindowFromPoint(schermo);
+    if (sotto == nullptr || GetDlgCtrlID(sotto) == IDC_STATUSBAR ||
+        SendMessageW(sotto, WM_NCHITTEST, 0, MAKELPARAM(schermo.x, schermo.y)) != HTCLIENT) {
+        return nullptr;
+    }
+    return sotto;
+}
+
+} // namespace
+
 void Scimmia::sposta(int da, int a) {
     if (da < 0 || a < 0 || da == a || std::max(da, a) >= static_cast<int>(modello_.size())) {
         return;
@@ -77,15 +92,12 @@ std::optional<Scimmia::Posto> Scimmia::postoCaso() {
     if (r.right < 1 || r.bottom < 1) {
         return std::nullopt;
     }
-    POINT punto{caso(r.right), caso(r.bottom)};
-    POINT schermo = punto;
+    POINT schermo{caso(r.right), caso(r.bottom)};
     ClientToScreen(figlio, &schermo);
-    const HWND sotto = WindowFromPoint(schermo);
-    // The toolbar has its own step, for it sends mail; the status bar has the size grip, and a
-    // press on what is not the inside of a window starts a loop of the system's.
+    const HWND sotto = internoA(schermo);
+    // The toolbar has its own step, for it sends mail.
     if (sotto == nullptr || IsChild(finestra_.hwnd(), sotto) == FALSE ||
-        GetDlgCtrlID(sotto) == IDC_TOOLBAR || GetDlgCtrlID(sotto) == IDC_STATUSBAR ||
-        SendMessageW(sotto, WM_NCHITTEST, 0, MAKELPARAM(schermo.x, schermo.y)) != HTCLIENT) {
+        GetDlgCtrlID(sotto) == IDC_TOOLBAR) {
         return std::nullopt;
     }
     ScreenToClient(sotto, &schermo);
@@ -114,20 +126,32 @@ void Scimmia::trascinaInUnCampo() {
     trascina(posto->finestra, posto->punto, {posto->punto.x + caso(200) - 100, posto->punto.y}, 3);
 }
 
-POINT Scimmia::puntoGriglia() {
+std::optional<POINT> Scimmia::puntoGriglia() {
+    const HWND lista = finestra_.griglia().lista();
     RECT r{};
-    GetClientRect(finestra_.griglia().lista(), &r);
-    return {caso(std::max(1L, r.right)), caso(std::max(1L, r.bottom))};
+    GetClientRect(lista, &r);
+    if (r.right < 1 || r.bottom < 1) {
+        return std::nullopt;
+    }
+    const POINT punto{caso(r.right), caso(r.bottom)};
+    POINT schermo = punto;
+    ClientToScreen(lista, &schermo);
+    const HWND sotto = internoA(schermo);
+    return sotto == lista || IsChild(lista, sotto) != FALSE ? std::optional(punto) : std::nullopt;
 }
 
 void Scimmia::trascinaInGriglia() {
     fatto_ = "drag in the grid";
     const HWND lista = finestra_.griglia().lista();
+    const auto inizio = puntoGriglia();
+    if (!inizio) {
+        return;
+    }
     // Between the pages of a pair of clicks a double click would open the editor.
     clic(finestra_.campi().hwnd(), {1, 1});
-    premiMouse(lista, puntoGriglia());
+    premiMouse(lista, *inizio);
     for (int i = caso(6); i > 0; --i) {
-        muoviMouse(lista, puntoGriglia());
+        muoviMouse(lista, puntoGriglia().value_or(*inizio));
     }
     if (caso(6) == 0) {
         constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
@@ -143,11 +167,11 @@ void Scimmia::menuGriglia() {
     fatto_ = "menu of the grid";
     SetFocus(finestra_.griglia().lista());
     voceMenu_ = caso(4) - 1;
-    if (caso(2) == 0) {
+    const auto punto = puntoGriglia();
+    if (!punto || caso(2) == 0) {
         premi(VK_APPS);
     } else {
-        const POINT punto = puntoGriglia();
-        const LPARAM dove = MAKELPARAM(punto.x, punto.y);
+        const LPARAM dove = MAKELPARAM(punto->x, punto->y);
         PostMessageW(finestra_.griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
         PostMessageW(finestra_.griglia().lista(), WM_RBUTTONUP, 0, dove);
         pompa();

@@ -98,7 +98,7 @@ private:
         POINT punto;
     };
     [[nodiscard]] std::optional<Posto> postoCaso();
-    [[nodiscard]] POINT puntoGriglia();
+    [[nodiscard]] std::optional<POINT> puntoGriglia();
     void portaFuoco();
 
     static void CALLBACK sorveglia(HWND, UINT, UINT_PTR, DWORD) noexcept;

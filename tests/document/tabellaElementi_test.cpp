@@ -50,6 +50,16 @@ TEST(TabellaElementi, IlPrimoAggiuntoOccupaIlPostoVuoto) {
     EXPECT_EQ(tabella.limiteSuperiore(), 1);
 }
 
+TEST(TabellaElementi, IlPrimoAggiuntoNasceVuotoQualunqueCosaCiFosse) {
+    TabellaElementi tabella;
+    tabella(titolo, 0) = L"mai contato";
+    tabella(CampoElemento::Guid, 0) = L"guid";
+    EXPECT_EQ(tabella.aggiungi(), 0);
+    for (int campo = 0; campo < numeroCampi; ++campo) {
+        EXPECT_EQ(tabella(static_cast<CampoElemento>(campo), 0), L"");
+    }
+}
+
 TEST(TabellaElementi, OgniCampoPerConto) {
     TabellaElementi tabella;
     tabella.dimensiona(2);
@@ -103,6 +113,7 @@ TEST(TabellaElementi, NonPiuDi32767) {
     EXPECT_EQ(sollevatoDa([&] { return tabella.aggiungi(); }).numero, 6);
     EXPECT_EQ(tabella.limiteSuperiore(), 32766);
     EXPECT_EQ(sollevatoDa([&] { return tabella.dimensiona(32768), 0; }).numero, 6);
+    EXPECT_EQ(sollevatoDa([&] { return tabella.dimensiona(0), 0; }).numero, 6);
     EXPECT_EQ(tabella(titolo, 32766), L"ultimo");
 }
 

@@ -28,7 +28,7 @@ public:
     // Another row is the current one.
     virtual void grigliaRigaCambiata(int riga) = 0;
     // A dragged item was released on another. The table has to be changed and the grid filled
-    // again; the grid then brings back its top row and selects the item's new row.
+    // again, or neither; the grid then brings back its top row and selects the row of `a`.
     virtual void grigliaSposta(int da, int a) = 0;
     // The context menu is asked for, at a point of the screen in pixels and on that row; 0 on the
     // header and below the last row. Any other row means the current one.

@@ -142,8 +142,15 @@ void FrmMain::grigliaRigaCambiata(int riga) {
 }
 
 void FrmMain::grigliaSposta(int da, int a) {
-    comandiElementi_.SpostaElemento(da, a);
-    RiempiGriglia(false);
+    // A command at work knows its item by the index: nothing moves meanwhile.
+    occupando([&] {
+        protetto(
+            [&] {
+                comandiElementi_.SpostaElemento(da, a);
+                RiempiGriglia(false);
+            },
+            [&] { MostraErrore(); });
+    });
 }
 
 void FrmMain::spostaSelezionato(int passo) {

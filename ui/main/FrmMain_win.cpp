@@ -137,6 +137,9 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
     switch (codice) {
     case WM_CREATE:
         creaControlli();
+        // Everything in its place before it is filled and seen: moved later, it would all be worked
+        // out and painted twice.
+        DisponiFinestra();
         Form_Load();
         return 0;
     case WM_SIZE:

@@ -1,4 +1,5 @@
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/schermo_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"
 
@@ -58,6 +59,32 @@ TEST(GrigliaTrascina, PuntatoreERigaCorrenteSeguonoIlMouse) {
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 3"});
 }
 
+TEST(GrigliaTrascina, IlPuntatoreCambiaAllaPressioneETornaAlRilascioSenzaAltriMovimenti) {
+    GrigliaProva p(4);
+    const HCURSOR freccia = LoadCursorW(nullptr, IDC_ARROW);
+    const HCURSOR vietato = LoadCursorW(nullptr, IDC_NO);
+    p.vai(p.punto(2));
+    ASSERT_EQ(GetCursor(), freccia);
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    EXPECT_NE(GetCursor(), freccia);
+    EXPECT_NE(GetCursor(), vietato);
+    // Not through the queue, where the system's own setting of the pointer would come after it.
+    SendMessageW(p.lista(), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(GetCursor(), freccia);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    // On a row that is no item.
+    p.vai(p.punto(7));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Vietato);
+    EXPECT_EQ(GetCursor(), vietato);
+    p.vai(p.punto(3));
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
+    SendMessageW(p.lista(), WM_CANCELMODE, 0, 0);
+    EXPECT_EQ(GetCursor(), freccia);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+}
+
 TEST(GrigliaTrascina, SuSeStessoOSuUnaRigaVuotaNonCambiaNulla) {
     GrigliaProva p(4);
     const Testi prima = p.titoli();
@@ -83,7 +110,10 @@ TEST(GrigliaTrascina, NonDaiBordiNeDallIntestazione) {
     RECT r{};
     GetWindowRect(p.lista(), &r);
     p.trascina({fine.x, r.bottom - 4}, fine);
+    // Nor of the row that happens to be the current one.
+    p.griglia.seleziona(5);
     p.trascina(p.puntoTestata(), fine);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 5);
     EXPECT_TRUE(p.osservatore.mosse().empty());
     // Without a scroll bar rows reach the right edge.
     p.nascondiBarra();
@@ -91,6 +121,43 @@ TEST(GrigliaTrascina, NonDaiBordiNeDallIntestazione) {
     EXPECT_TRUE(p.osservatore.mosse().empty());
     p.trascina({r.right - 12, p.punto(1).y}, fine);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, SottoLUltimaRigaNonCENessunaRiga) {
+    // A grid higher than its rows.
+    GrigliaProva p(3);
+    GUI::IntestaGriglia(p.griglia);
+    p.griglia.elenca(ClsUTC(), FormatoLocale());
+    p.griglia.seleziona(2);
+    p.osservatore.eventi.clear();
+    POINT sotto = p.punto(3);
+    sotto.y += 100;
+    p.trascina(sotto, p.punto(1));
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    p.doppioClic(sotto);
+    EXPECT_EQ(p.osservatore.eventi, Testi{L"doppio 0"});
+    p.pulsante(MOUSEEVENTF_RIGHTDOWN);
+    p.pulsante(MOUSEEVENTF_RIGHTUP);
+    EXPECT_EQ(p.osservatore.menu.size(), 1U);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    // For a pointer that drags, the last row is the nearest.
+    p.trascina(p.punto(1), sotto);
+    EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, UnDoppioClicACavalloDiDueRigheParlaDellaSeconda) {
+    GrigliaProva p(5);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 2, &r, LVIR_BOUNDS);
+    POINT sopra{0, r.top - 1};
+    MapWindowPoints(p.lista(), nullptr, &sopra, 1);
+    sopra.x = p.punto(3).x;
+    p.nuovoClic();
+    p.clic(sopra);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    p.clic({sopra.x, sopra.y + 1});
+    EXPECT_EQ(p.osservatore.doppi(), Testi{L"doppio 3"});
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
 }
 
 TEST(GrigliaTrascina, EscLoAbbandona) {
@@ -107,6 +174,22 @@ TEST(GrigliaTrascina, EscLoAbbandona) {
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(p.osservatore.mosse().empty());
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+}
+
+TEST(GrigliaTrascina, EscArrivaAllaGrigliaAncheInUnDialogo) {
+    GrigliaProva p(4);
+    const ConFiltro dialogo(
+        [&p](MSG& msg) { return IsDialogMessageW(p.cornice(), &msg) != FALSE; });
+    p.vai(p.punto(1));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(3));
+    p.premiTasto(VK_TAB);
+    EXPECT_EQ(p.griglia.trascinato(), 0);
+    EXPECT_EQ(GetFocus(), p.lista());
+    p.premiTasto(VK_ESCAPE);
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
 }
 
 TEST(GrigliaTrascina, GliAltriTastiNonContano) {
@@ -192,6 +275,43 @@ TEST(GrigliaTrascina, VicinoAlBordoOgniMovimentoScorreDiUnaRiga) {
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 4"});
     EXPECT_EQ(p.griglia.rigaCorrente(), 5);
+}
+
+TEST(GrigliaTrascina, UnMovimentoRipetutoNonScorre) {
+    // Windows repeats the last move when what is under the pointer changes, and scrolling does.
+    GrigliaProva p(200);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    POINT dove{p.punto(2).x, r.bottom - 4};
+    p.vai(dove);
+    ASSERT_EQ(p.griglia.rigaInCima(), 2);
+    ScreenToClient(p.lista(), &dove);
+    for (int i = 0; i < 3; ++i) {
+        SendMessageW(p.lista(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(dove.x, dove.y));
+    }
+    EXPECT_EQ(p.griglia.rigaInCima(), 2);
+    p.premiTasto(VK_ESCAPE);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+}
+
+TEST(GrigliaTrascina, UnRilascioCheNessunoHaVistoLoAbbandona) {
+    GrigliaProva p(4);
+    p.vai(p.punto(1));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(3));
+    {
+        const ConFiltro perso([](MSG& msg) { return msg.message == WM_LBUTTONUP; });
+        p.pulsante(MOUSEEVENTF_LEFTUP);
+    }
+    ASSERT_EQ(p.griglia.trascinato(), 0);
+    p.vai(p.punto(2));
+    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
 }
 
 TEST(GrigliaTrascina, IlRilascioFuoriDallaGrigliaUsaLaRigaCorrente) {

@@ -106,6 +106,26 @@ TEST(Griglia, UnaRigaFuoriVistaDiventaLaPrimaInAlto) {
     }
 }
 
+TEST(Griglia, UnaRigaDiCuiNonSiVedeNullaNonEVisibile) {
+    GrigliaProva p(200);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
+    const int altezza = r.bottom - r.top;
+    p.alta(r.top + 5 * altezza);
+    EXPECT_TRUE(p.griglia.visibile(5));
+    EXPECT_FALSE(p.griglia.visibile(6));
+    p.griglia.seleziona(6);
+    EXPECT_EQ(p.griglia.rigaInCima(), 6);
+    EXPECT_FALSE(p.griglia.visibile(5));
+    // One pixel is enough.
+    p.griglia.rigaInCima(1);
+    p.alta(r.top + 5 * altezza + 1);
+    EXPECT_TRUE(p.griglia.visibile(6));
+    p.griglia.seleziona(1);
+    p.griglia.seleziona(6);
+    EXPECT_EQ(p.griglia.rigaInCima(), 1);
+}
+
 TEST(Griglia, RiempireDiNuovoTornaAllaPrimaRiga) {
     GrigliaProva p(200);
     p.griglia.seleziona(150);
@@ -241,6 +261,56 @@ TEST(Griglia, IlMenuDaTastieraSiApreAllaRigaCorrente) {
     EXPECT_EQ(p.osservatore.righeMenu, (std::vector{3, 3}));
 }
 
+TEST(Griglia, IlMenuDaTastieraSiApreNellaGrigliaAncheSeLaRigaNonSiVede) {
+    GrigliaProva p(200);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    for (const int cima : {100, 1}) {
+        p.griglia.seleziona(50);
+        p.griglia.rigaInCima(cima);
+        ASSERT_FALSE(p.griglia.visibile(50));
+        p.premiTasto(VK_APPS);
+        ASSERT_FALSE(p.osservatore.menu.empty());
+        EXPECT_TRUE(PtInRect(&r, p.osservatore.menu.back()));
+        EXPECT_EQ(p.griglia.rigaCorrente(), 50);
+    }
+    EXPECT_EQ(p.osservatore.menu.size(), 2U);
+}
+
+TEST(Griglia, IlPulsanteDestroSullIntestazioneApreIlMenuELasciaLaRiga) {
+    GrigliaProva p(5);
+    p.griglia.seleziona(3);
+    SetFocus(p.cornice());
+    const POINT dove = p.puntoTestata();
+    p.vai(dove);
+    p.pulsante(MOUSEEVENTF_RIGHTDOWN);
+    p.pulsante(MOUSEEVENTF_RIGHTUP);
+    ASSERT_EQ(p.osservatore.menu.size(), 1U);
+    EXPECT_EQ(p.osservatore.menu[0].x, dove.x);
+    EXPECT_EQ(p.osservatore.menu[0].y, dove.y);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(GetFocus(), p.lista());
+}
+
+TEST(Griglia, LaRotellaScorreSoloInVerticale) {
+    GrigliaProva p(200);
+    p.vai(p.punto(2));
+    p.rotella(-1);
+    const int cima = p.griglia.rigaInCima();
+    EXPECT_GT(cima, 1);
+    // The current row stays, in sight or not.
+    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
+    SendMessageW(p.lista(), WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -WHEEL_DELTA), 0);
+    SendMessageW(p.lista(), WM_MOUSEHWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+    for (int i = 0; i < 20; ++i) {
+        SendMessageW(p.lista(), WM_HSCROLL, SB_LINERIGHT, 0);
+    }
+    EXPECT_EQ(p.griglia.rigaInCima(), cima);
+    RECT r{};
+    ListView_GetItemRect(p.lista(), cima - 1, &r, LVIR_BOUNDS);
+    EXPECT_EQ(r.left, 0);
+}
+
 TEST(Griglia, UnTastoGestitoDalProprietarioNonArrivaAllaLista) {
     GrigliaProva p(5);
     p.osservatore.gestito = VK_DOWN;
@@ -261,6 +331,18 @@ TEST(Griglia, LIntestazioneNonSiTrascinaENonSiAllarga) {
     p.trascina({divisione.x - 60, divisione.y}, {divisione.x + 90, divisione.y});
     EXPECT_EQ(p.titolo(0), L"Data/Orario");
     EXPECT_TRUE(p.osservatore.mosse().empty());
+    // Nor from a header that would not keep its style.
+    NMHEADERW avviso{};
+    avviso.hdr.hwndFrom = ListView_GetHeader(p.lista());
+    const auto avvisa = [&](UINT codice) {
+        avviso.hdr.code = codice;
+        return SendMessageW(p.lista(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&avviso));
+    };
+    EXPECT_TRUE(avvisa(HDN_BEGINTRACKW));
+    EXPECT_TRUE(avvisa(HDN_BEGINTRACKA));
+    avvisa(HDN_DIVIDERDBLCLICKW);
+    avvisa(HDN_DIVIDERDBLCLICKA);
+    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
 }
 
 TEST(Griglia, HaUnNomePerChiLaLegge) {

@@ -76,6 +76,14 @@ TEST(Trascinamento, IlRilascioUsaLaRigaCorrenteDiQuelMomento) {
     const auto esito = t.rilascia(4);
     EXPECT_TRUE(esito.sposta);
     EXPECT_EQ(esito.a, 4);
+    // Whatever the pointer showed last.
+    t.premi(1);
+    t.segui(-1);
+    EXPECT_TRUE(t.rilascia(4).sposta);
+    t.premi(1);
+    const auto nulla = t.rilascia(-1);
+    EXPECT_FALSE(nulla.sposta);
+    EXPECT_EQ(nulla.a, -1);
 }
 
 namespace {

@@ -72,6 +72,21 @@ TEST_F(FrmMainVera, MentreLEditorEApertoNonSiChiudeEIlTestoResta) {
     EXPECT_EQ(scritto(), L"scritto");
 }
 
+TEST_F(FrmMainVera, ChiusoLEditorIlFuocoTornaAllaGriglia) {
+    const HWND lista = finestra.griglia().lista();
+    SetFocus(lista);
+    for (const int come : {IDC_CMDSALVA, IDC_CMDANNULLA}) {
+        const QuandoAppare dialogo(boxWindows, L"Edit", [&](HWND box) {
+            SetWindowTextW(GetDlgItem(box, IDC_EDITTITOLO), L"elemento");
+            SetWindowTextW(GetDlgItem(box, IDC_EDITLINK), L"https://e.example/");
+            PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(come), 0);
+        });
+        premi(VK_INSERT);
+        EXPECT_TRUE(attendi([&] { return GetFocus() == lista; })) << come;
+    }
+    EXPECT_EQ(finestra.elementi().conteggio(), 1);
+}
+
 TEST_F(FrmMainVera, DopoUnaDomandaAnnullataLaProssimaSiFaAncora) {
     modifica();
     for (int i = 0; i < 2; ++i) {
@@ -115,6 +130,83 @@ TEST_F(FrmMainChiusura, ConUnMessaggioApertoNullaSiComandaENullaSiPerde) {
     EXPECT_EQ(titoliElementi(), L"uno;");
     EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"resta");
     EXPECT_TRUE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainChiusura, ConLEditorApertoUnSecondoComandoLasciaLaTabellaComEra) {
+    for (const wchar_t* const t : {L"a", L"b", L"c"}) {
+        metti(t);
+    }
+    finestra.SelezionaRiga(2);
+    const HWND lista = finestra.griglia().lista();
+    const auto centro = [&](int riga) {
+        RECT r{};
+        ListView_GetItemRect(lista, riga - 1, &r, LVIR_BOUNDS);
+        return POINT{60, (r.top + r.bottom) / 2};
+    };
+    int aperture = 0;
+    const auto insisti = [&](clsItemRss& elemento, DataOra ultima) {
+        ++aperture;
+        for (const int comando : {mnaddFeed, mnEditFeed, mnDelFeed, mnNuovo, mnvisualhtml, spostaSu,
+                                  spostaGiu, mnAggiorna}) {
+            SendMessageW(finestra.hwnd(), WM_COMMAND, static_cast<WPARAM>(comando), 0);
+        }
+        // This editor leaves the window enabled, so that even hands reach it.
+        SetFocus(lista);
+        for (const WORD tasto : {WORD{VK_INSERT}, WORD{VK_RETURN}, WORD{VK_DELETE}}) {
+            premi(tasto);
+        }
+        trascina(lista, centro(1), centro(3));
+        doppioClic(lista, centro(3));
+        doppioClic(ListView_GetHeader(lista), {60, 5});
+        EXPECT_EQ(titoliElementi(), L"a;b;c;");
+        elemento.sTitle(L"x");
+        return std::optional(ultima);
+    };
+    editor.attendi(insisti);
+    finestra.esegui(mnEditFeed);
+    EXPECT_EQ(aperture, 1);
+    EXPECT_EQ(titoliElementi(), L"a;x;c;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
+}
+
+TEST_F(FrmMainChiusura, UnComandoOUnaChiusuraAbbandonanoIlTrascinamento) {
+    for (const wchar_t* const t : {L"a", L"b", L"c"}) {
+        metti(t);
+    }
+    const HWND lista = finestra.griglia().lista();
+    const auto centro = [&](int riga) {
+        RECT r{};
+        ListView_GetItemRect(lista, riga - 1, &r, LVIR_BOUNDS);
+        return POINT{60, (r.top + r.bottom) / 2};
+    };
+    finestra.ImpostaModificato();
+    for (const bool chiusura : {false, true}) {
+        SCOPED_TRACE(chiusura);
+        // Elsewhere first, so that the press is not the second of a pair.
+        clic(campo(IDC_TXTTITOLO));
+        premiMouse(lista, centro(1));
+        muoviMouse(lista, centro(3));
+        ASSERT_EQ(finestra.griglia().trascinato(), 0);
+        // The box is up, and the button goes up over another row.
+        const auto intanto = [&] {
+            EXPECT_EQ(finestra.griglia().trascinato(), -1);
+            EXPECT_EQ(finestra.griglia().puntatore(), Puntatore::Predefinito);
+            EXPECT_EQ(GetCapture(), nullptr);
+            lasciaMouse();
+        };
+        if (chiusura) {
+            messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda,
+                             Pulsanti::SiNoAnnulla, Risposta::Annulla, intanto);
+            SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
+        } else {
+            editor.attendi([&](clsItemRss&, DataOra) -> std::optional<DataOra> {
+                intanto();
+                return std::nullopt;
+            });
+            finestra.esegui(mnaddFeed);
+        }
+        EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    }
 }
 
 TEST_F(FrmMainChiusura, ChiudendoSeNeVannoLeAltreFinestreDelProgramma) {

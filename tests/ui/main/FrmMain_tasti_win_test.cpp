@@ -167,6 +167,21 @@ TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
 }
 
+TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
+    riempi();
+    premiMouse(lista(), punto(1));
+    muoviMouse(lista(), punto(3));
+    const QuandoAppare menu(L"#32768", L"", [&](HWND) {
+        EXPECT_EQ(finestra.griglia().trascinato(), -1);
+        EXPECT_EQ(finestra.griglia().puntatore(), Puntatore::Predefinito);
+        EndMenu();
+    });
+    premi(VK_APPS);
+    lasciaMouse();
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+}
+
 TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
     riempi();
     for (const WORD tasto : {WORD{VK_RETURN}, WORD{VK_SPACE}}) {

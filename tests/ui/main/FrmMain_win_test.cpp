@@ -136,6 +136,23 @@ TEST_F(FrmMainAperta, IlNuovoDocumentoRiportaTuttoAlVuoto) {
     EXPECT_FALSE(finestra.stato().modificato());
 }
 
+TEST_F(FrmMainAperta, LaDataPropostaRestaQuellaDellUltimoAggiuntoAncheInUnNuovoDocumento) {
+    const auto ieri = DataOra::daParti(2005, 11, 14, 10, 0, 0);
+    editor.attendi([&](clsItemRss& elemento, DataOra proposta) {
+        EXPECT_EQ(proposta, orologio.locale());
+        elemento.sTitle(L"uno");
+        return std::optional(ieri);
+    });
+    finestra.esegui(mnaddFeed);
+    orologio.locale(DataOra::daParti(2006, 2, 3, 4, 5, 6));
+    finestra.NuovoDocumento();
+    editor.attendi([&](clsItemRss&, DataOra proposta) -> std::optional<DataOra> {
+        EXPECT_EQ(proposta, ieri);
+        return std::nullopt;
+    });
+    finestra.esegui(mnaddFeed);
+}
+
 TEST_F(FrmMainAperta, LeMisureSonoPixelInteriFinoADiecimila) {
     KOInputNumerico& larghezza = finestra.campi().txtLarghezza();
     EXPECT_EQ(larghezza.CifreDecimali(), 0);

@@ -82,6 +82,8 @@ TEST(GuiSfondo, UnImmagineGuastaLasciaLoSfondoLiscio) {
                                          intera.substr(0, 30), jpg().substr(0, 60)}) {
         const CartellaProva cartella;
         const auto percorso = cartella.scrivi(L"sfondo.bmp", contenuto);
+        // The other one is for a folder without this one.
+        static_cast<void>(cartella.scrivi(L"sfondo.jpg", jpg()));
         EXPECT_FALSE(GUI::ApplicaSfondo(cartella.percorso())) << contenuto.size();
         try {
             static_cast<void>(caricaImmagine(percorso));

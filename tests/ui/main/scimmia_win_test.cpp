@@ -15,18 +15,28 @@ namespace {
 
 constexpr int passiDiProva = 2000;
 constexpr int passiDiRiscaldamento = 300;
-// GDI objects that Wine was seen to keep for itself: 4 after 2,000 steps, 7 after 8,000.
-constexpr DWORD oggettiDelSistema = 20;
 
 int passiVoluti() {
     const char* const voluti = std::getenv("OSTRELLE_SCIMMIA");
     return voluti == nullptr ? passiDiProva : std::max(1, std::atoi(voluti));
 }
 
+// Makes the system's own pointers: it does so when one is first shown, and keeps its bitmaps for
+// good. Which of them the monkey comes by, and when, is chance.
+void mostraPuntatori() {
+    for (const wchar_t* const nome : {IDC_ARROW, IDC_IBEAM, IDC_WAIT, IDC_NO, IDC_HAND, IDC_SIZEWE,
+                                      IDC_SIZENS, IDC_SIZENWSE, IDC_SIZENESW, IDC_SIZEALL}) {
+        SetCursor(LoadCursorW(nullptr, nome));
+        pompa();
+    }
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}
+
 } // namespace
 
 TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     Scimmia scimmia(20051115);
+    mostraPuntatori();
     for (int i = 0; i < passiDiRiscaldamento; ++i) {
         scimmia.passo();
         ASSERT_EQ(scimmia.guasto(), "") << "warm-up step " << i << ": " << scimmia.fatto();
@@ -47,8 +57,7 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     }
     scimmia.riposa();
     const ManiglieGui dopo = ManiglieGui::adesso();
-    EXPECT_EQ(dopo.user, prima.user);
-    EXPECT_LE(dopo.gdi, prima.gdi + oggettiDelSistema) << prima << " at first";
+    EXPECT_EQ(dopo, prima);
     // The monkey did reach what it is for.
     const Scimmia::Conti& conti = scimmia.conti();
     EXPECT_GT(conti.aggiunti, passi / 200);

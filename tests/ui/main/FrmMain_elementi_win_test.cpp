@@ -1,0 +1,147 @@
+#include "tests/aiuti/frmMain_win.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace {
+
+// The main window with tables of any size.
+class FrmMainElementi : public ProvaFrmMain {
+protected:
+    void riempi(int quanti) {
+        finestra.NuovoDocumento();
+        if (quanti > 0) {
+            finestra.elementi().dimensiona(quanti);
+        }
+        for (int i = 0; i < quanti; ++i) {
+            finestra.elementi()(CampoElemento::Titolo, i) = std::to_wstring(i);
+        }
+        finestra.RiempiGriglia(false);
+        finestra.stato().modificato(false);
+    }
+    [[nodiscard]] const std::wstring& titoloDi(int indice) {
+        return finestra.elementi()(CampoElemento::Titolo, indice);
+    }
+    [[nodiscard]] int righe() { return ListView_GetItemCount(finestra.griglia().lista()); }
+    [[nodiscard]] int corrente() { return finestra.griglia().rigaCorrente(); }
+    // A point of a row in sight.
+    [[nodiscard]] POINT punto(int riga) {
+        RECT r{};
+        ListView_GetItemRect(finestra.griglia().lista(), riga - 1, &r, LVIR_BOUNDS);
+        return {200, (r.top + r.bottom) / 2};
+    }
+    void attendiNessunaSelezione() {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+    }
+    void attendiCancellazione() {
+        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
+                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+    }
+    void attendiTitolo(const wchar_t* nuovo) {
+        editor.attendi([nuovo](clsItemRss& elemento, DataOra ultima) {
+            elemento.sTitle(nuovo);
+            return std::optional(ultima);
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(FrmMainElementi, UnaTabellaVuotaHaSoloRigheSenzaElemento) {
+    riempi(0);
+    EXPECT_EQ(righe(), 49);
+    for (const int riga : {1, 25, 49}) {
+        finestra.SelezionaRiga(riga);
+        for (const int comando : {mnEditFeed, mnDelFeed, mnvisualhtml}) {
+            attendiNessunaSelezione();
+            finestra.esegui(comando);
+        }
+        finestra.esegui(spostaSu);
+        finestra.esegui(spostaGiu);
+        EXPECT_EQ(corrente(), riga);
+    }
+    EXPECT_EQ(finestra.elementi().conteggio(), 0);
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura) {
+    for (const int quanti : {1, 48, 49, 50, 51, 32767}) {
+        SCOPED_TRACE(quanti);
+        riempi(quanti);
+        EXPECT_EQ(righe(), std::max(49, quanti));
+        finestra.SelezionaRiga(quanti);
+        attendiTitolo(L"x");
+        finestra.esegui(mnEditFeed);
+        EXPECT_EQ(titoloDi(quanti - 1), L"x");
+        EXPECT_EQ(corrente(), quanti);
+        EXPECT_TRUE(finestra.griglia().visibile(quanti));
+
+        finestra.stato().modificato(false);
+        attendiCancellazione();
+        finestra.esegui(mnDelFeed);
+        EXPECT_EQ(finestra.elementi().conteggio(), quanti - 1);
+        EXPECT_EQ(righe(), std::max(49, quanti - 1));
+        EXPECT_EQ(corrente(), std::max(1, quanti - 1));
+        EXPECT_TRUE(finestra.stato().modificato());
+
+        finestra.stato().modificato(false);
+        attendiTitolo(L"y");
+        finestra.esegui(mnaddFeed);
+        EXPECT_EQ(finestra.elementi().conteggio(), quanti);
+        EXPECT_EQ(titoloDi(quanti - 1), L"y");
+        EXPECT_EQ(righe(), std::max(49, quanti));
+        EXPECT_EQ(corrente(), quanti);
+        EXPECT_TRUE(finestra.griglia().visibile(quanti));
+        EXPECT_TRUE(finestra.stato().modificato());
+        if (quanti < 49) {
+            finestra.SelezionaRiga(quanti + 1);
+            attendiNessunaSelezione();
+            finestra.esegui(mnDelFeed);
+        }
+    }
+    // Full: nothing more, and the table is as it was.
+    finestra.stato().modificato(false);
+    messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
+    finestra.esegui(mnaddFeed);
+    EXPECT_EQ(finestra.elementi().conteggio(), 32767);
+    EXPECT_EQ(corrente(), 32767);
+    EXPECT_FALSE(finestra.stato().modificato());
+}
+
+TEST_F(FrmMainElementi, TrascinareInFondoATabelleDiOgniMisura) {
+    const HWND lista = finestra.griglia().lista();
+    for (const int quanti : {2, 49, 50, 32767}) {
+        SCOPED_TRACE(quanti);
+        riempi(quanti);
+        // The last but one on the last, as far down as there are rows.
+        finestra.griglia().rigaInCima(std::max(1, quanti - 2));
+        const int cima = finestra.griglia().rigaInCima();
+        trascina(lista, punto(quanti - 1), punto(quanti));
+        EXPECT_EQ(titoloDi(quanti - 1), std::to_wstring(quanti - 2));
+        EXPECT_EQ(titoloDi(quanti - 2), std::to_wstring(quanti - 1));
+        EXPECT_EQ(corrente(), quanti);
+        EXPECT_EQ(finestra.griglia().rigaInCima(), cima);
+        EXPECT_FALSE(finestra.stato().modificato());
+        // Elsewhere, so that the next press is not the second of a pair.
+        clic(campo(IDC_TXTTITOLO));
+    }
+}
+
+TEST_F(FrmMainElementi, SpostareColTastoTieneLaRigaInCimaEControllaIConfini) {
+    riempi(200);
+    finestra.griglia().rigaInCima(100);
+    finestra.SelezionaRiga(101);
+    finestra.esegui(spostaGiu);
+    EXPECT_EQ(titoloDi(101), L"100");
+    EXPECT_EQ(corrente(), 102);
+    EXPECT_EQ(finestra.griglia().rigaInCima(), 100);
+    finestra.SelezionaRiga(1);
+    finestra.esegui(spostaSu);
+    EXPECT_EQ(titoloDi(0), L"0");
+    finestra.SelezionaRiga(200);
+    finestra.esegui(spostaGiu);
+    EXPECT_EQ(titoloDi(199), L"199");
+    EXPECT_EQ(corrente(), 200);
+}
