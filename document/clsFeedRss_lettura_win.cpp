@@ -110,14 +110,14 @@ TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito) {
 
 // What counts of the channel, gathered in one walk: a query for each field would go through the
 // whole document each time.
-struct Canale {
+struct CanaleLetto {
     PrimiFigli<nomiCanale.size()> campi{nomiCanale};
     std::vector<NodoXml> immagini;
     std::vector<TestiElemento> elementi;
 };
 
-Canale percorriCanale(const NodoXml& nodo, Deposito& deposito) {
-    Canale canale;
+CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito) {
+    CanaleLetto canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
@@ -178,7 +178,7 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title
         if (!documento.carica(path)) {
             rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
-        Canale canale = percorriCanale(trovaCanale(documento, path), deposito);
+        CanaleLetto canale = percorriCanale(trovaCanale(documento, path), deposito);
         for (std::size_t i = 0; i < campi.size(); ++i) {
             if (const NodoXml& nodo = canale.campi[i]) {
                 *campi[i] = NormalizzaACapo(nodo.testo().vista());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/canale.h"
 #include "document/clsFeedRss.h"
 
 #include "tests/aiuti/sollevato.h"
@@ -9,15 +10,7 @@
 #include <string_view>
 
 // All that a feed file holds, as the reader fills it and the writer takes it.
-struct Documento {
-    std::wstring title;
-    std::wstring link;
-    std::wstring description;
-    std::wstring language;
-    std::wstring copyright;
-    std::wstring lastBuildDate;
-    std::wstring webMaster;
-    clsImgRss image;
+struct Documento : Canale {
     TabellaElementi items;
 
     void leggi(const std::wstring& percorso);

@@ -20,7 +20,10 @@ public:
     void grigliaDoppioClic(int riga) override;
     void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
-    void grigliaMenu(POINT punto) override { menu.push_back(punto); }
+    void grigliaMenu(POINT punto, int riga) override {
+        menu.push_back(punto);
+        righeMenu.push_back(riga);
+    }
     bool grigliaTasto(UINT tasto) override { return tasto == gestito; }
     void grigliaEccezione() noexcept override { ++eccezioni; }
 
@@ -29,7 +32,9 @@ public:
     [[nodiscard]] std::vector<std::wstring> doppi() const { return scelti(L"doppio"); }
 
     std::vector<std::wstring> eventi;
+    // The context menus asked for, and the rows that they speak of.
     std::vector<POINT> menu;
+    std::vector<int> righeMenu;
     UINT gestito = 0;
     int eccezioni = 0;
     // Moving an item raises an error.

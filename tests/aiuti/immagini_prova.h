@@ -70,8 +70,9 @@ inline constexpr std::string_view gifAnimato =
     return fatti;
 }
 
-// A bitmap of 24 bits a pixel, black.
-[[nodiscard]] inline std::string bmp(std::uint32_t larghezza, std::uint32_t altezza) {
+// A bitmap of 24 bits a pixel in one colour: red in the lowest byte, then green and blue.
+[[nodiscard]] inline std::string bmp(std::uint32_t larghezza, std::uint32_t altezza,
+                                     std::uint32_t colore = 0) {
     const std::uint32_t riga = (larghezza * 3 + 3) / 4 * 4;
     std::string fatti("BM");
     const auto aggiungi = [&](std::uint32_t valore, int quanti) {
@@ -93,7 +94,16 @@ inline constexpr std::string_view gifAnimato =
     aggiungi(0, 4);
     aggiungi(0, 4);
     aggiungi(0, 4);
-    fatti.append(static_cast<std::size_t>(riga) * altezza, '\0');
+    std::string linea;
+    for (std::uint32_t x = 0; x < larghezza; ++x) {
+        for (const int bit : {16, 8, 0}) {
+            linea += static_cast<char>(colore >> bit & 0xFF);
+        }
+    }
+    linea.resize(riga, '\0');
+    for (std::uint32_t y = 0; y < altezza; ++y) {
+        fatti += linea;
+    }
     return fatti;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/errore.h"
 #include "support/impostazioni.h"
 
 #include <map>
@@ -16,8 +17,13 @@ public:
     }
     void scrivi(std::wstring_view sezione, std::wstring_view chiave,
                 std::wstring_view valore) override {
+        if (rifiuta) {
+            solleva(errori::accessoAlPercorso);
+        }
         valori[{std::wstring(sezione), std::wstring(chiave)}] = valore;
     }
 
+    // Writing raises error 75.
+    bool rifiuta = false;
     std::map<std::pair<std::wstring, std::wstring>, std::wstring> valori;
 };

@@ -25,8 +25,24 @@ public:
     void attendi(std::wstring testo, std::wstring titolo, Icona icona,
                  Pulsanti pulsanti = Pulsanti::Ok, Risposta risposta = Risposta::Ok,
                  std::function<void()> intanto = {}) {
-        attesi_.push_back(
-            {std::move(testo), std::move(titolo), icona, pulsanti, risposta, std::move(intanto)});
+        attesi_.push_back({std::move(testo),
+                           {},
+                           std::move(titolo),
+                           icona,
+                           pulsanti,
+                           risposta,
+                           std::move(intanto)});
+    }
+
+    // The same for a text that is known only when the box is up.
+    void attendiCome(std::function<std::wstring()> testo, std::wstring titolo, Icona icona) {
+        attesi_.push_back({L"titled " + titolo,
+                           std::move(testo),
+                           std::move(titolo),
+                           icona,
+                           Pulsanti::Ok,
+                           Risposta::Ok,
+                           {}});
     }
 
     Risposta mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
@@ -38,7 +54,7 @@ public:
         }
         const Atteso a = attesi_.front();
         attesi_.pop_front();
-        EXPECT_EQ(testo, a.testo);
+        EXPECT_EQ(testo, a.testoAllora ? a.testoAllora() : a.testo);
         EXPECT_EQ(titolo, a.titolo);
         EXPECT_EQ(icona, a.icona);
         EXPECT_EQ(pulsanti, a.pulsanti);
@@ -51,6 +67,7 @@ public:
 private:
     struct Atteso {
         std::wstring testo;
+        std::function<std::wstring()> testoAllora;
         std::wstring titolo;
         Icona icona;
         Pulsanti pulsanti;

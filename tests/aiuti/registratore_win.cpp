@@ -11,7 +11,6 @@
 
 namespace {
 
-const std::wstring copie = L"Software\\OstrelleProve\\Classi\\";
 const std::wstring classeNostra = L"OstrelleProve.Registratore";
 
 void scriviPredefinito(const std::wstring& chiave, const std::wstring& valore) {
@@ -19,29 +18,6 @@ void scriviPredefinito(const std::wstring& chiave, const std::wstring& valore) {
     ASSERT_EQ(
         RegSetKeyValueW(HKEY_CLASSES_ROOT, chiave.c_str(), nullptr, REG_SZ, valore.c_str(), byte),
         ERROR_SUCCESS);
-}
-
-void copia(HKEY da, const std::wstring& origine, HKEY a, const std::wstring& meta) {
-    HKEY chiave = nullptr;
-    ASSERT_EQ(RegCreateKeyW(a, meta.c_str(), &chiave), ERROR_SUCCESS);
-    const ChiaveRegistro destinazione(chiave);
-    ASSERT_EQ(RegCopyTreeW(da, origine.c_str(), destinazione.get()), ERROR_SUCCESS);
-}
-
-bool esiste(HKEY radice, const std::wstring& nome) {
-    HKEY chiave = nullptr;
-    const bool aperta = RegOpenKeyW(radice, nome.c_str(), &chiave) == ERROR_SUCCESS;
-    const ChiaveRegistro padrone(chiave);
-    return aperta;
-}
-
-// A class as it was before; its copy goes.
-void rimetti(const std::wstring& classe) {
-    RegDeleteTreeW(HKEY_CLASSES_ROOT, classe.c_str());
-    if (esiste(HKEY_CURRENT_USER, copie + classe)) {
-        copia(HKEY_CURRENT_USER, copie + classe, HKEY_CLASSES_ROOT, classe);
-        RegDeleteTreeW(HKEY_CURRENT_USER, (copie + classe).c_str());
-    }
 }
 
 std::wstring eseguibile() {
@@ -63,7 +39,7 @@ Registratore::Registratore()
 }
 
 Registratore::~Registratore() {
-    std::ranges::for_each(classi_, rimetti);
+    classi_.clear();
     SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
 }
 
@@ -71,13 +47,12 @@ void Registratore::copiaIn(const std::wstring& percorso) {
     ASSERT_TRUE(CopyFileW(eseguibile().c_str(), percorso.c_str(), TRUE));
 }
 
-void Registratore::salva(const std::wstring& classe) {
-    // A copy that is there already is of a test that crashed: it holds the true original.
-    if (esiste(HKEY_CLASSES_ROOT, classe) && !esiste(HKEY_CURRENT_USER, copie + classe)) {
-        copia(HKEY_CLASSES_ROOT, classe, HKEY_CURRENT_USER, copie + classe);
+void Registratore::sgombra(const std::wstring& classe) {
+    if (std::ranges::find(classi_, classe, &ChiaveSalvata::nome) == classi_.end()) {
+        classi_.emplace_back(HKEY_CLASSES_ROOT, classe);
+    } else {
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, classe.c_str());
     }
-    RegDeleteTreeW(HKEY_CLASSES_ROOT, classe.c_str());
-    classi_.push_back(classe);
 }
 
 void Registratore::tipo(const std::wstring& estensione) {
@@ -85,10 +60,15 @@ void Registratore::tipo(const std::wstring& estensione) {
 }
 
 void Registratore::tipo(const std::wstring& estensione, const std::wstring& comando) {
-    salva(estensione);
-    salva(classeNostra + estensione);
+    sgombra(estensione);
+    sgombra(classeNostra + estensione);
     scriviPredefinito(estensione, classeNostra + estensione);
     scriviPredefinito(classeNostra + estensione + L"\\shell\\open\\command", comando);
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+void Registratore::nessunProgramma(const std::wstring& estensione) {
+    sgombra(estensione);
     SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
 }
 
@@ -99,7 +79,7 @@ void Registratore::verboPredefinito(const std::wstring& estensione, const std::w
 }
 
 void Registratore::protocollo(const std::wstring& nome) {
-    salva(nome);
+    sgombra(nome);
     scriviPredefinito(nome, L"URL:" + nome);
     RegSetKeyValueW(HKEY_CLASSES_ROOT, nome.c_str(), L"URL Protocol", REG_SZ, L"", sizeof(wchar_t));
     scriviPredefinito(nome + L"\\shell\\open\\command", comandoRegistratore());

@@ -3,9 +3,10 @@
 #include "support/maniglie_win.h"
 #include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/chiaveSalvata_win.h"
 
+#include <list>
 #include <string>
-#include <vector>
 
 // Where the recorder program writes.
 inline constexpr const wchar_t* variabileRegistrazione = L"OSTRELLE_REGISTRAZIONE";
@@ -37,6 +38,9 @@ public:
     // A file extension with a command of the test's own.
     void tipo(const std::wstring& estensione, const std::wstring& comando);
 
+    // A file extension that no program opens.
+    void nessunProgramma(const std::wstring& estensione);
+
     // Makes a verb that is not "open" the default one of such a type, run by the recorder.
     void verboPredefinito(const std::wstring& estensione, const std::wstring& verbo);
 
@@ -53,12 +57,13 @@ private:
         }
     };
 
-    void salva(const std::wstring& classe);
+    // Takes a class away until the end.
+    void sgombra(const std::wstring& classe);
     [[nodiscard]] std::string righe() const;
 
     Maniglia<TrattiMutex> turno_;
     CartellaProva cartella_;
     VariabileAmbiente registrazione_;
-    std::vector<std::wstring> classi_;
+    std::list<ChiaveSalvata> classi_;
     std::size_t letti_ = 0;
 };

@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -70,7 +71,7 @@ LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
         abbandona();
         prendiFuoco();
         seleziona(riga);
-        osservatore_.grigliaDoppioClic(riga < 0 ? 0 : riga);
+        osservatore_.grigliaDoppioClic(std::max(riga, 0));
         return 0;
     }
     case WM_MOUSEMOVE:
@@ -91,13 +92,14 @@ LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
         return 0;
     }
     case WM_RBUTTONUP:
-        osservatore_.grigliaMenu(sulloSchermo(lista_, puntoDi(l)));
+        osservatore_.grigliaMenu(sulloSchermo(lista_, puntoDi(l)),
+                                 std::max(rigaA(puntoDi(l).y), 0));
         return 0;
     case WM_CONTEXTMENU:
         if (l == -1) {
             menuDaTastiera();
         } else {
-            osservatore_.grigliaMenu(puntoDi(l));
+            osservatore_.grigliaMenu(puntoDi(l), rigaCorrente_);
         }
         return 0;
     case WM_CAPTURECHANGED:
@@ -143,7 +145,7 @@ LRESULT Griglia::messaggioTestata(UINT codice, WPARAM w, LPARAM l) {
         prendiFuoco();
         return 0;
     case WM_RBUTTONUP:
-        osservatore_.grigliaMenu(sulloSchermo(testata_, puntoDi(l)));
+        osservatore_.grigliaMenu(sulloSchermo(testata_, puntoDi(l)), 0);
         return 0;
     case WM_SETCURSOR:
         SetCursor(LoadCursorW(nullptr, IDC_ARROW));
@@ -244,7 +246,7 @@ void Griglia::menuDaTastiera() {
         ListView_GetItemRect(lista_, rigaCorrente_ - 1, &r, LVIR_BOUNDS)) {
         punto.y = (r.top + r.bottom) / 2;
     }
-    osservatore_.grigliaMenu(sulloSchermo(lista_, punto));
+    osservatore_.grigliaMenu(sulloSchermo(lista_, punto), rigaCorrente_);
 }
 
 LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {

@@ -30,9 +30,9 @@ public:
     // A dragged item was released on another. The table has to be changed and the grid filled
     // again, or neither; the grid then brings back its top row and selects the row of `a`.
     virtual void grigliaSposta(int da, int a) = 0;
-    // The context menu is asked for, at a point of the screen in pixels; the row that it speaks of
-    // is the current one.
-    virtual void grigliaMenu(POINT punto) = 0;
+    // The context menu is asked for, at a point of the screen in pixels and on that row; 0 on the
+    // header and below the last row. Any other row means the current one.
+    virtual void grigliaMenu(POINT punto, int riga) = 0;
     // A key went down (a VK_ code) while nothing is dragged; True when it is dealt with.
     virtual bool grigliaTasto(UINT tasto) = 0;
     // Called inside the catch of an exception that left one of the above: see `erroreCorrente`.

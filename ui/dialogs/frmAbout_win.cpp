@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <exception>
 
 namespace {
 
@@ -126,6 +127,8 @@ bool frmAbout::inizializza() {
                  reinterpret_cast<WPARAM>(carattereTitolo_.get()), FALSE);
     carattereSito_ = derivato(hwnd(), [](LOGFONTW& font) { font.lfUnderline = TRUE; });
     misuraSito();
+    ridimensiona(controllo(IDC_PICICON),
+                 {GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)});
     logo_ = caricaGif(IDR_LOGO);
     misuraLogo();
 
@@ -154,7 +157,10 @@ INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmAbout::eccezione() noexcept {
-    koUtilita(messaggi_).PrintErrore();
+    try {
+        koUtilita(messaggi_).PrintErrore();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
+    }
 }
 
 bool frmAbout::comando(WORD id, WORD notifica) {
@@ -196,7 +202,18 @@ void frmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
         disegnaSito(voce);
     } else if (voce.CtlID == IDC_IMAGE1 && logo_) {
         disegnaLogo(voce);
+    } else if (voce.CtlID == IDC_PICICON) {
+        disegnaIcona(voce);
     }
+}
+
+// Drawn here, because a static control of the icon kind has no name for those who cannot see it.
+void frmAbout::disegnaIcona(const DRAWITEMSTRUCT& voce) {
+    const RECT& r = voce.rcItem;
+    FillRect(voce.hDC, &r, GetSysColorBrush(COLOR_3DFACE));
+    DrawIconEx(voce.hDC, r.left, r.top,
+               LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_OSTRELLE)),
+               r.right - r.left, r.bottom - r.top, 0, nullptr, DI_NORMAL);
 }
 
 // Not by IPicture::Render, which works in hundredths of a millimetre and can miss the last pixels.
@@ -240,8 +257,8 @@ void frmAbout::misuraSito() const {
     SelectObject(dc.get(), prima);
     RECT posto{};
     GetClientRect(sito, &posto);
-    // Half a line: some fonts draw the last letter wider than they say.
-    const LONG margine = scritta.bottom / 2;
+    // A line, half of it on either side: some fonts draw their texts wider than they say.
+    const LONG margine = scritta.bottom;
     const LONG orlo = 2 * GetSystemMetrics(SM_CYFOCUSBORDER);
     ridimensiona(sito, {std::min(scritta.right + margine, posto.right),
                         std::min(scritta.bottom + orlo, posto.bottom)});

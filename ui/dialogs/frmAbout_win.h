@@ -36,6 +36,7 @@ protected:
 private:
     bool comando(WORD id, WORD notifica);
     void disegna(const DRAWITEMSTRUCT& voce) const;
+    static void disegnaIcona(const DRAWITEMSTRUCT& voce);
     void disegnaLogo(const DRAWITEMSTRUCT& voce) const;
     void disegnaSito(const DRAWITEMSTRUCT& voce) const;
     void misuraSito() const;

@@ -128,7 +128,10 @@ void FrmMain::grigliaDoppioClic(int riga) {
         esegui(mnEditFeed);
         return;
     }
-    // No row was clicked, whichever is the current one.
+    avvisaNessunaRiga();
+}
+
+void FrmMain::avvisaNessunaRiga() {
     occupando([&] {
         protetto([&] { avvisaNessunaSelezione(servizi_.messaggi); }, [&] { MostraErrore(); });
     });
@@ -163,9 +166,15 @@ void FrmMain::spostaSelezionato(int passo) {
     SelezionaRiga(rigaDi(a));
 }
 
-void FrmMain::grigliaMenu(POINT punto) {
+void FrmMain::grigliaMenu(POINT punto, int riga) {
     const ManigliaMenu menu = creaMenuContenuto();
-    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, punto.x, punto.y, 0, hwnd(), nullptr);
+    const int scelto = TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON | TPM_RETURNCMD, punto.x, punto.y,
+                                      0, hwnd(), nullptr);
+    if (riga < 1 && (scelto == mnEditFeed || scelto == mnDelFeed || scelto == mnvisualhtml)) {
+        avvisaNessunaRiga();
+    } else if (scelto != 0) {
+        esegui(scelto);
+    }
 }
 
 bool FrmMain::grigliaTasto(UINT /*tasto*/) {

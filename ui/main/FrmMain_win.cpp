@@ -173,9 +173,13 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         break;
     case WM_SYSCOLORCHANGE:
         // The common controls hear of it from their parent only.
-        for (const HWND controllo : {griglia_.lista(), StatusBar1_, Toolbar1_.hwnd()}) {
-            SendMessageW(controllo, codice, w, l);
-        }
+        EnumChildWindows(
+            hwnd(),
+            [](HWND controllo, LPARAM) noexcept -> BOOL {
+                SendMessageW(controllo, WM_SYSCOLORCHANGE, 0, 0);
+                return TRUE;
+            },
+            0);
         griglia_.aggiornaAspetto();
         break;
     case WM_ACTIVATE:

@@ -83,7 +83,7 @@ private:
     void grigliaDoppioClic(int riga) override;
     void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
-    void grigliaMenu(POINT punto) override;
+    void grigliaMenu(POINT punto, int riga) override;
     bool grigliaTasto(UINT tasto) override;
     void grigliaEccezione() noexcept override { riportaErrore(); }
 
@@ -99,6 +99,8 @@ private:
 
     void creaControlli();
     void comando(int id);
+    // What a command of an item says where the mouse found none, whichever row is the current one.
+    void avvisaNessunaRiga();
     // A drag by one row, with the keyboard.
     void spostaSelezionato(int passo);
     void DisponiFinestra();

@@ -1,23 +1,9 @@
 #pragma once
 
-#include "document/clsImgRss.h"
+#include "document/canale.h"
 #include "document/tabellaElementi.h"
 
-#include <string>
-
 class CampiCanale;
-
-// The channel as reader and writers take it.
-struct Canale {
-    std::wstring title;
-    std::wstring link;
-    std::wstring description;
-    std::wstring language;
-    std::wstring copyright;
-    std::wstring lastBuildDate;
-    std::wstring webMaster;
-    clsImgRss image;
-};
 
 // What the fields hold, trimmed the way the feed wants it; the image is built anew from its fields.
 // Raises 5, 6 or 380 for a date or a number that no feed can carry.

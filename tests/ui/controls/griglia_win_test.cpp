@@ -230,6 +230,22 @@ TEST(Griglia, IlPulsanteDestroSelezionaEPoiApreIlMenu) {
     ASSERT_EQ(p.osservatore.menu.size(), 1U);
     EXPECT_EQ(p.osservatore.menu[0].x, dove.x);
     EXPECT_EQ(p.osservatore.menu[0].y, dove.y);
+    EXPECT_EQ(p.osservatore.righeMenu, std::vector{4});
+}
+
+TEST(Griglia, IlMenuDiceDoveNonCiSonoRighe) {
+    GrigliaProva p(5);
+    p.griglia.seleziona(3);
+    // The header; below the only rows left.
+    const POINT testata = p.puntoTestata();
+    const POINT sotto = p.punto(5);
+    GUI::ImpostaColonne(p.griglia, {L"Uno", L"Due"}, 3, std::nullopt);
+    for (const POINT& dove : {testata, sotto}) {
+        p.vai(dove);
+        p.pulsante(MOUSEEVENTF_RIGHTDOWN);
+        p.pulsante(MOUSEEVENTF_RIGHTUP);
+    }
+    EXPECT_EQ(p.osservatore.righeMenu, (std::vector{0, 0}));
 }
 
 TEST(Griglia, IlMenuDaTastieraSiApreAllaRigaCorrente) {
@@ -242,6 +258,7 @@ TEST(Griglia, IlMenuDaTastieraSiApreAllaRigaCorrente) {
         EXPECT_EQ(m.y, p.punto(3).y);
         EXPECT_GT(m.x, p.sinistra());
     }
+    EXPECT_EQ(p.osservatore.righeMenu, (std::vector{3, 3}));
 }
 
 TEST(Griglia, IlMenuDaTastieraSiApreNellaGrigliaAncheSeLaRigaNonSiVede) {

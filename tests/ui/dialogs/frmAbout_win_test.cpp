@@ -2,6 +2,7 @@
 
 #include "res/risorse.h"
 #include "support/prodotto.h"
+#include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/registratore_win.h"
@@ -87,6 +88,17 @@ private:
     COLORREF prima_;
 };
 
+// The first column with a pixel that is not of the background.
+long inizioInchiostro(const std::vector<COLORREF>& visti, std::size_t larghezza) {
+    std::size_t primo = larghezza;
+    for (std::size_t i = 0; i < visti.size(); ++i) {
+        if (visti[i] != GetSysColor(COLOR_3DFACE)) {
+            primo = std::min(primo, i % larghezza);
+        }
+    }
+    return static_cast<long>(primo);
+}
+
 // The box as the program shows it, closed by `azione`.
 void mostraE(std::function<void(HWND)> azione) {
     MessaggiFinti messaggi;
@@ -109,6 +121,34 @@ TEST_F(frmAboutAperta, MostraITestiDelProdotto) {
     EXPECT_EQ(testo(IDC_LBLSITO), prodotto::sito);
     EXPECT_EQ(testo(IDOK), L"OK");
     EXPECT_EQ(testo(IDC_CMDSYSINFO), L"&System Info...");
+}
+
+TEST_F(frmAboutAperta, IlTitoloSpicca) {
+    const auto carattere = [this](int id) {
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HGDIOBJ>(SendMessageW(controllo(id), WM_GETFONT, 0, 0)),
+                   sizeof(font), &font);
+        return font;
+    };
+    EXPECT_EQ(carattere(IDC_LBLTITLE).lfWeight, FW_BOLD);
+    EXPECT_EQ(carattere(IDC_LBLTITLE).lfHeight, MulDiv(carattere(IDC_LBLAUTORE).lfHeight, 3, 2));
+}
+
+TEST_F(frmAboutAperta, SulCollegamentoSiVedeIlFuoco) {
+    const auto bordo = [this] {
+        pompa();
+        auto visti = colori(IDC_LBLSITO);
+        const RECT r = posto(IDC_LBLSITO);
+        visti.resize(static_cast<std::size_t>(r.right - r.left));
+        return visti;
+    };
+    // As if the keyboard had been used already: else the mouse hides the focus.
+    SendMessageW(about.hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    const auto prima = bordo();
+    SetFocus(controllo(IDC_LBLSITO));
+    EXPECT_NE(bordo(), prima);
+    SetFocus(controllo(IDOK));
+    EXPECT_EQ(bordo(), prima);
 }
 
 TEST_F(frmAboutAperta, IlRiquadroRaccoglieLeEtichette) {
@@ -206,6 +246,31 @@ TEST_F(frmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {
     EXPECT_GT(r.right - r.left, 50);
 }
 
+TEST_F(frmAboutAperta, IlCollegamentoSiVedeFinoAllUltimaLettera) {
+    pompa();
+    const auto visti = colori(IDC_LBLSITO);
+    const RECT r = posto(IDC_LBLSITO);
+    const auto larghezza = static_cast<std::size_t>(r.right - r.left);
+    std::size_t inchiostro = 0;
+    for (std::size_t i = 0; i < visti.size(); ++i) {
+        const std::size_t x = i % larghezza;
+        if (visti[i] != GetSysColor(COLOR_3DFACE)) {
+            EXPECT_GT(x, 1U);
+            EXPECT_LT(x, larghezza - 1);
+            ++inchiostro;
+        }
+    }
+    EXPECT_GT(inchiostro, 100U);
+    // It begins where the other labels do.
+    EXPECT_NEAR(r.left + inizioInchiostro(visti, larghezza), posto(IDC_LBLVERSION).left, 3);
+}
+
+TEST_F(frmAboutAperta, LeFigureHannoUnNomePerChiLeLegge) {
+    EXPECT_EQ(nomeAccessibile(controllo(IDC_PICICON)), L"Icona");
+    EXPECT_EQ(nomeAccessibile(controllo(IDC_IMAGE1)), L"Logo");
+    EXPECT_EQ(nomeAccessibile(controllo(IDC_LBLSITO)), prodotto::sito);
+}
+
 TEST_F(frmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
     pompa();
     const RECT r = posto(IDC_IMAGE1);
@@ -222,8 +287,10 @@ TEST_F(frmAboutAperta, IlLogoSiVedeNellaSuaMisura) {
 }
 
 TEST_F(frmAboutAperta, LIconaEQuellaDelProgramma) {
-    EXPECT_NE(SendMessageW(controllo(IDC_PICICON), STM_GETICON, 0, 0), 0);
     pompa();
+    const RECT r = posto(IDC_PICICON);
+    EXPECT_EQ(r.right - r.left, GetSystemMetrics(SM_CXICON));
+    EXPECT_EQ(r.bottom - r.top, GetSystemMetrics(SM_CYICON));
     const auto visti = colori(IDC_PICICON);
     EXPECT_GT(std::count(visti.begin(), visti.end(), RGB(0x1b, 0x3f, 0x5c)), 50);
 }

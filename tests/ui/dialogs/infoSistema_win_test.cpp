@@ -204,6 +204,12 @@ TEST_F(StartSysInfoRegistro, IlSecondoValoreELaCartellaDelProgramma) {
 TEST_F(StartSysInfoRegistro, SenzaIlProgrammaNellaCartellaNonParteNulla) {
     luogo.testo(L"MSINFO", cartella.percorso());
     deveFallire();
+    // Nor is one that is hidden there.
+    const std::wstring nascosto = registratoreIn(L"MSINFO32.EXE");
+    SetFileAttributesW(nascosto.c_str(), FILE_ATTRIBUTE_HIDDEN);
+    deveFallire();
+    SetFileAttributesW(nascosto.c_str(), FILE_ATTRIBUTE_NORMAL);
+    ASSERT_TRUE(DeleteFileW(nascosto.c_str()));
     // A folder of that name is no program.
     std::filesystem::create_directory(cartella.file(L"MSINFO32.EXE"));
     deveFallire();

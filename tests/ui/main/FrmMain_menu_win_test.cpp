@@ -10,7 +10,19 @@
 
 namespace {
 
-using FrmMainMenu = ProvaFrmMain;
+class FrmMainMenu : public ProvaFrmMain {
+protected:
+    // A right click, and that entry of the context menu counted from 1; with 0 the menu goes.
+    void scegliDalMenu(HWND dove, int posto) {
+        const QuandoAppare menu(L"#32768", L"", [&](HWND) {
+            for (int i = 0; i < posto; ++i) {
+                PostMessageW(finestra.hwnd(), WM_KEYDOWN, VK_DOWN, 0);
+            }
+            PostMessageW(finestra.hwnd(), WM_KEYDOWN, posto == 0 ? VK_ESCAPE : VK_RETURN, 0);
+        });
+        clicDestro(dove, {60, 5});
+    }
+};
 
 // An entry as a menu has to show it; "-" is a separator, a submenu has no command.
 struct Attesa {
@@ -157,6 +169,28 @@ TEST_F(FrmMainMenu, IlPulsanteDestroParlaDellaRigaCliccata) {
     });
     clicDestro(finestra.griglia().lista(), {40, meta(r).y});
     EXPECT_TRUE(attendi([&] { return titoliElementi() == L"a;b;"; }));
+}
+
+TEST_F(FrmMainMenu, DallIntestazioneSiAggiungeMaNonSiToccaLaRigaCorrente) {
+    metti(L"a");
+    metti(L"b");
+    const HWND testata = ListView_GetHeader(finestra.griglia().lista());
+    // Modify, delete, preview: their places in the menu, from the top.
+    for (const int posto : {2, 3, 4}) {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+        scegliDalMenu(testata, posto);
+    }
+    EXPECT_EQ(titoliElementi(), L"a;b;");
+    editor.attendi([](clsItemRss& elemento, DataOra data) {
+        elemento.sTitle(L"c");
+        return std::optional(data);
+    });
+    scegliDalMenu(testata, 1);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    // Nothing chosen is nothing done.
+    scegliDalMenu(testata, 0);
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
 }
 
 TEST_F(FrmMainMenu, IlTastoMenuApreAllaRigaCorrente) {

@@ -4,51 +4,20 @@
 #include "support/immagine_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/immagini_prova.h"
 
 #include <windows.h>
 
 #include <commctrl.h>
 
-#include <algorithm>
-#include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-// A picture of one colour: 24 bits a pixel, the lines filled to whole words.
-std::string bmp(int larghezza, int altezza, COLORREF colore) {
-    std::string file;
-    const auto aggiungi = [&file](auto numero, std::size_t byte) {
-        for (std::size_t i = 0; i < byte; ++i) {
-            file += static_cast<char>(static_cast<std::uint32_t>(numero) >> (8 * i) & 0xFFU);
-        }
-    };
-    const int linea = (larghezza * 3 + 3) / 4 * 4;
-    file += "BM";
-    aggiungi(54 + linea * altezza, 4);
-    aggiungi(0, 4);
-    aggiungi(54, 4);
-    aggiungi(40, 4);
-    aggiungi(larghezza, 4);
-    aggiungi(altezza, 4);
-    aggiungi(1, 2);
-    aggiungi(24, 2);
-    aggiungi(0, 24);
-    for (int y = 0; y < altezza; ++y) {
-        for (int x = 0; x < larghezza; ++x) {
-            aggiungi(GetBValue(colore), 1);
-            aggiungi(GetGValue(colore), 1);
-            aggiungi(GetRValue(colore), 1);
-        }
-        file.append(static_cast<std::size_t>(linea - 3 * larghezza), '\0');
-    }
-    return file;
-}
+using immagini::bmp;
 
 // A grey picture of 4 by 3 pixels.
 std::string jpg() {

@@ -234,6 +234,24 @@ TEST_F(Documenti, UnSalvataggioFallitoLasciaPercorsoTitoloElencoEModifica) {
     EXPECT_TRUE(impostazioni.valori.empty());
 }
 
+TEST_F(Documenti, UnElencoCheNonSiScriveSiDiceAFileGiaSalvatoECheRestaModificato) {
+    metti(L"uno");
+    finestra.ImpostaModificato();
+    impostazioni.rifiuta = true;
+    const std::wstring percorso = cartella.file(L"r.xml");
+    dialoghi.attendiSalva(richiestaSalva, percorso);
+    attendiErrore(75, L"Errore di accesso al percorso/file");
+    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_NE(leggiTutto(percorso).find("uno"), std::string::npos);
+    EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
+    EXPECT_TRUE(finestra.stato().modificato());
+    // Once the store lets itself be written, the same file without asking.
+    impostazioni.rifiuta = false;
+    EXPECT_TRUE(finestra.documento().Salva(false));
+    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(impostazioni.valori.size(), 1U);
+}
+
 TEST_F(Documenti, UnFileTenutoDaUnAltroProgrammaNonSiSalva) {
     ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
     const ManigliaFile tenuto(CreateFileW(finestra.campi().Tag().c_str(), GENERIC_READ, 0, nullptr,
@@ -297,6 +315,17 @@ TEST_F(Documenti, IRecentiStannoNelMenuESiAprono) {
     EXPECT_EQ(titoliElementi(), L"uno;");
     // Opened from the list, under the path as the list has it.
     EXPECT_NE(finestra.campi().Tag().find(L"a&b.xml"), std::wstring::npos);
+}
+
+TEST_F(Documenti, AncheIlDecimoRecenteSiApre) {
+    const std::wstring decimo = feed(L"decimo.xml");
+    for (int i = 1; i <= 10; ++i) {
+        impostazioni.scrivi(L"url", L"murl" + std::to_wstring(i),
+                            i == 10 ? decimo : L"c:\\f" + std::to_wstring(i) + L".xml");
+    }
+    finestra.CaricaRecenti();
+    SendMessageW(finestra.hwnd(), WM_COMMAND, mnrec + 10, 0);
+    EXPECT_EQ(titoliElementi(), L"uno;");
 }
 
 TEST_F(Documenti, UnDocumentoNuovoDiSoliSpaziVaSenzaDomanda) {

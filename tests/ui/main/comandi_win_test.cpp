@@ -2,9 +2,7 @@
 
 #include "support/file_win.h"
 #include "support/prodotto.h"
-#include "tests/aiuti/ambiente_win.h"
-#include "tests/aiuti/frmMain_win.h"
-#include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/comandi_prova_win.h"
 
 #include <commctrl.h>
 
@@ -14,9 +12,6 @@
 #include <vector>
 
 namespace {
-
-const RichiestaFile richiestaPagina{
-    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", 2050, L".htm"};
 
 // A file of this content at a path outside the test's folder, gone afterwards.
 class FilePassante {
@@ -35,44 +30,9 @@ private:
     std::wstring percorso_;
 };
 
-class Comandi : public ProvaFrmMain {
+class Comandi : public ProvaComandi {
 protected:
     using Caso = std::function<void()>;
-
-    void SetUp() override {
-        for (const wchar_t* const protocollo : {L"https", L"mailto"}) {
-            registratore.protocollo(protocollo);
-        }
-        registratore.tipo(L".htm");
-        registratore.tipo(L".hlp");
-    }
-
-    // Three items, the second one selected; a clean document again.
-    void riparti() {
-        finestra.NuovoDocumento();
-        for (const wchar_t* const nome : {L"uno", L"due", L"tre"}) {
-            metti(nome);
-        }
-        finestra.SelezionaRiga(2);
-        finestra.stato().modificato(false);
-    }
-
-    // What an export or a preview must leave as it is.
-    [[nodiscard]] std::wstring stato() {
-        return titolo() + L'|' + finestra.campi().Tag() + L'|' + titoliElementi() +
-               std::to_wstring(finestra.stato().modificato()) +
-               std::to_wstring(impostazioni.valori.size()) + L'|' +
-               std::to_wstring(finestra.griglia().rigaCorrente());
-    }
-
-    void attendiDomandaPagina(Risposta risposta) {
-        messaggi.attendi(L"Si desidera aprire il file salvato?", L"Salva come pagina Web...",
-                         Icona::Domanda, Pulsanti::SiNo, risposta);
-    }
-    void attendiSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
-    }
 
     void apreIlWeb(const std::wstring& dopoIlSito) {
         esegui_();
@@ -154,7 +114,6 @@ protected:
 
     // What the entry or button of the present case does when it is used.
     Caso esegui_;
-    Registratore registratore;
 };
 
 // The entries of a menu and of those in it, with the path of captions that leads there.
@@ -317,107 +276,4 @@ TEST_F(Comandi, OgniPulsanteDellaBarraFaIlSuoLavoro) {
         {L"Informazioni sul prodotto...", [&] { mostraInformazioni(); }},
     };
     prova(pulsanti, casi);
-}
-
-TEST_F(Comandi, EsportareSenzaElementiSiRifiutaSenzaDialogo) {
-    attendiErrore(12883, L"Per salvare il documento è necessario immettere almeno un contenuto. "
-                         L"Salvataggio non consentito.");
-    finestra.esegui(mnsalvahtm);
-}
-
-TEST_F(Comandi, AnnullareLEsportazioneNonDiceNulla) {
-    riparti();
-    const std::wstring prima = stato();
-    dialoghi.attendiSalva(richiestaPagina, std::nullopt);
-    finestra.esegui(mnsalvahtm);
-    EXPECT_EQ(stato(), prima);
-}
-
-TEST_F(Comandi, RispondereNoLasciaLaPaginaENonApreNulla) {
-    riparti();
-    for (const bool modificato : {false, true}) {
-        finestra.stato().modificato(modificato);
-        const std::wstring prima = stato();
-        dialoghi.attendiSalva(richiestaPagina, cartella.file(L"no.htm"));
-        attendiDomandaPagina(Risposta::No);
-        finestra.esegui(mnsalvahtm);
-        EXPECT_NE(leggiTutto(cartella.file(L"no.htm")).find("tre"), std::string::npos);
-        EXPECT_EQ(stato(), prima);
-    }
-    // Had one of them opened something, it would come before this.
-    finestra.esegui(mniaco);
-    EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
-}
-
-TEST_F(Comandi, EsportareSuUnaPaginaInSolaLetturaOSuUnaCartellaSiDiceENienteSiPerde) {
-    riparti();
-    const std::wstring pagina = cartella.scrivi(L"ferma.htm", "vecchia");
-    SetFileAttributesW(pagina.c_str(), FILE_ATTRIBUTE_READONLY);
-    const std::wstring sotto = cartella.file(L"cartella.htm");
-    CreateDirectoryW(sotto.c_str(), nullptr);
-    const std::wstring prima = stato();
-    for (const std::wstring& dove : {pagina, sotto}) {
-        dialoghi.attendiSalva(richiestaPagina, dove);
-        attendiErrore(75, L"Errore di accesso al percorso/file");
-        finestra.esegui(mnsalvahtm);
-        EXPECT_EQ(stato(), prima);
-    }
-    EXPECT_EQ(leggiTutto(pagina), "vecchia");
-    SetFileAttributesW(pagina.c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
-TEST_F(Comandi, EsportareSulFeedApertoNonToccaIlDocumentoCheSiRisalva) {
-    riparti();
-    const std::wstring feed = cartella.file(L"feed.xml");
-    dialoghi.attendiSalva(richiestaSalva, feed);
-    finestra.esegui(mnsalva);
-    const std::string salvato = leggiTutto(feed);
-    const std::wstring prima = stato();
-    dialoghi.attendiSalva(richiestaPagina, feed);
-    attendiDomandaPagina(Risposta::No);
-    finestra.esegui(mnsalvahtm);
-    EXPECT_NE(leggiTutto(feed), salvato);
-    EXPECT_EQ(stato(), prima);
-    finestra.esegui(mnsalva);
-    EXPECT_EQ(leggiTutto(feed), salvato);
-}
-
-TEST_F(Comandi, LAnteprimaSenzaElementoDiceDiSceglierneUnoENonScriveNulla) {
-    const std::wstring temporanea = cartella.file(L"tmp");
-    CreateDirectoryW(temporanea.c_str(), nullptr);
-    const VariabileAmbiente tmp(L"TMP", temporanea);
-    attendiSelezione(); // no row at all
-    finestra.esegui(mnvisualhtml);
-    riparti();
-    finestra.SelezionaRiga(10); // a filler row
-    attendiSelezione();
-    finestra.esegui(mnvisualhtml);
-    EXPECT_TRUE(RemoveDirectoryW(temporanea.c_str())) << "not empty";
-}
-
-TEST_F(Comandi, LAnteprimaMostraSoloLElementoSceltoESparisceConLaCoda) {
-    riparti();
-    const std::wstring prima = stato();
-    finestra.esegui(mnvisualhtml);
-    const std::wstring una = registratore.attendi().obiettivo;
-    finestra.esegui(mnvisualhtml);
-    const std::wstring altra = registratore.attendi().obiettivo;
-    EXPECT_NE(una, altra);
-    const std::string pagina = leggiTutto(una);
-    EXPECT_NE(pagina.find("e.example/due"), std::string::npos);
-    EXPECT_EQ(pagina.find("e.example/tre"), std::string::npos);
-    EXPECT_EQ(stato(), prima);
-    coda.CancellaFile();
-    EXPECT_FALSE(fileEsiste(una));
-    EXPECT_FALSE(fileEsiste(altra));
-    EXPECT_FALSE(fileEsiste(una.substr(0, una.size() - 4)));
-}
-
-TEST_F(Comandi, LAnteprimaCheNonSiPuoScrivereSiDice) {
-    riparti();
-    const VariabileAmbiente tmp(L"TMP", cartella.file(L"manca"));
-    const std::wstring prima = stato();
-    attendiErrore(76, L"Impossibile trovare il percorso");
-    finestra.esegui(mnvisualhtml);
-    EXPECT_EQ(stato(), prima);
 }

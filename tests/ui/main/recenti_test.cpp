@@ -1,6 +1,7 @@
 #include "ui/main/recenti.h"
 
 #include "tests/aiuti/impostazioni_finte.h"
+#include "tests/aiuti/sollevato.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,19 @@ TEST(Recenti, LoStessoPercorsoInAltreMaiuscoleEUnaVoceSola) {
     elenco.AggiungiRecente(L"c:\\feed\\altro.xml");
     elenco.AggiungiRecente(L"c:\\feed\\news.xml");
     EXPECT_EQ(elenco.voci(), (Voci{L"c:\\feed\\news.xml", L"c:\\feed\\altro.xml"}));
+    elenco.AggiungiRecente(L"C:\\FEED\\ALTRO.XML ");
+    ASSERT_EQ(elenco.voci(), (Voci{L"c:\\feed\\altro.xml", L"c:\\feed\\news.xml"}));
+    // In the store too.
+    EXPECT_EQ(archivio.leggi(L"url", L"murl1", L""), L"c:\\feed\\altro.xml ");
+}
+
+TEST(Recenti, UnArchivioCheRifiutaLasciaLElencoComEra) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti elenco(archivio);
+    elenco.AggiungiRecente(L"c:\\a.xml");
+    archivio.rifiuta = true;
+    EXPECT_EQ(sollevatoDa([&] { elenco.AggiungiRecente(L"c:\\b.xml"); }).numero, 75);
+    EXPECT_EQ(elenco.voci(), Voci{L"c:\\a.xml"});
 }
 
 TEST(Recenti, DopoUndiciFileRestanoIDieciPiuRecenti) {
