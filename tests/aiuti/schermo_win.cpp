@@ -51,6 +51,27 @@ void invia(std::vector<INPUT> eventi) {
     pompa();
 }
 
+// Under Wine a display that was told to move the pointer tells the window beneath it too, a little
+// later, as if the user had moved it: what is pressed before that news has come may be pressed at
+// the place before. Returns when the news has come.
+void attendiPuntatore(HWND finestra) {
+    // The display answers in turn: what it was asked before is done then, and what it had to tell
+    // is on its way.
+    const HDC schermo = GetDC(nullptr);
+    static_cast<void>(GetPixel(schermo, 0, 0));
+    ReleaseDC(nullptr, schermo);
+    if (GetWindowThreadProcessId(finestra, nullptr) == GetCurrentThreadId()) {
+        pompa();
+        return;
+    }
+    // A thread that has answered and waits again takes what the display tells; the second answer
+    // shows that it did.
+    for (int i = 0; i < 2; ++i) {
+        DWORD_PTR esito = 0;
+        SendMessageTimeoutW(finestra, WM_NULL, 0, 0, SMTO_NORMAL, 30000, &esito);
+    }
+}
+
 POINT meta(HWND finestra) {
     RECT r{};
     GetClientRect(finestra, &r);
@@ -143,6 +164,7 @@ void muoviMouse(HWND finestra, POINT punto) {
     evento.mi.dx = scala(punto.x, GetSystemMetrics(SM_CXSCREEN));
     evento.mi.dy = scala(punto.y, GetSystemMetrics(SM_CYSCREEN));
     invia({evento});
+    attendiPuntatore(finestra);
 }
 
 void premiMouse(HWND finestra, POINT punto) {

@@ -72,11 +72,21 @@ public:
     }
     // The keyboard is the window's, or that of something in it.
     void attendiTastiera(HWND finestra) {
+        // Asked for rarely: each request waits in the program's queue, and one that is answered
+        // late takes the keyboard from what has come up since, or ends a drag.
+        constexpr ULONGLONG intervallo = 2000; // milliseconds
+        ULONGLONG prossima = GetTickCount64() + intervallo;
         EXPECT_TRUE(attendiChe([&] {
-            SetForegroundWindow(finestra);
             const HWND fuoco = fuocoCorrente();
-            return GetForegroundWindow() == finestra &&
-                   (fuoco == finestra || IsChild(finestra, fuoco) != FALSE);
+            const bool davanti = GetForegroundWindow() == finestra;
+            if (davanti && (fuoco == finestra || IsChild(finestra, fuoco) != FALSE)) {
+                return true;
+            }
+            if (!davanti && GetTickCount64() >= prossima) {
+                SetForegroundWindow(finestra);
+                prossima = GetTickCount64() + intervallo;
+            }
+            return false;
         })) << "the window does not get the keyboard";
     }
     [[nodiscard]] HWND fuocoCorrente() const {
