@@ -51,12 +51,9 @@ void invia(std::vector<INPUT> eventi) {
     pompa();
 }
 
-// Under Wine a display that was told to move the pointer tells the window beneath it too, a little
-// later, as if the user had moved it: what is pressed before that news has come may be pressed at
-// the place before. Returns when the news has come.
-void attendiPuntatore(HWND finestra) {
-    // The display answers in turn: what it was asked before is done then, and what it had to tell
-    // is on its way.
+// Asks the display and the window's thread for an answer each: what the display had to tell that
+// thread before is taken by then.
+void attendiRisposte(HWND finestra) {
     const HDC schermo = GetDC(nullptr);
     static_cast<void>(GetPixel(schermo, 0, 0));
     ReleaseDC(nullptr, schermo);
@@ -64,8 +61,7 @@ void attendiPuntatore(HWND finestra) {
         pompa();
         return;
     }
-    // A thread that has answered and waits again takes what the display tells; the second answer
-    // shows that it did.
+    // A thread takes what the display tells between one answer and the next.
     for (int i = 0; i < 2; ++i) {
         DWORD_PTR esito = 0;
         SendMessageTimeoutW(finestra, WM_NULL, 0, 0, SMTO_NORMAL, 30000, &esito);
@@ -163,8 +159,24 @@ void muoviMouse(HWND finestra, POINT punto) {
     INPUT evento = mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
     evento.mi.dx = scala(punto.x, GetSystemMetrics(SM_CXSCREEN));
     evento.mi.dy = scala(punto.y, GetSystemMetrics(SM_CYSCREEN));
-    invia({evento});
-    attendiPuntatore(finestra);
+    // Under Wine the display tells the window beneath the pointer where it is too, a little later,
+    // as if the user had moved it there: late news of the place before would take the press with
+    // it.
+    constexpr int risposteConcordi = 3;
+    const auto fine = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    for (int concordi = 0; concordi < risposteConcordi;) {
+        if (concordi == 0) {
+            invia({evento});
+        }
+        attendiRisposte(finestra);
+        POINT dove{};
+        GetCursorPos(&dove);
+        concordi = dove.x == punto.x && dove.y == punto.y ? concordi + 1 : 0;
+        if (std::chrono::steady_clock::now() > fine) {
+            ADD_FAILURE() << "the pointer does not stay at " << punto.x << ", " << punto.y;
+            return;
+        }
+    }
 }
 
 void premiMouse(HWND finestra, POINT punto) {
