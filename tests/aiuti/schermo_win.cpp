@@ -152,6 +152,9 @@ void scrivi(std::wstring_view testo) {
 
 void muoviMouse(HWND finestra, POINT punto) {
     ClientToScreen(finestra, &punto);
+    // A pointer never leaves the screen.
+    punto.x = std::clamp<LONG>(punto.x, 0, GetSystemMetrics(SM_CXSCREEN) - 1);
+    punto.y = std::clamp<LONG>(punto.y, 0, GetSystemMetrics(SM_CYSCREEN) - 1);
     // The system's measure is 65536 to the screen, rounded down: round up to land on the pixel.
     const auto scala = [](LONG p, int schermo) {
         return static_cast<LONG>((p * 65536LL + schermo - 1) / schermo);
