@@ -30,6 +30,7 @@ inline constexpr std::int32_t divisionePerZero = 11;
 inline constexpr std::int32_t tipoNonCorrispondente = 13;
 inline constexpr std::int32_t nomeFileNonValido = 52;
 inline constexpr std::int32_t fileNonTrovato = 53;
+inline constexpr std::int32_t fileGiaAperto = 55;
 inline constexpr std::int32_t erroreIO = 57;
 inline constexpr std::int32_t discoPieno = 61;
 inline constexpr std::int32_t unitaNonDisponibile = 68;

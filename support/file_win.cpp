@@ -19,6 +19,24 @@ bool fileEsiste(const std::wstring& percorso) noexcept {
     return false;
 }
 
+bool stessoFile(const std::wstring& uno, const std::wstring& altro) noexcept {
+    const auto apri = [](const std::wstring& percorso) noexcept {
+        // No access is asked for: the file may be open elsewhere, or not be ours to read.
+        return ManigliaFile(CreateFileW(percorso.c_str(), 0,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
+    };
+    // Both stay open while their numbers are compared: a closed file's may be given to another.
+    const ManigliaFile primo = apri(uno);
+    const ManigliaFile secondo = apri(altro);
+    BY_HANDLE_FILE_INFORMATION a{};
+    BY_HANDLE_FILE_INFORMATION b{};
+    return primo && secondo && GetFileInformationByHandle(primo.get(), &a) != FALSE &&
+           GetFileInformationByHandle(secondo.get(), &b) != FALSE &&
+           a.dwVolumeSerialNumber == b.dwVolumeSerialNumber &&
+           a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
+}
+
 void cancellaFile(const std::wstring& percorso) {
     if (!DeleteFileW(percorso.c_str())) {
         sollevaWin32();

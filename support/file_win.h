@@ -7,6 +7,10 @@
 // names nothing.
 [[nodiscard]] bool fileEsiste(const std::wstring& percorso) noexcept;
 
+// Whether two paths name one and the same file, however each is written; false when one of them
+// cannot be looked at.
+[[nodiscard]] bool stessoFile(const std::wstring& uno, const std::wstring& altro) noexcept;
+
 // Deletes a file. Raises the run-time error of the failure.
 void cancellaFile(const std::wstring& percorso);
 

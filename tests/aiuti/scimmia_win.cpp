@@ -243,6 +243,9 @@ void Scimmia::passo() {
 
 void Scimmia::riposa() {
     ReleaseCapture();
+    // The toolbar makes its tooltip when it first needs it.
+    SendMessageW(GetDlgItem(finestra_.hwnd(), IDC_TOOLBAR), TB_GETTOOLTIPS, 0, 0);
+    DateTime_CloseMonthCal(GetDlgItem(finestra_.campi().hwnd(), IDC_TXTDATA));
     premi(VK_ESCAPE);
     SetFocus(GetDlgItem(finestra_.campi().hwnd(), IDC_TXTTITOLO));
     SetWindowPos(finestra_.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER);

@@ -1,5 +1,6 @@
 #include "support/file_win.h"
 
+#include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/sollevato.h"
 
@@ -40,6 +41,34 @@ TEST(FileEsiste, NascostiEDiSistemaNo) {
         }
         EXPECT_FALSE(fileEsiste(file)) << attributi;
     }
+}
+
+TEST(StessoFile, ComunqueSiaScrittoIlPercorso) {
+    const CartellaProva cartella;
+    const auto uno = cartella.scrivi(L"uno.xml", "x");
+    const auto altro = cartella.scrivi(L"altro.xml", "x");
+    EXPECT_TRUE(stessoFile(uno, uno));
+    EXPECT_TRUE(stessoFile(uno, cartella.file(L".\\UNO.XML")));
+    EXPECT_TRUE(stessoFile(cartella.percorso() + L"/uno.xml", uno));
+    EXPECT_FALSE(stessoFile(uno, altro));
+}
+
+TEST(StessoFile, CioCheNonCeNonELoStesso) {
+    const CartellaProva cartella;
+    const auto uno = cartella.scrivi(L"uno.xml", "x");
+    EXPECT_FALSE(stessoFile(uno, cartella.file(L"manca.xml")));
+    EXPECT_FALSE(stessoFile(cartella.file(L"manca.xml"), cartella.file(L"manca.xml")));
+    EXPECT_FALSE(stessoFile(uno, L""));
+    EXPECT_FALSE(stessoFile(L"", L""));
+}
+
+TEST(StessoFile, ApertoDaAltriSiRiconosce) {
+    const CartellaProva cartella;
+    const auto uno = cartella.scrivi(L"uno.xml", "x");
+    const ManigliaFile aperto(CreateFileW(uno.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                          OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(aperto);
+    EXPECT_TRUE(stessoFile(uno, uno));
 }
 
 TEST(FileEsiste, ICaratteriJollySiEspandono) {

@@ -2,8 +2,12 @@
 
 #include "document/clsFeedRss.h"
 #include "support/dialoghiFile.h"
+#include "support/errore.h"
+#include "support/file_win.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
+#include "support/messaggi.h"
+#include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/guardia_win.h"
@@ -27,6 +31,10 @@ void ComandiPagina::EsportaHTML() {
         [&] {
             richiediElementi(elementi_);
             const std::wstring percorso = servizi_.dialoghi.salva(richiestaPagina);
+            if (stessoFile(percorso, campi_.Tag())) {
+                // The page would take the feed's place on disk, and closing would not ask.
+                solleva(errori::fileGiaAperto);
+            }
             {
                 const Clessidra clessidra;
                 const Canale c = raccogliCanale(campi_);

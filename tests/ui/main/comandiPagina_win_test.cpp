@@ -112,19 +112,19 @@ TEST_F(Pagina, EsportareSuUnaPaginaInSolaLetturaOSuUnaCartellaSiDiceENienteSiPer
     SetFileAttributesW(pagina.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
-TEST_F(Pagina, EsportareSulFeedApertoNonToccaIlDocumentoCheSiRisalva) {
+TEST_F(Pagina, EsportareSulFeedApertoSiRifiutaENienteSiPerde) {
     const std::wstring feed = cartella.file(L"feed.xml");
     dialoghi.attendiSalva(richiestaSalva, feed);
     finestra.esegui(mnsalva);
     const std::string salvato = leggiTutto(feed);
     const std::wstring prima = stato();
-    dialoghi.attendiSalva(richiestaPagina, feed);
-    attendiDomandaPagina(Risposta::No);
-    finestra.esegui(mnsalvahtm);
-    EXPECT_NE(leggiTutto(feed), salvato);
-    EXPECT_EQ(stato(), prima);
-    finestra.esegui(mnsalva);
-    EXPECT_EQ(leggiTutto(feed), salvato);
+    for (const std::wstring& stesso : {feed, cartella.file(L".\\FEED.XML")}) {
+        dialoghi.attendiSalva(richiestaPagina, stesso);
+        attendiErrore(55, L"File già aperto");
+        finestra.esegui(mnsalvahtm);
+        EXPECT_EQ(leggiTutto(feed), salvato);
+        EXPECT_EQ(stato(), prima);
+    }
 }
 
 TEST_F(Pagina, SenzaBrowserLaPaginaRestaDovEEdELUnicoMessaggio) {
