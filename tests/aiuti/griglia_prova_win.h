@@ -24,7 +24,6 @@ public:
         menu.push_back(punto);
         righeMenu.push_back(riga);
     }
-    bool grigliaTasto(UINT tasto) override { return tasto == gestito; }
     void grigliaEccezione() noexcept override { ++eccezioni; }
 
     // Those that begin with "sposta"; with "doppio".
@@ -35,7 +34,6 @@ public:
     // The context menus asked for, and the rows that they speak of.
     std::vector<POINT> menu;
     std::vector<int> righeMenu;
-    UINT gestito = 0;
     int eccezioni = 0;
     // Moving an item raises an error.
     bool fallisce = false;

@@ -278,9 +278,6 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     default:
         break;
     }
-    if (osservatore_.grigliaTasto(static_cast<UINT>(w))) {
-        return 0;
-    }
     // The list brings the row into sight after it has told the change: only then is it known
     // whether it has to become the top row.
     const bool prima = std::exchange(allineando_, true);

@@ -33,8 +33,6 @@ public:
     // The context menu is asked for, at a point of the screen in pixels and on that row; 0 on the
     // header and below the last row. Any other row means the current one.
     virtual void grigliaMenu(POINT punto, int riga) = 0;
-    // A key went down (a VK_ code) while nothing is dragged; True when it is dealt with.
-    virtual bool grigliaTasto(UINT tasto) = 0;
     // Called inside the catch of an exception that left one of the above: see `erroreCorrente`.
     virtual void grigliaEccezione() noexcept = 0;
 };

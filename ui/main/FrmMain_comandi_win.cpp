@@ -176,7 +176,3 @@ void FrmMain::grigliaMenu(POINT punto, int riga) {
         esegui(scelto);
     }
 }
-
-bool FrmMain::grigliaTasto(UINT /*tasto*/) {
-    return false;
-}

@@ -84,7 +84,6 @@ private:
     void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override;
-    bool grigliaTasto(UINT tasto) override;
     void grigliaEccezione() noexcept override { riportaErrore(); }
 
     void Form_Load();

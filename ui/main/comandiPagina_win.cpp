@@ -6,7 +6,6 @@
 #include "support/file_win.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
-#include "support/messaggi.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
 #include "ui/main/comandiElementi_win.h"

@@ -311,15 +311,6 @@ TEST(Griglia, LaRotellaScorreSoloInVerticale) {
     EXPECT_EQ(r.left, 0);
 }
 
-TEST(Griglia, UnTastoGestitoDalProprietarioNonArrivaAllaLista) {
-    GrigliaProva p(5);
-    p.osservatore.gestito = VK_DOWN;
-    p.premiTasto(VK_DOWN);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
-    p.premiTasto(VK_END);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 49);
-}
-
 TEST(Griglia, LIntestazioneNonSiTrascinaENonSiAllarga) {
     GrigliaProva p(3);
     POINT divisione = p.puntoTestata();

@@ -1,12 +1,9 @@
 #include "ui/main/comandiElementi_win.h"
 
 #include "support/errore.h"
+#include "tests/aiuti/comandiElementi_prova_win.h"
 #include "tests/aiuti/editor_finto.h"
-#include "tests/aiuti/editor_prova_win.h"
-#include "tests/aiuti/griglia_prova_win.h"
-#include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/schermo_win.h"
-#include "ui/main/GUI_win.h"
 
 #include <array>
 #include <cstdint>
@@ -17,56 +14,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-// The window of the commands: a real grid and the modified flag.
-class FinestraProva final : public FinestraElementi {
-public:
-    explicit FinestraProva(Griglia& griglia) noexcept : griglia_(griglia) {}
-
-    void RiempiGriglia(bool soloIntestazioni) override {
-        if (fallisce) {
-            solleva(errori::memoriaEsaurita);
-        }
-        GUI::RiempiGriglia(griglia_, soloIntestazioni);
-    }
-    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
-    [[nodiscard]] int ElementoSelezionato() const override {
-        return griglia_.ElementoSelezionato();
-    }
-    void ImpostaModificato() override { modificato = true; }
-
-    bool modificato = false;
-    bool fallisce = false;
-
-private:
-    Griglia& griglia_;
-};
-
-const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
-
-// The commands on a grid of `elementi` items.
-struct Banco {
-    Banco(int elementi, EditorElementi& editor)
-        : griglia(elementi), comandi(messaggi, editor, finestra, griglia.tabella, ultima) {}
-
-    void attendiSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
-    }
-    void attendiDomanda(Risposta risposta) {
-        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
-                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
-    }
-    [[nodiscard]] std::wstring campo(CampoElemento campo, int indice) const {
-        return griglia.tabella(campo, indice);
-    }
-
-    MessaggiFinti messaggi;
-    GrigliaProva griglia;
-    FinestraProva finestra{griglia.griglia};
-    DataOra ultima = inizio;
-    ComandiElementi comandi;
-};
 
 class ComandiElementiGriglia : public testing::Test {
 protected:
@@ -385,66 +332,4 @@ TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
             ASSERT_EQ(banco.griglia.testo(quanti + 1, 2), L"-1");
         }
     }
-}
-
-namespace {
-
-// The commands with the real editor.
-class ComandiConEditorVero : public ProvaEditor {
-protected:
-    EditorElementiWindows vero{messaggi, orologio};
-    Banco banco{2, vero};
-
-    void aggiungi(std::function<void()> azioni) {
-        usa([this] { banco.comandi.cmdAggiungi_Click(); }, std::move(azioni));
-    }
-};
-
-} // namespace
-
-TEST_F(ComandiConEditorVero, IlProssimoNuovoParteDallaDataDellUltimo) {
-    const auto ieri = DataOra::daParti(2005, 11, 30, 10, 0, 0);
-    aggiungi([&] {
-        EXPECT_EQ(selettore(IDC_EDITDATA), inizio);
-        scrivi(L" titolo ");
-        imposta(IDC_EDITLINK, L"link");
-        selettore(IDC_EDITDATA, ieri);
-        selettore(IDC_EDITORARIO, ieri);
-        premi(VK_RETURN);
-    });
-    ASSERT_EQ(banco.griglia.tabella.conteggio(), 3);
-    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 2), L"titolo");
-    EXPECT_EQ(banco.campo(CampoElemento::Data, 2), L"Wed, 30 Nov 2005 10:00:00 +0200");
-    aggiungi([&] {
-        EXPECT_EQ(testo(IDC_EDITTITOLO), L"");
-        EXPECT_EQ(selettore(IDC_EDITDATA), ieri);
-        EXPECT_EQ(selettore(IDC_EDITORARIO), ieri);
-        premi(VK_ESCAPE);
-    });
-    EXPECT_EQ(banco.griglia.tabella.conteggio(), 3);
-}
-
-TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato) {
-    TabellaElementi& tabella = banco.griglia.tabella;
-    tabella(CampoElemento::Titolo, 1) = L"  titolo  ";
-    tabella(CampoElemento::Link, 1) = L"link";
-    tabella(CampoElemento::Descrizione, 1) = L"riga\r\n\tseconda ";
-    tabella(CampoElemento::Autore, 1) = L" autore ";
-    tabella(CampoElemento::Guid, 1) = L" guid ";
-    banco.finestra.SelezionaRiga(2);
-    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_RETURN); });
-    EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"titolo");
-    EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"riga\r\n\tseconda");
-    EXPECT_EQ(banco.campo(CampoElemento::Autore, 1), L" autore ");
-    EXPECT_EQ(banco.campo(CampoElemento::Guid, 1), L" guid ");
-    EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
-}
-
-TEST_F(ComandiConEditorVero, LaDataIlleggibileDiUnElementoRestaSeSiAnnulla) {
-    banco.griglia.tabella(CampoElemento::Data, 1) = L"domani";
-    banco.finestra.SelezionaRiga(2);
-    messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione);
-    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_ESCAPE); });
-    EXPECT_EQ(banco.campo(CampoElemento::Data, 1), L"domani");
-    EXPECT_FALSE(banco.finestra.modificato);
 }
