@@ -2,6 +2,8 @@
 
 #include <psapi.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 
 Cronometro::Cronometro() noexcept {
@@ -15,6 +17,12 @@ double Cronometro::millisecondi() const noexcept {
     QueryPerformanceFrequency(&frequenza);
     return static_cast<double>(adesso.QuadPart - inizio_.QuadPart) * 1000.0 /
            static_cast<double>(frequenza.QuadPart);
+}
+
+double mediana(std::vector<double> valori) {
+    const auto meta = valori.begin() + static_cast<std::ptrdiff_t>(valori.size() / 2);
+    std::nth_element(valori.begin(), meta, valori.end());
+    return *meta;
 }
 
 std::uint64_t piccoMemoria() noexcept {

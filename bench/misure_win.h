@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <vector>
 
 // Time since it was made, in milliseconds.
 class Cronometro {
@@ -13,6 +14,13 @@ public:
 private:
     LARGE_INTEGER inizio_{};
 };
+
+// How often a save is repeated in one process: a single one is too short for a machine that is at
+// times slower.
+inline constexpr int salvataggi = 5;
+
+// The middle one of at least one figure.
+[[nodiscard]] double mediana(std::vector<double> valori);
 
 // The most memory that this process ever had resident, in KiB.
 [[nodiscard]] std::uint64_t piccoMemoria() noexcept;

@@ -16,6 +16,21 @@ constexpr bool ammesso(char32_t c) noexcept {
            (c >= 0xE000 && c < 0xFFFE) || (c >= 0x10000 && c <= 0x10FFFF);
 }
 
+// How many characters are looked at together.
+constexpr std::size_t blocco = 32;
+
+// Whether none needs a closer look. No way out half way: a large feed has millions of characters,
+// and this is a loop that compilers do for several at once.
+bool tuttiComuni(std::wstring_view parte) noexcept {
+    constexpr std::uint32_t primo = 0x20;
+    constexpr std::uint32_t quanti = 0xD800 - primo;
+    bool comuni = true;
+    for (const wchar_t c : parte) {
+        comuni &= static_cast<std::uint32_t>(c) - primo < quanti;
+    }
+    return comuni;
+}
+
 // "U+000B": at least four digits.
 std::wstring nomeCarattere(char32_t c) {
     constexpr std::wstring_view cifre = L"0123456789ABCDEF";
@@ -43,14 +58,17 @@ std::wstring nomeCarattere(char32_t c) {
 
 std::optional<char32_t> primoVietato(std::wstring_view testo) noexcept {
     for (std::size_t posizione = 0; posizione < testo.size();) {
-        // Nearly every character, of which a large feed has millions.
-        if (testo[posizione] >= 0x20 && testo[posizione] < 0xD800) {
-            ++posizione;
+        const std::wstring_view parte = testo.substr(posizione, blocco);
+        if (tuttiComuni(parte)) {
+            posizione += parte.size();
             continue;
         }
-        const char32_t c = leggiCarattere(testo, posizione);
-        if (!ammesso(c)) {
-            return c;
+        // A character that begins in this part may end in the next.
+        for (const std::size_t fine = posizione + parte.size(); posizione < fine;) {
+            const char32_t c = leggiCarattere(testo, posizione);
+            if (!ammesso(c)) {
+                return c;
+            }
         }
     }
     return std::nullopt;

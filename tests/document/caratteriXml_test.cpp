@@ -44,6 +44,21 @@ TEST(CaratteriXml, ISurrogatiInCoppiaPassanoDaSoliNo) {
     EXPECT_EQ(primoVietato(std::wstring{alto, alto, basso}), char32_t{0xD83D});
 }
 
+TEST(CaratteriXml, OvunqueStiaInUnTestoLungo) {
+    const std::wstring coppia{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDE00)};
+    for (std::size_t prima = 0; prima < 100; ++prima) {
+        const std::wstring testa(prima, L'x');
+        for (const std::size_t dopo : {0U, 1U, 70U}) {
+            const std::wstring coda(dopo, L'y');
+            EXPECT_EQ(primoVietato(testa + L'\v' + coda), U'\v') << prima;
+            EXPECT_FALSE(primoVietato(testa + L'\n' + coda)) << prima;
+            EXPECT_FALSE(primoVietato(testa + coppia + coda)) << prima;
+            EXPECT_EQ(primoVietato(testa + coppia[0] + coda), char32_t{0xD83D}) << prima;
+            EXPECT_EQ(primoVietato(testa + coppia[1] + coda), char32_t{0xDE00}) << prima;
+        }
+    }
+}
+
 TEST(CaratteriXml, IlMessaggioNominaFileCampoECarattere) {
     auto e = errore(L"a\vb", {L"descrizione", 3});
     EXPECT_EQ(e.numero, 5);
