@@ -42,7 +42,7 @@ INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM /*lParam*/) {
         cmdSalva_Click();
         return TRUE;
     case IDC_CMDANNULLA: // the close box too
-        chiudi(IDC_CMDANNULLA);
+        cmdAnnulla_Click();
         return TRUE;
     default:
         return FALSE;
@@ -118,6 +118,10 @@ void FrmEditFeed::cmdSalva_Click() {
         annullato_ = false;
         chiudi(IDC_CMDSALVA);
     }
+}
+
+void FrmEditFeed::cmdAnnulla_Click() {
+    chiudi(IDC_CMDANNULLA);
 }
 
 void FrmEditFeed::rifiuta(const wchar_t* testo) {

@@ -43,6 +43,7 @@ private:
 
     void PulisciCampi() noexcept;
     void cmdSalva_Click();
+    void cmdAnnulla_Click();
     // Says that a required field is missing.
     void rifiuta(const wchar_t* testo);
 

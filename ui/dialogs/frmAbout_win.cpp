@@ -165,11 +165,11 @@ void frmAbout::eccezione() noexcept {
 
 bool frmAbout::comando(WORD id, WORD notifica) {
     if (id == IDOK || id == IDCANCEL) {
-        chiudi(id);
+        cmdOK_Click();
         return true;
     }
     if (id == IDC_CMDSYSINFO && notifica == BN_CLICKED) {
-        StartSysInfo(messaggi_);
+        cmdSysInfo_Click();
         return true;
     }
     if (id == IDC_LBLSITO) {
@@ -191,6 +191,14 @@ bool frmAbout::comando(WORD id, WORD notifica) {
         return true;
     }
     return false;
+}
+
+void frmAbout::cmdOK_Click() {
+    chiudi(IDOK);
+}
+
+void frmAbout::cmdSysInfo_Click() const {
+    StartSysInfo(messaggi_);
 }
 
 void frmAbout::lblSito_Click() const {

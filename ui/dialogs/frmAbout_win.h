@@ -41,6 +41,8 @@ private:
     void disegnaSito(const DRAWITEMSTRUCT& voce) const;
     void misuraSito() const;
     void misuraLogo() const;
+    void cmdOK_Click();
+    void cmdSysInfo_Click() const;
     void lblSito_Click() const;
 
     Messaggi& messaggi_;
