@@ -5,6 +5,9 @@
 
 #include <commctrl.h>
 
+#include <semaphore>
+#include <thread>
+
 namespace {
 
 using FrmMainChiusura = ProvaFrmMain;
@@ -41,6 +44,36 @@ protected:
     EditorElementiWindows editor{messaggi, orologio};
     FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
     ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
+};
+
+// A window of another thread, in front as another program's would be, for the life of the object.
+class AltroInPrimoPiano {
+public:
+    AltroInPrimoPiano() { pronta_.acquire(); }
+    AltroInPrimoPiano(const AltroInPrimoPiano&) = delete;
+    AltroInPrimoPiano& operator=(const AltroInPrimoPiano&) = delete;
+    ~AltroInPrimoPiano() {
+        PostThreadMessageW(numero_, WM_QUIT, 0, 0);
+        filo_.join();
+    }
+
+private:
+    void vivi() {
+        numero_ = GetCurrentThreadId();
+        const HWND altra = CreateWindowExW(0, L"Static", L"altro", WS_POPUP | WS_VISIBLE, 0, 0, 50,
+                                           50, nullptr, nullptr, nullptr, nullptr);
+        SetForegroundWindow(altra);
+        pronta_.release();
+        MSG msg{};
+        while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
+            DispatchMessageW(&msg);
+        }
+        DestroyWindow(altra);
+    }
+
+    DWORD numero_ = 0;
+    std::binary_semaphore pronta_{0};
+    std::thread filo_{[this] { vivi(); }};
 };
 
 } // namespace
@@ -102,9 +135,9 @@ TEST_F(FrmMainVera, DopoUnaDomandaAnnullataLaProssimaSiFaAncora) {
 
 TEST_F(FrmMainVera, AncheDaSfondoLaDomandaTieneFermaLaFinestra) {
     modifica();
-    // Another thread of the desktop is in front: none of this thread's windows is the active one.
-    ShowWindow(finestra.hwnd(), SW_MINIMIZE);
-    pompa();
+    // None of this thread's windows is the active one then.
+    const AltroInPrimoPiano altro;
+    ASSERT_TRUE(attendi([] { return GetActiveWindow() == nullptr; }));
     const QuandoAppare domanda(boxWindows, L"Salvataggio", [&](HWND box) {
         EXPECT_EQ(GetWindow(box, GW_OWNER), finestra.hwnd());
         EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
