@@ -50,10 +50,7 @@ INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM /*lParam*/) {
 }
 
 void FrmEditFeed::eccezione() noexcept {
-    try {
-        koUtilita(messaggi_).PrintErrore();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
-    }
+    riportaSePuo([this] { koUtilita(messaggi_).PrintErrore(); });
 }
 
 void FrmEditFeed::PulisciCampi() noexcept {

@@ -7,13 +7,13 @@
 #include "support/prodotto.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/dialogs/infoSistema_win.h"
+#include "ui/main/guardia_win.h"
 
 #include <olectl.h>
 #include <shlwapi.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <exception>
 
 namespace {
 
@@ -157,10 +157,7 @@ INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmAbout::eccezione() noexcept {
-    try {
-        koUtilita(messaggi_).PrintErrore();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
-    }
+    riportaSePuo([this] { koUtilita(messaggi_).PrintErrore(); });
 }
 
 bool frmAbout::comando(WORD id, WORD notifica) {

@@ -11,6 +11,7 @@
 #include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
+#include "ui/main/guardia_win.h"
 
 #include <commctrl.h>
 
@@ -279,10 +280,7 @@ void FrmMain::MostraErrore() {
 }
 
 void FrmMain::riportaErrore() noexcept {
-    try {
-        MostraErrore();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
-    }
+    riportaSePuo([this] { MostraErrore(); });
 }
 
 void FrmMain::DisponiFinestra() {
