@@ -143,6 +143,14 @@ void premi(WORD tasto, std::initializer_list<WORD> modificatori) {
     invia(std::move(eventi));
 }
 
+void abbassa(WORD tasto) {
+    invia({tastiera(tasto, 0, tastoEsteso(tasto))});
+}
+
+void rialza(WORD tasto) {
+    invia({tastiera(tasto, 0, tastoEsteso(tasto) | KEYEVENTF_KEYUP)});
+}
+
 void scrivi(std::wstring_view testo) {
     for (const wchar_t c : testo) {
         invia({tastiera(0, static_cast<WORD>(c), KEYEVENTF_UNICODE),

@@ -40,6 +40,10 @@ void portaAvanti(HWND finestra);
 // One key by its virtual code, with the modifiers (VK_CONTROL, VK_SHIFT, VK_MENU) held.
 void premi(WORD tasto, std::initializer_list<WORD> modificatori = {});
 
+// A key alone going down or up, for keys held together in an order of their own.
+void abbassa(WORD tasto);
+void rialza(WORD tasto);
+
 // Types a text, character by character.
 void scrivi(std::wstring_view testo);
 
