@@ -85,7 +85,12 @@ private:
 
     void confronta();
     void segnala(std::string guasto);
-    void sposta(int da, int a);
+    // Moves an item of the model; whether there was one to move elsewhere.
+    bool sposta(int da, int a);
+    // Whether the document, as the window shows it, must not go without a question.
+    [[nodiscard]] bool daChiedere();
+    // After what throws the document away; `attesa`: a question had to come first.
+    void controllaDomanda(bool attesa);
     // Whether the question of this step, if any, let the document go.
     [[nodiscard]] bool lasciato() const;
 

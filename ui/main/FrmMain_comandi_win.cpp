@@ -8,19 +8,34 @@
 #include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
 
+namespace {
+
+// Sets a flag for its life.
+class Alzata {
+public:
+    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno_ = true; }
+    Alzata(const Alzata&) = delete;
+    Alzata& operator=(const Alzata&) = delete;
+    ~Alzata() { segno_ = false; }
+
+private:
+    bool& segno_;
+};
+
+} // namespace
+
 template <class Azione>
 void FrmMain::occupando(Azione azione) {
     if (occupata_) {
         return;
     }
-    occupata_ = true;
+    const Alzata occupata(occupata_);
     // The boxes of a command belong to the active window. A minimised program, or one behind
     // another that is asked about the end of the session, has none.
     if (GetActiveWindow() == nullptr) {
         SetActiveWindow(hwnd());
     }
     azione();
-    occupata_ = false;
 }
 
 bool FrmMain::Form_QueryUnload() {
@@ -85,10 +100,16 @@ void FrmMain::comando(int id) {
         pagina_.mnvisualhtml_Click();
         break;
     case spostaSu:
-        spostaSelezionato(-1);
+        spostaSelezionato(ElementoSelezionato() - 1);
         break;
     case spostaGiu:
-        spostaSelezionato(1);
+        spostaSelezionato(ElementoSelezionato() + 1);
+        break;
+    case spostaInCima:
+        spostaSelezionato(0);
+        break;
+    case spostaInFondo:
+        spostaSelezionato(elementi_.conteggio() - 1);
         break;
     case mnAggiorna:
         RiempiGriglia(false);
@@ -153,14 +174,15 @@ void FrmMain::grigliaSposta(int da, int a) {
     });
 }
 
-void FrmMain::spostaSelezionato(int passo) {
+void FrmMain::spostaSelezionato(int a) {
     const int da = ElementoSelezionato();
-    const int a = da + passo;
-    if (da < 0 || a < 0 || a >= elementi_.conteggio()) {
+    if (da < 0 || a == da || a < 0 || a >= elementi_.conteggio()) {
         return;
     }
     const int cima = griglia_.rigaInCima();
     comandiElementi_.SpostaElemento(da, a);
+    // Before the grid, which may fail. Moving with the mouse leaves the flag as it is.
+    ImpostaModificato();
     RiempiGriglia(false);
     griglia_.rigaInCima(cima);
     SelezionaRiga(rigaDi(a));

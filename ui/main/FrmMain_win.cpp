@@ -127,11 +127,21 @@ bool FrmMain::anticipa(MSG& msg) {
         // While a row is dragged the keys are the grid's.
         return false;
     }
-    return premeConInvio(msg) ||
-           (GetFocus() == griglia_.lista() &&
-            TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
+    return premeConInvio(msg) || acceleraGriglia(msg) ||
            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
            IsDialogMessageW(hwnd(), &msg) != FALSE;
+}
+
+bool FrmMain::acceleraGriglia(MSG& msg) {
+    if (GetFocus() != griglia_.lista() ||
+        TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) == 0) {
+        return false;
+    }
+    if (msg.message == WM_SYSKEYDOWN) {
+        // Windows opens the menu when Alt goes up after no other key, as far as it has seen.
+        DefWindowProcW(msg.hwnd, msg.message, msg.wParam, msg.lParam);
+    }
+    return true;
 }
 
 LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
