@@ -57,22 +57,24 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
                 throw Errore(fileRecenteMancante,
                              maiuscolo(percorso) + L": impossibile trovare il file.");
             }
-            leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
-            aperto = true;
+            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
 }
 
-void ComandiDocumento::leggi(const std::wstring& percorso) {
+bool ComandiDocumento::leggi(const std::wstring& percorso) {
     const Clessidra clessidra;
     finestra_.NuovoDocumento();
     Canale c;
     clsFeedRss().LeggiDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
                                    c.copyright, c.lastBuildDate, c.webMaster, c.image, elementi_);
-    riempiCampi(percorso, c);
+    // A value that its field refuses ends the filling; the items are there and are shown.
+    const bool riempiti =
+        protetto([&] { riempiCampi(percorso, c); }, [&] { finestra_.MostraErrore(); });
     finestra_.RiempiGriglia(false);
-    stato_.modificato(false);
+    stato_.modificato(!riempiti);
+    return riempiti;
 }
 
 void ComandiDocumento::riempiCampi(const std::wstring& percorso, const Canale& canale) {
