@@ -5,6 +5,7 @@
 #include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/proprietariaShell_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
 
@@ -192,13 +193,15 @@ TEST_F(frmAboutAperta, UnClicSuOkChiude) {
 TEST_F(frmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
     Registratore registratore;
     registratore.protocollo(L"https");
+    const ProprietariaShell proprietarie;
     clic(controllo(IDC_LBLSITO));
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
     premi(VK_RETURN);
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
     premi(VK_SPACE);
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
-    EXPECT_NE(about.hwnd(), nullptr);
+    ASSERT_NE(about.hwnd(), nullptr);
+    EXPECT_EQ(ProprietariaShell::viste(), std::vector<HWND>(3, about.hwnd()));
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
 }
 
