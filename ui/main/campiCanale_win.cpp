@@ -179,7 +179,6 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
     GetClientRect(hwnd(), &dati);
     misure.sinistraLogo = logo.left * twipsX;
     misure.larghezzaTitolo = (titolo.right - titolo.left) * twipsX;
-    misure.larghezzaLogo = (logo.right - logo.left) * twipsX;
     misure.altoLarghezza = numero.top * twipsY;
     misure.altezzaGetSize = (pulsante.bottom - pulsante.top) * twipsY;
     misure.altezzaDati = dati.bottom * twipsY;
@@ -189,7 +188,7 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
 void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, double twipsY) {
     const auto pixelX = [&](double twips) { return aPixel(twips, twipsX); };
     const auto pixelY = [&](double twips) { return aPixel(twips, twipsY); };
-    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     if (const auto& r = disposizione.fraDati) {
         SetWindowPos(hwnd(), nullptr, pixelX(r->sinistra), pixelY(r->alto), pixelX(r->larghezza),
                      pixelY(r->altezza), fermo);
@@ -204,7 +203,10 @@ void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, doubl
         }
     }
     if (const auto& r = disposizione.cmdGetSize) {
-        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, pixelX(r->sinistra), pixelY(r->alto),
+        // From the window's pixels to the frame's: twips would be rounded once more.
+        POINT sinistra{pixelX(r->sinistra), 0};
+        MapWindowPoints(GetParent(hwnd()), hwnd(), &sinistra, 1);
+        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, sinistra.x, pixelY(r->alto),
                      pixelX(r->larghezza), pixelY(r->altezza), fermo);
     }
 }
