@@ -44,7 +44,7 @@ bool FrmMain::Form_QueryUnload() {
     occupando([&] {
         protetto(
             [&] {
-                KOInputNumerico::lasciaQuelloColFuoco();
+                campi_.conferma();
                 griglia_.abbandona();
                 chiudere = documento_.ChiediSalvataggio();
             },
@@ -61,8 +61,9 @@ void FrmMain::esegui(int id) {
     occupando([&] {
         protetto(
             [&] {
-                // A command does not move the focus: what it saves must be within the limits.
-                KOInputNumerico::lasciaQuelloColFuoco();
+                // A command does not move the focus: what it saves is what the fields show,
+                // within their limits.
+                campi_.conferma();
                 griglia_.abbandona();
                 comando(id);
             },

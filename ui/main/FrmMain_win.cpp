@@ -170,7 +170,10 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = scalata(misuraMinima, areaDiLavoro());
         return 0;
     case WM_COMMAND:
-        esegui(LOWORD(w));
+        // Enter and Esc in a field come as a dialog's answers; this window has no such commands.
+        if (LOWORD(w) != IDOK && LOWORD(w) != IDCANCEL) {
+            esegui(LOWORD(w));
+        }
         return 0;
     case WM_NOTIFY:
         if (auto* const avviso = reinterpret_cast<NMHDR*>(l); avviso->code == TTN_GETDISPINFOW) {

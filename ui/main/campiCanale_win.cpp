@@ -126,6 +126,12 @@ void CampiCanale::dataOra(DataOra valore) {
     }
 }
 
+void CampiCanale::conferma() {
+    KOInputNumerico::lasciaQuelloColFuoco();
+    txtData_.conferma();
+    txtOrario_.conferma();
+}
+
 KOInputNumerico& CampiCanale::txtLarghezza() const {
     return *Finestra::da<KOInputNumerico>(controllo(IDC_TXTLARGHEZZA));
 }

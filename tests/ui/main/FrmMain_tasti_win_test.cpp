@@ -102,14 +102,14 @@ TEST_F(FrmMainTasti, LasciareAltPrimaDellAltroTastoNonApreIlMenu) {
     for (const WORD tasto : {WORD{VK_DOWN}, WORD{VK_UP}, WORD{VK_END}, WORD{VK_HOME}}) {
         SCOPED_TRACE(tasto);
         menuAperti = 0;
-        abbassa(VK_MENU);
-        abbassa(tasto);
-        rialza(VK_MENU);
-        rialza(tasto);
+        premiGiu(VK_MENU);
+        premiGiu(tasto);
+        lascia(VK_MENU);
+        lascia(tasto);
         EXPECT_EQ(menuAperti, 0);
         // Alt alone still does.
-        abbassa(VK_MENU);
-        rialza(VK_MENU);
+        premiGiu(VK_MENU);
+        lascia(VK_MENU);
         EXPECT_EQ(menuAperti, 1);
     }
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
