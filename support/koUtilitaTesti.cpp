@@ -21,7 +21,7 @@ std::wstring koUtilitaTesti::EspuraSpazi(std::wstring_view testo) {
 }
 
 wchar_t koUtilitaTesti::KeyMaiuscolo(wchar_t carattere) noexcept {
-    return maiuscola(carattere);
+    return maiuscolo({&carattere, 1}).front();
 }
 
 DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
