@@ -1,6 +1,7 @@
 #include "ui/controls/valoreNumerico.h"
 
 #include "support/errore.h"
+#include "tests/aiuti/formati.h"
 
 #include <limits>
 #include <string>
@@ -11,8 +12,6 @@
 
 namespace {
 
-const FormatoLocale italiano{L',', L'.', L"/", L":"};
-const FormatoLocale inglese{L'.', L',', L"/", L":"};
 constexpr Separatori virgola{',', '.'};
 constexpr Separatori punto{'.', ','};
 
