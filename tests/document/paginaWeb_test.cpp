@@ -215,5 +215,6 @@ TEST(PaginaWeb, LaDataHaISeparatoriDellUtente) {
     items(CampoElemento::Data, 0) = L"Tue, 3 Jan 2006 04:05:06 +0100";
     EXPECT_EQ(bloccoElementi(items, {Lingua::Italiano, L',', L".", L"."})[5],
               L"<p><i>03.01.2006 04.05.06 ");
-    EXPECT_EQ(bloccoElementi(items, {Lingua::Inglese, L'.', L"-", L":"})[5], L"<p><i>03-01-2006 04:05:06 ");
+    EXPECT_EQ(bloccoElementi(items, {Lingua::Inglese, L'.', L"-", L":"})[5],
+              L"<p><i>03-01-2006 04:05:06 ");
 }
