@@ -1,8 +1,10 @@
 #pragma once
 
+#include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
 #include "support/dialoghiFile.h"
 #include "support/messaggi.h"
+#include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
@@ -83,6 +85,9 @@ private:
     void ridimensiona();
     void chiudeEAnnulla();
 
+    [[nodiscard]] Griglia& griglia() {
+        return *Finestra::da<Griglia>(GetDlgItem(finestra_.hwnd(), IDC_GRIGLIA));
+    }
     void confronta();
     void segnala(std::string guasto);
     void sposta(int da, int a);
@@ -110,7 +115,9 @@ private:
     ClsCodaEliminazione coda_;
     CartellaProva cartella_;
     std::wstring rovinato_;
-    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}};
+    Documento documento_;
+    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}, documento_};
+    CampiProva campi_{finestra_};
     ConFiltro filtro_{[this](MSG& msg) { return finestra_.anticipa(msg); }};
     UINT_PTR timer_;
 

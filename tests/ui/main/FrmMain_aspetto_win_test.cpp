@@ -11,7 +11,7 @@ using FrmMainAspetto = ProvaFrmMain;
 } // namespace
 
 TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto prima = SendMessageW(lista, WM_GETFONT, 0, 0);
     std::map<HWND, int> avvisati;
     {
@@ -28,5 +28,5 @@ TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
         EXPECT_EQ(avvisati[controllo], 1);
     }
     EXPECT_NE(SendMessageW(lista, WM_GETFONT, 0, 0), prima);
-    EXPECT_EQ(finestra.griglia().righe().righe(), 50);
+    EXPECT_EQ(griglia().righe().righe(), 50);
 }
