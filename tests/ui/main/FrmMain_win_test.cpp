@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <array>
+#include <cstring>
 #include <string_view>
 
 using namespace std::string_view_literals;
@@ -13,6 +14,25 @@ using FrmMainAperta = ProvaFrmMain;
 
 const RichiestaFile richiestaImmagine{
     L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", 4100, L""};
+
+// A black picture in the bytes of a file.
+std::string bmp(SIZE misura) {
+    const auto riga = static_cast<DWORD>((misura.cx + 31) / 32 * 4);
+    BITMAPFILEHEADER file{};
+    file.bfType = 0x4D42;
+    file.bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER) + 2 * sizeof(RGBQUAD);
+    file.bfSize = file.bfOffBits + riga * static_cast<DWORD>(misura.cy);
+    BITMAPINFOHEADER info{};
+    info.biSize = sizeof(info);
+    info.biWidth = misura.cx;
+    info.biHeight = misura.cy;
+    info.biPlanes = 1;
+    info.biBitCount = 1;
+    std::string byte(file.bfSize, '\0');
+    std::memcpy(byte.data(), &file, sizeof(file));
+    std::memcpy(byte.data() + sizeof(file), &info, sizeof(info));
+    return byte;
+}
 
 std::wstring nomeClasse(HWND finestra) {
     std::array<wchar_t, 64> nome{};
@@ -356,10 +376,8 @@ TEST_F(FrmMainAperta, LeDimensioniDaUnImmagineSceltaDallUtente) {
 
 TEST_F(FrmMainAperta, UnaMisuraOltreIlMassimoLasciaEntrambiICampi) {
     campi.dimensioni(7, 8);
-    // 1 by 10001 and 10001 by 1, in the first bytes of a GIF.
-    for (const std::string_view misure : {"\x01\0\x11\x27"sv, "\x11\x27\x01\0"sv}) {
-        const std::string gif = "GIF89a" + std::string(misure) + std::string(20, '\0');
-        dialoghi.attendiApri(richiestaImmagine, cartella.scrivi(L"i.gif", gif));
+    for (const SIZE misura : {SIZE{1, 10001}, SIZE{10001, 1}}) {
+        dialoghi.attendiApri(richiestaImmagine, cartella.scrivi(L"i.bmp", bmp(misura)));
         messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380", Icona::Informazione);
         clic(campo(IDC_CMDGETSIZE));
         EXPECT_EQ(campi.txtLarghezza().Valore(), 7);
