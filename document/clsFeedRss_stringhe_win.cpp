@@ -10,14 +10,16 @@ Canale componi(const std::wstring& title, const std::wstring& link, const std::w
                const std::wstring& language, const std::wstring& copyright,
                const std::wstring& lastBuildDate, const std::wstring& webMaster,
                const clsImgRss& image) {
-    return {.title = title,
-            .link = link,
-            .description = description,
-            .language = language,
-            .copyright = copyright,
-            .lastBuildDate = lastBuildDate,
-            .webMaster = webMaster,
-            .image = image};
+    Canale canale;
+    canale.title = title;
+    canale.link = link;
+    canale.description = description;
+    canale.language = language;
+    canale.copyright = copyright;
+    canale.lastBuildDate = lastBuildDate;
+    canale.webMaster = webMaster;
+    canale.image = image;
+    return canale;
 }
 
 } // namespace
