@@ -68,6 +68,20 @@ TEST_F(Lettura, SetteTestiImmagineEdElementi) {
     EXPECT_EQ(d.items(Titolo, 1), L"2");
 }
 
+TEST_F(Lettura, GliElementiDiUnDocumentoStannoInUnaSolaMemoria) {
+    ASSERT_EQ(
+        leggi(rssCon("<item><title>a</title></item><item/><item><link>b</link></item>")).numero, 0);
+    const ElementoCondiviso primo = d.items.elemento(0);
+    for (const int i : {1, 2}) {
+        EXPECT_FALSE(primo.owner_before(d.items.elemento(i)));
+        EXPECT_FALSE(d.items.elemento(i).owner_before(primo));
+    }
+    // It outlives the table.
+    const ElementoCondiviso ultimo = d.items.elemento(2);
+    d.items.svuota();
+    EXPECT_EQ((*ultimo)[Link], L"b");
+}
+
 TEST_F(Lettura, SenzaUnSoloRssConUnSoloCanaleIlFormatoNonEValido) {
     for (const auto* const testo :
          {"<rss/>", "<rss><channel/><channel/></rss>", "<rdf><channel/></rdf>",
