@@ -2,7 +2,9 @@
 
 #include "support/ClsCodaEliminazione.h"
 #include "support/messaggi_win.h"
+#include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
@@ -28,6 +30,8 @@ protected:
     ImpostazioniFinte impostazioni;
     ClsCodaEliminazione coda;
     EditorElementiWindows editor{messaggi, orologio};
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
+    Documento documento;
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, documento};
+    CampiProva campi{finestra};
     ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };

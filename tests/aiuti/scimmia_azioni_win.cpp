@@ -1,9 +1,9 @@
 // What the monkey does: keys, mouse, menus, commands.
 
+#include "document/elementi.h"
 #include "res/risorse.h"
 #include "support/testo.h"
 #include "tests/aiuti/scimmia_win.h"
-#include "ui/main/elementi.h"
 
 #include <commctrl.h>
 
@@ -43,7 +43,7 @@ bool Scimmia::sposta(int da, int a) {
 void Scimmia::tasto() {
     fatto_ = "key";
     if (caso(3) == 0) {
-        SetFocus(finestra_.griglia().lista());
+        SetFocus(griglia().lista());
         if (caso(2) == 0) {
             const int da = finestra_.ElementoSelezionato();
             const int fondo = static_cast<int>(modello_.size()) - 1;
@@ -52,7 +52,7 @@ void Scimmia::tasto() {
             const auto& [tasto, a] = mosse[static_cast<std::size_t>(caso(4))];
             fatto_ = "Alt+key " + std::to_string(tasto);
             premi(tasto, {VK_MENU});
-            if (sposta(da, a) && !finestra_.stato().modificato()) {
+            if (sposta(da, a) && !documento_.modificato()) {
                 segnala("a move by a key that is no modification");
             }
             return;
@@ -77,7 +77,7 @@ void Scimmia::scriveTesto() {
                                IDC_CBOLINGUA,    IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
                                IDC_TXTLOGO,      IDC_TXTURL,       IDC_TXTLINKIMG,
                                IDC_TXTLARGHEZZA, IDC_TXTALTEZZA,   IDC_TXTDATA};
-    SetFocus(GetDlgItem(finestra_.campi().hwnd(),
+    SetFocus(GetDlgItem(campi_.hwnd(),
                         campi[static_cast<std::size_t>(caso(static_cast<int>(campi.size())))]));
     if (caso(2) == 0) {
         premi('A', {VK_CONTROL});
@@ -129,7 +129,7 @@ void Scimmia::clicca() {
 
 void Scimmia::trascinaInUnCampo() {
     const auto posto = postoCaso();
-    if (!posto || posto->finestra == finestra_.griglia().lista()) {
+    if (!posto || posto->finestra == griglia().lista()) {
         return;
     }
     fatto_ = "drag in control " + std::to_string(GetDlgCtrlID(posto->finestra));
@@ -137,7 +137,7 @@ void Scimmia::trascinaInUnCampo() {
 }
 
 std::optional<POINT> Scimmia::puntoGriglia() {
-    const HWND lista = finestra_.griglia().lista();
+    const HWND lista = griglia().lista();
     RECT r{};
     GetClientRect(lista, &r);
     if (r.right < 1 || r.bottom < 1) {
@@ -152,13 +152,13 @@ std::optional<POINT> Scimmia::puntoGriglia() {
 
 void Scimmia::trascinaInGriglia() {
     fatto_ = "drag in the grid";
-    const HWND lista = finestra_.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto inizio = puntoGriglia();
     if (!inizio) {
         return;
     }
     // Between the pages of a pair of clicks a double click would open the editor.
-    clic(finestra_.campi().hwnd(), {1, 1});
+    clic(campi_.hwnd(), {1, 1});
     premiMouse(lista, *inizio);
     for (int i = caso(6); i > 0; --i) {
         muoviMouse(lista, puntoGriglia().value_or(*inizio));
@@ -167,7 +167,7 @@ void Scimmia::trascinaInGriglia() {
         constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
         premi(tasti[static_cast<std::size_t>(caso(4))]);
     }
-    const int da = finestra_.griglia().trascinato();
+    const int da = griglia().trascinato();
     const int a = finestra_.ElementoSelezionato();
     lasciaMouse();
     static_cast<void>(sposta(da, a));
@@ -175,15 +175,15 @@ void Scimmia::trascinaInGriglia() {
 
 void Scimmia::menuGriglia() {
     fatto_ = "menu of the grid";
-    SetFocus(finestra_.griglia().lista());
+    SetFocus(griglia().lista());
     voceMenu_ = caso(4) - 1;
     const auto punto = puntoGriglia();
     if (!punto || caso(2) == 0) {
         premi(VK_APPS);
     } else {
         const LPARAM dove = MAKELPARAM(punto->x, punto->y);
-        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
-        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONUP, 0, dove);
+        PostMessageW(griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
+        PostMessageW(griglia().lista(), WM_RBUTTONUP, 0, dove);
         pompa();
     }
 }
@@ -195,14 +195,14 @@ void Scimmia::eseguiUno(int comando) {
 }
 
 bool Scimmia::daChiedere() {
-    if (!finestra_.stato().modificato()) {
+    if (!documento_.modificato()) {
         return false;
     }
     if (!modello_.empty() || testoDi(finestra_.hwnd()) != L"Ostrelle  [Nuovo Documento]") {
         return true;
     }
     return std::ranges::any_of(campiTesto, [&](int id) {
-        const std::wstring testo = testoDi(GetDlgItem(finestra_.campi().hwnd(), id));
+        const std::wstring testo = testoDi(GetDlgItem(campi_.hwnd(), id));
         return testo.find_first_not_of(L' ') != std::wstring::npos;
     });
 }
@@ -327,6 +327,6 @@ void Scimmia::portaFuoco() {
         portaAvanti(finestra_.hwnd());
     }
     if (GetFocus() == nullptr) {
-        SetFocus(finestra_.griglia().lista());
+        SetFocus(griglia().lista());
     }
 }

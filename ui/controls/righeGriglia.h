@@ -50,7 +50,7 @@ public:
 
 private:
     [[nodiscard]] std::wstring dataOra(int elemento) const;
-    [[nodiscard]] const std::wstring& campo(CampoElemento campo, int elemento) const;
+    [[nodiscard]] std::wstring_view campo(CampoElemento campo, int elemento) const;
 
     const TabellaElementi& tabella_;
     std::optional<ClsUTC> utc_;

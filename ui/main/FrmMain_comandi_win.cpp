@@ -5,7 +5,6 @@
 #include "support/ClsSizerImg.h"
 #include "support/immagine_win.h"
 #include "support/koUtilita.h"
-#include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
 
 namespace {
@@ -46,7 +45,7 @@ bool FrmMain::Form_QueryUnload() {
             [&] {
                 campi_.conferma();
                 griglia_.abbandona();
-                chiudere = documento_.ChiediSalvataggio();
+                chiudere = ChiediSalvataggio();
             },
             [&] { MostraErrore(); });
     });
@@ -74,16 +73,16 @@ void FrmMain::esegui(int id) {
 void FrmMain::comando(int id) {
     switch (id) {
     case mnNuovo:
-        documento_.mnNuovo_Click();
+        comandiDocumento_.mnNuovo_Click();
         break;
     case mnApri:
-        documento_.Apri(L"");
+        Apri(L"");
         break;
     case mnsalva:
-        documento_.Salva(false);
+        Salva(false);
         break;
     case mnSalvaCon:
-        documento_.Salva(true);
+        Salva(true);
         break;
     case mnsalvahtm:
         pagina_.EsportaHTML();
@@ -110,7 +109,7 @@ void FrmMain::comando(int id) {
         spostaSelezionato(0);
         break;
     case spostaInFondo:
-        spostaSelezionato(elementi_.conteggio() - 1);
+        spostaSelezionato(documento_.elementi().conteggio() - 1);
         break;
     case mnAggiorna:
         RiempiGriglia(false);
@@ -120,7 +119,7 @@ void FrmMain::comando(int id) {
             // A copy: the list is read anew while the file opens.
             const std::wstring percorso =
                 recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
-            documento_.Apri(percorso);
+            Apri(percorso);
         } else {
             aiuto_.esegui(static_cast<Comando>(id), hwnd());
         }
@@ -166,27 +165,16 @@ void FrmMain::grigliaRigaCambiata(int riga) {
 void FrmMain::grigliaSposta(int da, int a) {
     // A command at work knows its item by the index: nothing moves meanwhile.
     occupando([&] {
-        protetto(
-            [&] {
-                comandiElementi_.SpostaElemento(da, a);
-                RiempiGriglia(false);
-            },
-            [&] { MostraErrore(); });
+        protetto([&] { comandiElementi_.SpostaElemento(da, a, Causa::Trascinamento); },
+                 [&] { MostraErrore(); });
     });
 }
 
 void FrmMain::spostaSelezionato(int a) {
     const int da = ElementoSelezionato();
-    if (da < 0 || a == da || a < 0 || a >= elementi_.conteggio()) {
-        return;
+    if (da >= 0 && a != da && a >= 0 && a < documento_.elementi().conteggio()) {
+        comandiElementi_.SpostaElemento(da, a, Causa::Comando);
     }
-    const int cima = griglia_.rigaInCima();
-    comandiElementi_.SpostaElemento(da, a);
-    // Before the grid, which may fail. Moving with the mouse leaves the flag as it is.
-    ImpostaModificato();
-    RiempiGriglia(false);
-    griglia_.rigaInCima(cima);
-    SelezionaRiga(rigaDi(a));
 }
 
 void FrmMain::grigliaMenu(POINT punto, int riga) {

@@ -88,14 +88,16 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
     return false;
 }
 
-FrmMain::FrmMain(const Servizi& servizi)
-    : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this), griglia_(elementi_, *this),
-      ultimaData_(servizi.orologio.adesso().locale),
-      documento_(servizi, *this, stato_, campi_, elementi_, recenti_),
-      comandiElementi_(servizi.messaggi, servizi.editor, *this, elementi_, ultimaData_),
-      pagina_(servizi, *this, campi_, elementi_), aiuto_(servizi.messaggi),
+FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
+    : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
+      campi_(*this, documento), griglia_(documento.elementi(), *this), vista_(documento, griglia_),
+      comandiDocumento_(servizi, *this, documento, campi_, recenti_),
+      comandiElementi_(servizi.messaggi, servizi.editor, griglia_, documento),
+      pagina_(servizi, *this, documento, campi_, griglia_), aiuto_(servizi.messaggi),
       acceleratori_(creaAcceleratori(scorciatoie())),
-      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {}
+      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {
+    documento.ultimaData(servizi.orologio.adesso().locale);
+}
 
 void FrmMain::apri(int comeMostrare) {
     WNDCLASSEXW descrizione{};
@@ -271,7 +273,7 @@ void FrmMain::Form_Unload() noexcept {
 }
 
 void FrmMain::ImpostaTitolo(std::wstring_view nome) {
-    SetWindowTextW(hwnd(), stato_.ImpostaTitolo(nome).c_str());
+    SetWindowTextW(hwnd(), documento_.ImpostaTitolo(nome).c_str());
 }
 
 void FrmMain::ImpostaStato(std::wstring_view testo) {
@@ -281,11 +283,10 @@ void FrmMain::ImpostaStato(std::wstring_view testo) {
 
 void FrmMain::NuovoDocumento() {
     campi_.Svuota(servizi_.orologio.adesso().locale);
-    elementi_.svuota();
-    ImpostaTitolo(StatoDocumento::nuovoDocumento);
-    RiempiGriglia(true);
+    ImpostaTitolo(Documento::nuovoDocumento);
+    documento_.sostituisci({});
     // Last: the changes made above are not the user's.
-    stato_.modificato(false);
+    documento_.modificato(false);
 }
 
 void FrmMain::RiempiGriglia(bool soloIntestazioni) {

@@ -4,6 +4,7 @@
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/pixel_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/controls/sottoclasse_win.h"
 #include "ui/main/GUI_win.h"
 
@@ -31,10 +32,7 @@ protected:
                                 const std::wstring& data = L"ieri", bool selezionata = false,
                                 bool fuoco = false) const {
         TabellaElementi tabella;
-        tabella.dimensiona(1);
-        tabella(Titolo, 0) = titolo;
-        tabella(Descrizione, 0) = descrizione;
-        tabella(Data, 0) = data;
+        tabella.riempi({creaElemento({titolo, L"", descrizione, L"", data, L""})});
         RigheGriglia righe(tabella);
         righe.intesta({L"Data/Orario", L"Contenuto"}, 3);
         righe.elenca(ClsUTC(), FormatoLocale());
@@ -174,11 +172,11 @@ TEST(GrigliaDipinta, RiempireMostraSubitoLaTabellaCheCE) {
     GrigliaProva p(3);
     const Immagine prima = sulloSchermo(p.lista());
     EXPECT_EQ(sulloSchermo(p.lista()), prima);
-    p.tabella(Titolo, 1) = L"un altro titolo";
+    metti(p.documento, Titolo, 1, L"un altro titolo");
     GUI::RiempiGriglia(p.griglia, false);
     const Immagine dopo = sulloSchermo(p.lista());
     EXPECT_NE(dopo, prima);
-    p.tabella(Titolo, 1) = L"titolo 1";
+    metti(p.documento, Titolo, 1, L"titolo 1");
     GUI::RiempiGriglia(p.griglia, false);
     EXPECT_EQ(sulloSchermo(p.lista()), prima);
 }

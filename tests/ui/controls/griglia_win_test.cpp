@@ -3,6 +3,7 @@
 #include "support/errori_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/main/GUI_win.h"
 
 #include <windows.h>
@@ -31,9 +32,9 @@ TEST(Griglia, VuotaMostra49RigheSenzaElemento) {
 
 TEST(Griglia, LeCelleVengonoDallaTabella) {
     GrigliaProva p(2);
-    p.tabella(Titolo, 1) = L" Due ";
-    p.tabella(Descrizione, 1) = L"a\tb";
-    p.tabella(Data, 1) = L"ieri";
+    metti(p.documento, Titolo, 1, L" Due ");
+    metti(p.documento, Descrizione, 1, L"a\tb");
+    metti(p.documento, Data, 1, L"ieri");
     EXPECT_EQ(p.testo(1, 0), L"15/11/2005 10:00:00");
     EXPECT_EQ(p.testo(1, 1), L"titolo 0\r\ndescrizione 0");
     EXPECT_EQ(p.testo(1, 2), L"0");
@@ -46,7 +47,7 @@ TEST(Griglia, NumeroDiRigheAttornoA50EAlMassimo) {
     for (const auto& [elementi, righe] :
          {std::pair{1, 49}, {49, 49}, {50, 50}, {51, 51}, {32767, 32767}}) {
         GrigliaProva p(0);
-        p.tabella.dimensiona(elementi);
+        dimensiona(p.documento, elementi);
         GUI::RiempiGriglia(p.griglia, false);
         EXPECT_EQ(ListView_GetItemCount(p.lista()), righe);
         EXPECT_EQ(p.griglia.ElementoSelezionato(), 0);

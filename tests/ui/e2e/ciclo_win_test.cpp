@@ -7,7 +7,7 @@
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/comandi.h"
 
@@ -273,7 +273,7 @@ TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
         EXPECT_EQ(programma.chiudi(), 0U);
     }
     EXPECT_EQ(primoRecente(impostazioni), minuscolo(feed));
-    Documento documento;
+    FeedDiProva documento;
     documento.leggi(feed);
     EXPECT_EQ(documento.title, canale[0].second);
     EXPECT_EQ(documento.description, canale[2].second);

@@ -12,7 +12,7 @@ using FrmMainAspetto = ProvaFrmMain;
 } // namespace
 
 TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto prima = SendMessageW(lista, WM_GETFONT, 0, 0);
     std::map<HWND, int> avvisati;
     {
@@ -29,14 +29,14 @@ TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
         EXPECT_EQ(avvisati[controllo], 1);
     }
     EXPECT_NE(SendMessageW(lista, WM_GETFONT, 0, 0), prima);
-    EXPECT_EQ(finestra.griglia().righe().righe(), 50);
+    EXPECT_EQ(griglia().righe().righe(), 50);
 }
 
 TEST_F(FrmMainAspetto, LaRigaSceltaSiVedeAncheDaUnPulsanteInOgniSchema) {
     for (const wchar_t* const titolo : {L"uno", L"due", L"tre"}) {
         metti(titolo);
     }
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const HWND cancella =
         GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnDelFeed);
     // The second row as it is seen.

@@ -17,9 +17,8 @@ protected:
         for (const wchar_t* const titolo : {L"uno", L"due", L"tre"}) {
             metti(titolo);
         }
-        for (const auto campo : {CampoCanale::Titolo, CampoCanale::Descrizione, CampoCanale::Logo,
-                                 CampoCanale::WebMaster}) {
-            finestra.campi().testo(campo, L"Un testo che nel campo si vede");
+        for (const int id : {IDC_TXTTITOLO, IDC_TXTDESCRIZIONE, IDC_TXTLOGO, IDC_TXTWEBMASTER}) {
+            campi.testo(id, L"Un testo che nel campo si vede");
         }
     }
 
@@ -62,7 +61,7 @@ protected:
     // How many pixels are not as a full repaint leaves them.
     [[nodiscard]] int daRidipingere() {
         // A caret would blink.
-        SetFocus(finestra.griglia().lista());
+        SetFocus(griglia().lista());
         pompa();
         const Immagine prima = tuttaSulloSchermo(finestra.hwnd());
         RedrawWindow(finestra.hwnd(), nullptr, nullptr,
@@ -110,9 +109,9 @@ TEST_F(FrmMainDimensioni, OgniCosaStaAlSuoPosto) {
         const RECT tutto = interno();
         const RECT barra = posto(GetDlgItem(finestra.hwnd(), IDC_TOOLBAR));
         const RECT stato = posto(GetDlgItem(finestra.hwnd(), IDC_STATUSBAR));
-        const RECT dati = posto(finestra.campi().hwnd());
+        const RECT dati = posto(campi.hwnd());
         const RECT cornice = posto(IDC_FRADATI);
-        const RECT griglia = posto(finestra.griglia().hwnd());
+        const RECT griglia = posto(grigliaDi(finestra).hwnd());
         const RECT striscia = postoStriscia();
         const RECT pulsante = posto(IDC_CMDGETSIZE);
 
@@ -172,9 +171,9 @@ TEST_F(FrmMainDimensioni, DeterminaDimensioniNonCopreNulla) {
     for (int larghezza = 640; larghezza <= 960; larghezza += 8) {
         misura(larghezza, 480);
         const RECT pulsante = posto(IDC_CMDGETSIZE);
-        const RECT dati = posto(finestra.campi().hwnd());
+        const RECT dati = posto(campi.hwnd());
         ASSERT_EQ(pulsante.left, postoStriscia().left) << larghezza;
-        for (HWND c = GetWindow(finestra.campi().hwnd(), GW_CHILD); c != nullptr;
+        for (HWND c = GetWindow(campi.hwnd(), GW_CHILD); c != nullptr;
              c = GetWindow(c, GW_HWNDNEXT)) {
             if (c == campo(IDC_FRADATI) || c == campo(IDC_CMDGETSIZE)) {
                 continue;
@@ -192,7 +191,7 @@ TEST_F(FrmMainDimensioni, DeterminaDimensioniNonCopreNulla) {
 
 TEST_F(FrmMainDimensioni, SenzaPostoPerLaGrigliaIlPulsanteRestaSullaStriscia) {
     misura(900, 540);
-    const RECT prima = posto(finestra.griglia().hwnd());
+    const RECT prima = posto(griglia().hwnd());
     // Where nobody asks what the least size is.
     for (const SIZE& m : {SIZE{640, 220}, SIZE{900, 100}, SIZE{480, 200}, SIZE{960, 240}}) {
         misura(m.cx, m.cy, SWP_NOSENDCHANGING);
@@ -202,7 +201,7 @@ TEST_F(FrmMainDimensioni, SenzaPostoPerLaGrigliaIlPulsanteRestaSullaStriscia) {
         EXPECT_EQ(posto(IDC_CMDGETSIZE).left, striscia.left);
         EXPECT_EQ(posto(IDC_CMDGETSIZE).right, striscia.right);
         EXPECT_NEAR(interno().right - striscia.right, twips(150), 1);
-        const RECT griglia = posto(finestra.griglia().hwnd());
+        const RECT griglia = posto(grigliaDi(finestra).hwnd());
         EXPECT_EQ(griglia.bottom - griglia.top, prima.bottom - prima.top);
         EXPECT_EQ(striscia.bottom, griglia.bottom);
     }

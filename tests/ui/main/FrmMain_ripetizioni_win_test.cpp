@@ -10,12 +10,8 @@ class FrmMainRipetizioni : public ProvaFrmMainVera {
 protected:
     FrmMainRipetizioni() {
         for (const wchar_t* const t : {L"a", L"b"}) {
-            const int i = finestra.elementi().aggiungi();
-            finestra.elementi()(CampoElemento::Titolo, i) = t;
-            finestra.elementi()(CampoElemento::Link, i) = L"https://e.example/";
-            finestra.elementi()(CampoElemento::Data, i) = L"Tue, 15 Nov 2005 10:00:00 +0100";
+            mettiElemento(finestra, documento, t);
         }
-        finestra.RiempiGriglia(false);
     }
     void TearDown() override { lascia(VK_RETURN); }
 
@@ -43,19 +39,19 @@ TEST_F(FrmMainRipetizioni, InvioTenutoSuCancellaNonRispondeAllaDomanda) {
         EXPECT_FALSE(IsWindowVisible(box));
     });
     premiGiu(VK_RETURN);
-    ASSERT_EQ(finestra.elementi().conteggio(), 1);
-    EXPECT_EQ(finestra.elementi()(CampoElemento::Titolo, 0), L"b");
+    ASSERT_EQ(documento.elementi().conteggio(), 1);
+    EXPECT_EQ(documento.elementi()(CampoElemento::Titolo, 0), L"b");
 }
 
 TEST_F(FrmMainRipetizioni, InvioTenutoNellaGrigliaNonSalvaNellEditor) {
-    SetFocus(finestra.griglia().lista());
+    SetFocus(grigliaDi(finestra).lista());
     const QuandoAppare dialogo(boxWindows, L"Edit", [&](HWND box) {
         SetWindowTextW(GetDlgItem(box, IDC_EDITTITOLO), L"cambiato");
         tieniEPoiPremi(box);
         EXPECT_FALSE(IsWindowVisible(box));
     });
     premiGiu(VK_RETURN);
-    EXPECT_EQ(finestra.elementi()(CampoElemento::Titolo, 0), L"cambiato");
+    EXPECT_EQ(documento.elementi()(CampoElemento::Titolo, 0), L"cambiato");
 }
 
 TEST_F(FrmMainRipetizioni, InvioTenutoNellEditorNonChiudeLAvviso) {
@@ -74,12 +70,12 @@ TEST_F(FrmMainRipetizioni, InvioTenutoNellEditorNonChiudeLAvviso) {
         PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
     });
     finestra.esegui(mnEditFeed);
-    EXPECT_EQ(finestra.elementi()(CampoElemento::Titolo, 0), L"a");
+    EXPECT_EQ(documento.elementi()(CampoElemento::Titolo, 0), L"a");
 }
 
 TEST_F(FrmMainRipetizioni, InvioCheChiudeUnMessaggioNonScriveNelCampo) {
     finestra.NuovoDocumento();
-    const HWND descrizione = GetDlgItem(finestra.campi().hwnd(), IDC_TXTDESCRIZIONE);
+    const HWND descrizione = GetDlgItem(campi.hwnd(), IDC_TXTDESCRIZIONE);
     SetFocus(descrizione);
     const QuandoAppare errore(boxWindows, L"Errore n° 12883", [&](HWND box) {
         const ConFiltro tasti([box](MSG& msg) { return IsDialogMessageW(box, &msg) != FALSE; });

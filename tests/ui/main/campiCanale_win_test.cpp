@@ -1,5 +1,5 @@
 #include "support/dataora_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/frmMain_win.h"
 
 #include <commctrl.h>
@@ -18,15 +18,15 @@ protected:
     // Saves with the key, to this file.
     std::wstring salva(const wchar_t* nome) {
         std::wstring percorso = cartella.file(nome);
-        finestra.campi().Tag(percorso);
+        documento.percorso(percorso);
         premi('S', {VK_CONTROL});
         return percorso;
     }
     // Date and time of a saved feed, without the offset, which is today's.
     [[nodiscard]] static std::wstring dataIn(const std::wstring& percorso) {
-        Documento documento;
-        documento.leggi(percorso);
-        return documento.lastBuildDate.substr(0, documento.lastBuildDate.rfind(L' '));
+        FeedDiProva letto;
+        letto.leggi(percorso);
+        return letto.lastBuildDate.substr(0, letto.lastBuildDate.rfind(L' '));
     }
     // A feed whose image has this size.
     [[nodiscard]] std::wstring feed(int larghezza, int altezza) {
@@ -36,7 +36,7 @@ protected:
                                       std::to_string(altezza) +
                                       "</height></image><item><title>i</title></item>"));
     }
-    [[nodiscard]] HWND larghezza() { return finestra.campi().txtLarghezza().txtnumero(); }
+    [[nodiscard]] HWND larghezza() { return campi.txtLarghezza().txtnumero(); }
     // Where the selection in the width begins and ends, and the text.
     [[nodiscard]] std::wstring selezione() {
         const auto [inizio, fine] = selezioneDi(larghezza());
@@ -67,21 +67,21 @@ TEST_F(CampiDelCanale, LeCifreDellOraSiSalvanoAncheSenzaUscireDalCampo) {
 
 TEST_F(CampiDelCanale, DopoUnaCifraDellaDataChiudereChiede) {
     for (const int id : {IDC_TXTDATA, IDC_TXTORARIO}) {
-        finestra.stato().modificato(false);
+        documento.modificato(false);
         scriviIn(id, L"1");
         attendiDomanda(Risposta::Annulla);
         SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
         ASSERT_NE(finestra.hwnd(), nullptr);
-        EXPECT_TRUE(finestra.stato().modificato());
+        EXPECT_TRUE(documento.modificato());
     }
-    EXPECT_EQ(finestra.campi().dataOra(), DataOra::daParti(2005, 11, 1, 1, 0, 0));
+    EXPECT_EQ(campi.dataOra(), DataOra::daParti(2005, 11, 1, 1, 0, 0));
 }
 
 TEST_F(CampiDelCanale, OgniComandoPrendeLeCifreDellaData) {
     scriviIn(IDC_TXTDATA, L"5");
     finestra.esegui(mnAggiorna);
-    EXPECT_EQ(finestra.campi().dataOra(), DataOra::daParti(2005, 11, 5, 10, 0, 0));
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_EQ(campi.dataOra(), DataOra::daParti(2005, 11, 5, 10, 0, 0));
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(CampiDelCanale, UnSelettoreNonToccatoRestaComE) {
@@ -91,43 +91,42 @@ TEST_F(CampiDelCanale, UnSelettoreNonToccatoRestaComE) {
         clic(campo(id), {8, 8});
         finestra.esegui(mnAggiorna);
     }
-    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(campi.dataOra(), orologio.locale());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(CampiDelCanale, LaDataVieneDaUnSelettoreELOraDallAltro) {
     selettore(IDC_TXTDATA, DataOra::daParti(2005, 3, 4, 5, 6, 7));
     selettore(IDC_TXTORARIO, DataOra::daParti(2001, 12, 31, 21, 22, 23));
-    EXPECT_EQ(finestra.campi().dataOra(), DataOra::daParti(2005, 3, 4, 21, 22, 23));
+    EXPECT_EQ(campi.dataOra(), DataOra::daParti(2005, 3, 4, 21, 22, 23));
     EXPECT_EQ(dataIn(salva(L"due.xml")), L"Fri, 04 Mar 2005 21:22:23");
 }
 
 TEST_F(CampiDelCanale, UnNuovoDocumentoAzzeraLeDueMisure) {
-    finestra.campi().dimensioni(7, 8);
+    campi.dimensioni(7, 8);
     finestra.NuovoDocumento();
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 0);
-    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 0);
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
+    EXPECT_EQ(campi.txtAltezza().Valore(), 0);
 }
 
 TEST_F(CampiDelCanale, UnControlloCheRifiutaLAzzeramentoNonFermaGliAltri) {
-    finestra.campi().testo(CampoCanale::LinkImg, L"k");
-    finestra.campi().dimensioni(7, 8);
-    finestra.campi().txtLarghezza().Minimo(5);
+    campi.testo(IDC_TXTLINKIMG, L"k");
+    campi.dimensioni(7, 8);
+    campi.txtLarghezza().Minimo(5);
     // Too early for a picker.
     orologio.locale(DataOra::daParti(1600, 1, 1));
-    const DataOra prima = finestra.campi().dataOra();
+    const DataOra prima = campi.dataOra();
     finestra.NuovoDocumento();
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::LinkImg), L"");
-    EXPECT_EQ(finestra.campi().dataOra(), prima);
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 7);
-    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 0);
+    EXPECT_EQ(campi.testo(IDC_TXTLINKIMG), L"");
+    EXPECT_EQ(campi.dataOra(), prima);
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 7);
+    EXPECT_EQ(campi.txtAltezza().Valore(), 0);
     EXPECT_EQ(titoliElementi(), L"");
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(CampiDelCanale, InvioEdEscNelleMisureNonSonoUnUscita) {
-    for (KOInputNumerico* const misura :
-         {&finestra.campi().txtLarghezza(), &finestra.campi().txtAltezza()}) {
+    for (KOInputNumerico* const misura : {&campi.txtLarghezza(), &campi.txtAltezza()}) {
         SetFocus(misura->txtnumero());
         scrivi(L"25000");
         for (const WORD tasto : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
@@ -157,7 +156,7 @@ TEST_F(CampiDelCanale, DopoUnNuovoDocumentoLaMisuraInUsoSiRiscriveSubito) {
     EXPECT_EQ(selezione(), L"0-1 0");
     scrivi(L"120");
     EXPECT_EQ(testoDi(larghezza()), L"120");
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 120);
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 120);
 }
 
 TEST_F(CampiDelCanale, DopoUnAperturaLaMisuraInUsoSiRiscriveSubito) {
@@ -170,7 +169,7 @@ TEST_F(CampiDelCanale, DopoUnAperturaLaMisuraInUsoSiRiscriveSubito) {
 }
 
 TEST_F(CampiDelCanale, SalvareLasciaIlCursoreNellaMisura) {
-    finestra.campi().testo(CampoCanale::Logo, L"t");
+    campi.testo(IDC_TXTLOGO, L"t");
     SetFocus(larghezza());
     scrivi(L"120");
     premi(VK_LEFT);

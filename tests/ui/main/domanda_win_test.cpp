@@ -9,18 +9,18 @@ using Domanda = ProvaFrmMain;
 } // namespace
 
 TEST_F(Domanda, UnSoloCampoScrittoOUnSoloElementoBastaPerChiedere) {
-    for (std::size_t i = 0; i < CampiCanale::numeroTesti; ++i) {
-        SCOPED_TRACE(i);
+    for (const int id : campiTesto) {
+        SCOPED_TRACE(id);
         finestra.NuovoDocumento();
-        finestra.campi().testo(static_cast<CampoCanale>(i), L"x");
+        campi.testo(id, L"x");
         attendiDomanda(Risposta::Annulla);
-        EXPECT_FALSE(finestra.documento().ChiediSalvataggio());
+        EXPECT_FALSE(finestra.ChiediSalvataggio());
     }
     finestra.NuovoDocumento();
     metti(L"uno");
     finestra.ImpostaModificato();
     attendiDomanda(Risposta::Annulla);
-    EXPECT_FALSE(finestra.documento().ChiediSalvataggio());
+    EXPECT_FALSE(finestra.ChiediSalvataggio());
 }
 
 // A message that fails ends a command as any failure does.
