@@ -1,8 +1,10 @@
 #include "document/clsFeedRss.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "support/errore.h"
 #include "support/numeri.h"
+#include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
 
@@ -102,8 +104,8 @@ TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito) {
             return;
         }
         const bool descrizione = *dove == static_cast<std::size_t>(CampoElemento::Descrizione);
-        const NodoXml origine = descrizione ? figlio.primoFiglio() : figlio;
-        testi[*dove] = origine ? deposito.conserva(origine.testo().vista()) : std::wstring_view();
+        const Bstr testo = descrizione ? figlio.testoPrimoFiglio() : figlio.testo();
+        testi[*dove] = deposito.conserva(testo.vista());
     });
     return testi;
 }
@@ -134,7 +136,12 @@ CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito) {
     return canale;
 }
 
-NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso) {
+struct Feed {
+    NodoXml rss;
+    NodoXml channel;
+};
+
+Feed trovaFeed(const DocumentoXml& documento, const std::wstring& percorso) {
     const auto radici = documento.elementi(L"rss");
     std::vector<NodoXml> canali;
     if (radici.size() == 1) {
@@ -147,7 +154,7 @@ NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso)
     if (canali.size() != 1) {
         rifiuta(formatoNonValido, percorso, L": formato non valido.");
     }
-    return canali.front();
+    return {radici.front(), canali.front()};
 }
 
 std::int32_t misura(const NodoXml& nodo) {
@@ -173,12 +180,16 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title
     const std::wstring adesso = utc.GetDataUtc(utc.adessoLocale(), true);
     Deposito deposito;
     std::vector<TestiElemento> elementi;
+    bool nostro = false;
     {
         const DocumentoXml documento;
         if (!documento.carica(path)) {
             rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
-        CanaleLetto canale = percorriCanale(trovaCanale(documento, path), deposito);
+        const Feed feed = trovaFeed(documento, path);
+        // In another's feed a reference in a description may be what its author means to be seen.
+        nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
+        CanaleLetto canale = percorriCanale(feed.channel, deposito);
         for (std::size_t i = 0; i < campi.size(); ++i) {
             if (const NodoXml& nodo = canale.campi[i]) {
                 *campi[i] = NormalizzaACapo(nodo.testo().vista());
@@ -199,13 +210,16 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title
         return;
     }
     items.dimensiona(static_cast<std::int64_t>(elementi.size()));
+    std::wstring appoggio;
     for (int i = 0; i <= items.limiteSuperiore(); ++i) {
         const TestiElemento& testi = elementi[static_cast<std::size_t>(i)];
         for (std::size_t c = 0; c < testi.size(); ++c) {
             const auto campo = static_cast<CampoElemento>(c);
+            const bool nostra = nostro && campo == CampoElemento::Descrizione;
+            const auto testo = nostra ? conCaratteri(testi[c], appoggio) : testi[c];
             // The link keeps its line breaks as they are.
             items(campo, i) =
-                campo == CampoElemento::Link ? std::wstring(testi[c]) : NormalizzaACapo(testi[c]);
+                campo == CampoElemento::Link ? std::wstring(testo) : NormalizzaACapo(testo);
         }
         if (auto& data = items(CampoElemento::Data, i); data.empty()) {
             data = adesso;
