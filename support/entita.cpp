@@ -76,14 +76,13 @@ struct Entita {
 };
 using Elenco = std::map<std::wstring_view, Entita>;
 
-// One entity declaration, but for its end. The first one of a name counts.
+// One entity declaration, but for its end. The first one of a name counts; those of parameters are
+// all called "%", which nothing refers to.
 void leggiEntita(Lettore& lettore, Elenco& entita) {
     lettore.saltaSpazi();
-    if (!lettore.salta(L"%")) {
-        const auto nome = lettore.prima(L" \t\r\n>\"'");
-        lettore.saltaSpazi();
-        entita.try_emplace(nome, Entita{lettore.letterale()});
-    }
+    const auto nome = lettore.prima(L" \t\r\n>\"'");
+    lettore.saltaSpazi();
+    entita.try_emplace(nome, Entita{lettore.letterale()});
 }
 
 // The declarations of the DOCTYPE, to its end.
