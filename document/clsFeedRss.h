@@ -48,6 +48,10 @@ public:
 
 private:
     static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
+    // In a feed of this program (`nostro`) the description's references are characters that its
+    // encoding lacks. `appoggio` is to work in, one for all items.
+    static void LeggiElemento(const NodoXml& nodo, bool nostro, TabellaElementi& items, int indice,
+                              std::wstring& appoggio);
 
     // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
     [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);

@@ -11,9 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <span>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -71,59 +69,20 @@ constexpr std::array<std::wstring_view, 5> nomiImmagine{L"title", L"url", L"link
 constexpr std::array<std::wstring_view, numeroCampi> nomiElemento{
     L"title", L"link", L"description", L"author", L"pubDate", L"guid"};
 
-// Texts of a document, kept in large blocks while it lives. As thousands of strings they would lie
-// between what the DOM allocates and frees for each node, and leave a heap of crumbs to search.
-class Deposito {
-public:
-    [[nodiscard]] std::wstring_view conserva(std::wstring_view testo) {
-        if (testo.size() > libero_.size()) {
-            blocchi_.emplace_back(std::max(testo.size(), blocco));
-            libero_ = blocchi_.back();
-        }
-        std::ranges::copy(testo, libero_.begin());
-        const std::wstring_view copia(libero_.data(), testo.size());
-        libero_ = libero_.subspan(testo.size());
-        return copia;
-    }
-
-private:
-    static constexpr std::size_t blocco = std::size_t{512} * 1024;
-
-    std::vector<std::vector<wchar_t>> blocchi_;
-    std::span<wchar_t> libero_;
-};
-
-using TestiElemento = std::array<std::wstring_view, numeroCampi>;
-
-// A later child of the same name overwrites an earlier one.
-TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito) {
-    TestiElemento testi;
-    perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
-        const auto dove = posto(nomiElemento, nome.vista());
-        if (!dove) {
-            return;
-        }
-        const bool descrizione = *dove == static_cast<std::size_t>(CampoElemento::Descrizione);
-        const Bstr testo = descrizione ? figlio.testoPrimoFiglio() : figlio.testo();
-        testi[*dove] = deposito.conserva(testo.vista());
-    });
-    return testi;
-}
-
 // What counts of the channel, gathered in one walk: a query for each field would go through the
 // whole document each time.
 struct CanaleLetto {
     PrimiFigli<nomiCanale.size()> campi{nomiCanale};
     std::vector<NodoXml> immagini;
-    std::vector<TestiElemento> elementi;
+    std::vector<NodoXml> elementi;
 };
 
-CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito) {
+CanaleLetto percorriCanale(const NodoXml& nodo) {
     CanaleLetto canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
-                canale.elementi.push_back(leggiElemento(figlio, deposito));
+                canale.elementi.push_back(figlio);
             }
         } else if (nome.vista() == L"image") {
             if (figlio.elemento()) {
@@ -178,49 +137,33 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title
 
     const ClsUTC utc;
     const std::wstring adesso = utc.GetDataUtc(utc.adessoLocale(), true);
-    Deposito deposito;
-    std::vector<TestiElemento> elementi;
-    bool nostro = false;
-    {
-        const DocumentoXml documento;
-        if (!documento.carica(path)) {
-            rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
-        }
-        const Feed feed = trovaFeed(documento, path);
-        // In another's feed a reference in a description may be what its author means to be seen.
-        nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
-        CanaleLetto canale = percorriCanale(feed.channel, deposito);
-        for (std::size_t i = 0; i < campi.size(); ++i) {
-            if (const NodoXml& nodo = canale.campi[i]) {
-                *campi[i] = NormalizzaACapo(nodo.testo().vista());
-            } else if (i == postoData) {
-                *campi[i] = adesso;
-            }
-        }
-        if (canale.immagini.size() > 1) {
-            rifiuta(formatoNonSupportato, path, L": formato non supportato.");
-        }
-        if (!canale.immagini.empty()) {
-            LeggiImmagine(canale.immagini.front(), image);
-        }
-        elementi = std::move(canale.elementi);
+    const DocumentoXml documento;
+    if (!documento.carica(path)) {
+        rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
     }
-    // The table is filled when the document is gone.
-    if (elementi.empty()) {
+    const Feed feed = trovaFeed(documento, path);
+    const CanaleLetto canale = percorriCanale(feed.channel);
+    for (std::size_t i = 0; i < campi.size(); ++i) {
+        if (const NodoXml& nodo = canale.campi[i]) {
+            *campi[i] = NormalizzaACapo(nodo.testo().vista());
+        } else if (i == postoData) {
+            *campi[i] = adesso;
+        }
+    }
+    if (canale.immagini.size() > 1) {
+        rifiuta(formatoNonSupportato, path, L": formato non supportato.");
+    }
+    if (!canale.immagini.empty()) {
+        LeggiImmagine(canale.immagini.front(), image);
+    }
+    if (canale.elementi.empty()) {
         return;
     }
-    items.dimensiona(static_cast<std::int64_t>(elementi.size()));
+    items.dimensiona(static_cast<std::int64_t>(canale.elementi.size()));
+    const bool nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
     std::wstring appoggio;
     for (int i = 0; i <= items.limiteSuperiore(); ++i) {
-        const TestiElemento& testi = elementi[static_cast<std::size_t>(i)];
-        for (std::size_t c = 0; c < testi.size(); ++c) {
-            const auto campo = static_cast<CampoElemento>(c);
-            const bool nostra = nostro && campo == CampoElemento::Descrizione;
-            const auto testo = nostra ? conCaratteri(testi[c], appoggio) : testi[c];
-            // The link keeps its line breaks as they are.
-            items(campo, i) =
-                campo == CampoElemento::Link ? std::wstring(testo) : NormalizzaACapo(testo);
-        }
+        LeggiElemento(canale.elementi[static_cast<std::size_t>(i)], nostro, items, i, appoggio);
         if (auto& data = items(CampoElemento::Data, i); data.empty()) {
             data = adesso;
         }
@@ -247,4 +190,23 @@ void clsFeedRss::LeggiImmagine(const NodoXml& nodo, clsImgRss& image) {
     if (campi[4]) {
         image.nHeight(misura(campi[4]));
     }
+}
+
+// A later child of the same name overwrites an earlier one.
+void clsFeedRss::LeggiElemento(const NodoXml& nodo, bool nostro, TabellaElementi& items, int indice,
+                               std::wstring& appoggio) {
+    perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
+        const auto dove = posto(nomiElemento, nome.vista());
+        if (!dove) {
+            return;
+        }
+        const auto campo = static_cast<CampoElemento>(*dove);
+        const bool descrizione = campo == CampoElemento::Descrizione;
+        const Bstr letto = descrizione ? figlio.testoPrimoFiglio() : figlio.testo();
+        const bool riferimenti = descrizione && nostro;
+        const auto testo = riferimenti ? conCaratteri(letto.vista(), appoggio) : letto.vista();
+        // The link keeps its line breaks as they are.
+        items(campo, indice) =
+            campo == CampoElemento::Link ? std::wstring(testo) : NormalizzaACapo(testo);
+    });
 }

@@ -4,7 +4,8 @@
 
 std::wstring prodotto::commentoFeed() {
     std::wstring commento(L"Feed RSS creato con ");
-    return commento.append(titolo).append(creditoFeed);
+    commento.append(titolo).append(creditoFeed);
+    return commento;
 }
 
 std::wstring prodotto::versione(wchar_t separatore) {

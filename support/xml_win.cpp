@@ -58,6 +58,25 @@ bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
     return riuscito;
 }
 
+// Whether an entity is referred to anywhere in an element. It may be deeper than the stack.
+bool contieneRiferimenti(NodoXml elemento) {
+    std::vector<NodoXml> daGuardare{std::move(elemento)};
+    while (!daGuardare.empty()) {
+        NodoXml figlio = daGuardare.back().primoFiglio();
+        daGuardare.pop_back();
+        for (; figlio; figlio = figlio.fratello()) {
+            const DOMNodeType tipo = figlio.tipo();
+            if (tipo == NODE_ENTITY_REFERENCE) {
+                return true;
+            }
+            if (tipo == NODE_ELEMENT) {
+                daGuardare.push_back(figlio);
+            }
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 Bstr NodoXml::nome() const {
@@ -70,10 +89,6 @@ DOMNodeType NodoXml::tipo() const {
     DOMNodeType tipo{};
     verifica(nodo_->get_nodeType(&tipo));
     return tipo;
-}
-
-bool NodoXml::elemento() const {
-    return tipo() == NODE_ELEMENT;
 }
 
 Bstr NodoXml::testo() const {
@@ -151,12 +166,14 @@ bool DocumentoXml::carica(const std::wstring& percorso) const {
            riferimentiNoti();
 }
 
-// Where there is a DOCTYPE the DOM passes over what it knows no replacement of. It shows its
-// declarations in the text of the document alone.
+// Where there is a DOCTYPE the DOM passes over what it knows no replacement of. Its declarations it
+// shows in the text of the whole document alone, which takes longer than reading it.
 bool DocumentoXml::riferimentiNoti() const {
     ComPtr<IXMLDOMDocumentType> tipo;
     verifica(documento_->get_doctype(tipo.riempi()));
-    if (!tipo) {
+    ComPtr<IXMLDOMElement> radice;
+    verifica(documento_->get_documentElement(radice.riempi()));
+    if (!tipo || !radice || !contieneRiferimenti(NodoXml(comeNodo(radice)))) {
         return true;
     }
     Bstr testo;

@@ -22,7 +22,8 @@ public:
 
     // The exact name, prefix included.
     [[nodiscard]] Bstr nome() const;
-    [[nodiscard]] bool elemento() const;
+    [[nodiscard]] DOMNodeType tipo() const;
+    [[nodiscard]] bool elemento() const { return tipo() == NODE_ELEMENT; }
     // The text of the node and its descendants, as the DOM trims it.
     [[nodiscard]] Bstr testo() const;
     // The text of the first child alone, be it a reference; none without children.
@@ -36,7 +37,6 @@ public:
     void aggiungi(const NodoXml& figlio) const;
 
 private:
-    [[nodiscard]] DOMNodeType tipo() const;
     [[nodiscard]] NodoXml precedente() const;
     // Without what is in it.
     [[nodiscard]] NodoXml copia() const;
