@@ -53,7 +53,6 @@ public:
 
 private:
     static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
-
     // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
     [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);
 };
