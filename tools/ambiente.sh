@@ -78,6 +78,21 @@ unita_di_rete() {
   export OSTRELLE_UNITA_RETE=R:
 }
 
+# prefisso_doppio: the tests' prefix once more, its screen at 192 dpi; the drive is the same. Ends what
+# runs in the first one.
+prefisso_doppio() {
+  local prima="$WINEPREFIX"
+  "$wineserver" -k || true
+  "$wineserver" -w
+  export WINEPREFIX="$build/wine-doppi"
+  rm -rf "$WINEPREFIX"
+  mkdir -p "$WINEPREFIX"
+  cp -a "$prima"/*.reg "$prima/dosdevices" "$prima/.update-timestamp" "$WINEPREFIX"
+  ln -s "$prima/drive_c" "$WINEPREFIX/drive_c"
+  "$wine64" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 192 /f >/dev/null
+  "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+}
+
 # avvia_wine: Wine's own background programs, started with nothing of ours open: one that held a
 # test's output would keep whoever reads it waiting.
 avvia_wine() {

@@ -5,11 +5,11 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/editor_finto.h"
+#include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
-#include "tests/aiuti/tabella_prova.h"
 #include "ui/main/FrmMain_win.h"
 
 #include "res/risorse.h"
@@ -61,9 +61,7 @@ protected:
         return testo;
     }
 
-    [[nodiscard]] Griglia& griglia() {
-        return *Finestra::da<Griglia>(GetDlgItem(finestra.hwnd(), IDC_GRIGLIA));
-    }
+    [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra); }
 
     // One more item, without counting as a modification.
     void metti(std::wstring_view titoloElemento) {

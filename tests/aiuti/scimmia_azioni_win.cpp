@@ -12,6 +12,10 @@
 
 namespace {
 
+constexpr std::array campiTesto{IDC_TXTTITOLO, IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
+                                IDC_CBOLINGUA, IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
+                                IDC_TXTLOGO,   IDC_TXTURL,       IDC_TXTLINKIMG};
+
 // The window whose inside is at a point of the screen; none where a press would start a loop of the
 // system's own, which no other message ends: on a frame, a scroll bar, the status bar's size grip.
 HWND internoA(POINT schermo) {
@@ -25,14 +29,15 @@ HWND internoA(POINT schermo) {
 
 } // namespace
 
-void Scimmia::sposta(int da, int a) {
+bool Scimmia::sposta(int da, int a) {
     if (da < 0 || a < 0 || da == a || std::max(da, a) >= static_cast<int>(modello_.size())) {
-        return;
+        return false;
     }
     Elemento mosso = std::move(modello_[static_cast<std::size_t>(da)]);
     modello_.erase(modello_.begin() + da);
     modello_.insert(modello_.begin() + a, std::move(mosso));
     ++conti_.spostati;
+    return true;
 }
 
 void Scimmia::tasto() {
@@ -40,11 +45,16 @@ void Scimmia::tasto() {
     if (caso(3) == 0) {
         SetFocus(griglia().lista());
         if (caso(2) == 0) {
-            const int passo = caso(2) == 0 ? -1 : 1;
             const int da = finestra_.ElementoSelezionato();
-            fatto_ = "Alt+arrow";
-            premi(static_cast<WORD>(passo < 0 ? VK_UP : VK_DOWN), {VK_MENU});
-            sposta(da, da + passo);
+            const int fondo = static_cast<int>(modello_.size()) - 1;
+            const std::array<std::pair<WORD, int>, 4> mosse{
+                {{VK_UP, da - 1}, {VK_DOWN, da + 1}, {VK_HOME, 0}, {VK_END, fondo}}};
+            const auto& [tasto, a] = mosse[static_cast<std::size_t>(caso(4))];
+            fatto_ = "Alt+key " + std::to_string(tasto);
+            premi(tasto, {VK_MENU});
+            if (sposta(da, a) && !documento_.modificato()) {
+                segnala("a move by a key that is no modification");
+            }
             return;
         }
     }
@@ -160,7 +170,7 @@ void Scimmia::trascinaInGriglia() {
     const int da = griglia().trascinato();
     const int a = finestra_.ElementoSelezionato();
     lasciaMouse();
-    sposta(da, a);
+    static_cast<void>(sposta(da, a));
 }
 
 void Scimmia::menuGriglia() {
@@ -184,17 +194,38 @@ void Scimmia::eseguiUno(int comando) {
     pompa();
 }
 
+bool Scimmia::daChiedere() {
+    if (!documento_.modificato()) {
+        return false;
+    }
+    if (!modello_.empty() || testoDi(finestra_.hwnd()) != L"Ostrelle  [Nuovo Documento]") {
+        return true;
+    }
+    return std::ranges::any_of(campiTesto, [&](int id) {
+        const std::wstring testo = testoDi(GetDlgItem(campi_.hwnd(), id));
+        return testo.find_first_not_of(L' ') != std::wstring::npos;
+    });
+}
+
+void Scimmia::controllaDomanda(bool attesa) {
+    if (attesa && !domanda_ && !daChiedere()) {
+        segnala("a document went without a question");
+    }
+}
+
 bool Scimmia::lasciato() const {
     return !domanda_ || *domanda_ == Risposta::No || (*domanda_ == Risposta::Si && salvato_);
 }
 
 void Scimmia::nuovo() {
+    const bool attesa = daChiedere();
     if (caso(2) == 0) {
         eseguiUno(mnNuovo);
     } else {
         fatto_ = "Ctrl+N";
         premi('N', {VK_CONTROL});
     }
+    controllaDomanda(attesa);
     if (lasciato()) {
         modello_.clear();
     }
@@ -210,7 +241,9 @@ void Scimmia::apre(int comando) {
         }
         scelto_ = voce.data();
     }
+    const bool attesa = daChiedere();
     eseguiUno(comando);
+    controllaDomanda(attesa);
     if (!lasciato() || scelto_.empty()) {
         return;
     }
@@ -281,7 +314,7 @@ void Scimmia::ridimensiona() {
 void Scimmia::chiudeEAnnulla() {
     fatto_ = "close, taken back";
     // Only where the question comes: a closed window is the end of the test.
-    if (!documento_.scartabile(campi_.vuoti())) {
+    if (daChiedere()) {
         chiude_ = true;
         SendMessageW(finestra_.hwnd(), WM_CLOSE, 0, 0);
         pompa();

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
 #include "support/dialoghiFile.h"
 #include "support/messaggi.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
@@ -85,12 +85,15 @@ private:
     void ridimensiona();
     void chiudeEAnnulla();
 
-    [[nodiscard]] Griglia& griglia() {
-        return *Finestra::da<Griglia>(GetDlgItem(finestra_.hwnd(), IDC_GRIGLIA));
-    }
+    [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra_); }
     void confronta();
     void segnala(std::string guasto);
-    void sposta(int da, int a);
+    // Moves an item of the model; whether there was one to move elsewhere.
+    bool sposta(int da, int a);
+    // Whether the document, as the window shows it, must not go without a question.
+    [[nodiscard]] bool daChiedere();
+    // After what throws the document away; `attesa`: a question had to come first.
+    void controllaDomanda(bool attesa);
     // Whether the question of this step, if any, let the document go.
     [[nodiscard]] bool lasciato() const;
 

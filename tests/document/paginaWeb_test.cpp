@@ -3,6 +3,7 @@
 #include "document/clsItemRss.h"
 #include "support/prodotto.h"
 #include "support/testo.h"
+#include "tests/aiuti/formati.h"
 #include "tests/aiuti/tabella_prova.h"
 
 #include <algorithm>
@@ -29,8 +30,6 @@ Righe righe(const std::wstring& pagina) {
     }
     return trovate;
 }
-
-const FormatoLocale italiano{L',', L'.', L"/", L":"};
 
 ClsUTC conOra() {
     return {Istante{DataOra::daParti(2005, 6, 11, 13), DataOra::daParti(2005, 6, 11, 15)},
@@ -209,6 +208,8 @@ TEST(PaginaWeb, UnTestoCheNonEUnaDataRestaComE) {
 TEST(PaginaWeb, LaDataHaISeparatoriDellUtente) {
     TabellaElementi items;
     metti(items, CampoElemento::Data, 0, L"Tue, 3 Jan 2006 04:05:06 +0100");
-    EXPECT_EQ(bloccoElementi(items, {L',', L'.', L".", L"."})[5], L"<p><i>03.01.2006 04.05.06 ");
-    EXPECT_EQ(bloccoElementi(items, {L'.', L',', L"-", L":"})[5], L"<p><i>03-01-2006 04:05:06 ");
+    EXPECT_EQ(bloccoElementi(items, {Lingua::Italiano, L',', L".", L"."})[5],
+              L"<p><i>03.01.2006 04.05.06 ");
+    EXPECT_EQ(bloccoElementi(items, {Lingua::Inglese, L'.', L"-", L":"})[5],
+              L"<p><i>03-01-2006 04:05:06 ");
 }

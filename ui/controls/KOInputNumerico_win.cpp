@@ -102,8 +102,16 @@ double KOInputNumerico::Valore() const {
 
 void KOInputNumerico::Valore(double valore) {
     const Trattenuta trattenuta(*this);
-    impostaTesto(regole_.scrivi(valore, formatoUtente()));
+    // In use, the new number is there to be typed over.
+    if (assegna(valore) && GetFocus() == txtnumero_) {
+        selezionaTutto();
+    }
+}
+
+bool KOInputNumerico::assegna(double valore) {
+    const bool cambiato = impostaTesto(regole_.scrivi(valore, formatoUtente()));
     notifica(L"Valore");
+    return cambiato;
 }
 
 void KOInputNumerico::Massimo(double valore) {
@@ -177,10 +185,12 @@ void KOInputNumerico::Locked(bool valore) {
     notifica(L"Locked");
 }
 
-void KOInputNumerico::impostaTesto(std::wstring_view testo) {
-    if (campo_.testo(testo)) {
-        cambioValore();
+bool KOInputNumerico::impostaTesto(std::wstring_view testo) {
+    if (!campo_.testo(testo)) {
+        return false;
     }
+    cambioValore();
+    return true;
 }
 
 void KOInputNumerico::cambioValore() {
@@ -232,7 +242,11 @@ void KOInputNumerico::lascia() {
     const Uscita uscita(uscendo_);
     const auto valore = regole_.esci(campo_.testo(), formatoUtente(), *this);
     if (valore && hwnd() != nullptr) {
-        Valore(*valore);
+        // On demand the box stays in use: the caret stands where it stood.
+        const auto [inizio, fine] = selezione();
+        if (assegna(*valore) && GetFocus() == txtnumero_) {
+            Edit_SetSel(txtnumero_, inizio, fine);
+        }
     }
 }
 
@@ -298,11 +312,16 @@ bool KOInputNumerico::tastoGiu(WPARAM tasto) {
     return true;
 }
 
-wchar_t KOInputNumerico::filtra(wchar_t tasto) const {
+std::pair<DWORD, DWORD> KOInputNumerico::selezione() const noexcept {
     DWORD inizio = 0;
     DWORD fine = 0;
     SendMessageW(txtnumero_, EM_GETSEL, reinterpret_cast<WPARAM>(&inizio),
                  reinterpret_cast<LPARAM>(&fine));
+    return {inizio, fine};
+}
+
+wchar_t KOInputNumerico::filtra(wchar_t tasto) const {
+    const auto [inizio, fine] = selezione();
     return regole_.filtra(tasto, campo_.testo(), fine - inizio,
                           {koUtilita::GetSeparatoreDecimale(), koUtilita::GetSeparatoreMigliaia()},
                           formatoUtente());

@@ -39,8 +39,11 @@ void RigheGriglia::completa() noexcept {
 }
 
 int RigheGriglia::elemento(int riga) const noexcept {
-    const int viste = std::min<int>(elementi_, tabella_.conteggio());
-    return riga >= 1 && riga <= viste ? riga - 1 : -1;
+    return riga >= 1 && riga <= ultima() ? riga - 1 : -1;
+}
+
+int RigheGriglia::ultima() const noexcept {
+    return std::min<int>(elementi_, tabella_.conteggio());
 }
 
 std::wstring RigheGriglia::cella(int riga, int colonna) const {

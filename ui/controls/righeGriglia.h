@@ -38,6 +38,8 @@ public:
     // The item of a row; -1 for the header, a filler row, a row outside the grid and a row whose
     // item the table has no more.
     [[nodiscard]] int elemento(int riga) const noexcept;
+    // The last row with an item; 0 when there is none.
+    [[nodiscard]] int ultima() const noexcept;
 
     // What a row shows of its item in two lines, each of at most about `massimo` characters.
     struct Righe {

@@ -33,6 +33,16 @@ bool SelettoreData::valore(DataOra data) {
     return ultimo_ != prima;
 }
 
+void SelettoreData::conferma() const noexcept {
+    // An open calendar would take the arrows for itself, and opening it left the field.
+    if (controllo_ == nullptr || GetFocus() != controllo_ ||
+        IsWindowVisible(DateTime_GetMonthCal(controllo_)) != FALSE) {
+        return;
+    }
+    SendMessageW(controllo_, WM_KEYDOWN, VK_LEFT, 0);
+    SendMessageW(controllo_, WM_KEYDOWN, VK_RIGHT, 0);
+}
+
 bool SelettoreData::cambiato() {
     const DataOra adesso = valore();
     if (adesso == ultimo_) {

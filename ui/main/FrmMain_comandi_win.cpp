@@ -7,19 +7,34 @@
 #include "support/koUtilita.h"
 #include "ui/main/guardia_win.h"
 
+namespace {
+
+// Sets a flag for its life.
+class Alzata {
+public:
+    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno_ = true; }
+    Alzata(const Alzata&) = delete;
+    Alzata& operator=(const Alzata&) = delete;
+    ~Alzata() { segno_ = false; }
+
+private:
+    bool& segno_;
+};
+
+} // namespace
+
 template <class Azione>
 void FrmMain::occupando(Azione azione) {
     if (occupata_) {
         return;
     }
-    occupata_ = true;
+    const Alzata occupata(occupata_);
     // The boxes of a command belong to the active window. A minimised program, or one behind
     // another that is asked about the end of the session, has none.
     if (GetActiveWindow() == nullptr) {
         SetActiveWindow(hwnd());
     }
     azione();
-    occupata_ = false;
 }
 
 bool FrmMain::Form_QueryUnload() {
@@ -28,7 +43,7 @@ bool FrmMain::Form_QueryUnload() {
     occupando([&] {
         protetto(
             [&] {
-                KOInputNumerico::lasciaQuelloColFuoco();
+                campi_.conferma();
                 griglia_.abbandona();
                 chiudere = ChiediSalvataggio();
             },
@@ -45,8 +60,9 @@ void FrmMain::esegui(int id) {
     occupando([&] {
         protetto(
             [&] {
-                // A command does not move the focus: what it saves must be within the limits.
-                KOInputNumerico::lasciaQuelloColFuoco();
+                // A command does not move the focus: what it saves is what the fields show,
+                // within their limits.
+                campi_.conferma();
                 griglia_.abbandona();
                 comando(id);
             },
@@ -84,10 +100,16 @@ void FrmMain::comando(int id) {
         pagina_.mnvisualhtml_Click();
         break;
     case spostaSu:
-        spostaSelezionato(-1);
+        spostaSelezionato(ElementoSelezionato() - 1);
         break;
     case spostaGiu:
-        spostaSelezionato(1);
+        spostaSelezionato(ElementoSelezionato() + 1);
+        break;
+    case spostaInCima:
+        spostaSelezionato(0);
+        break;
+    case spostaInFondo:
+        spostaSelezionato(documento_.elementi().conteggio() - 1);
         break;
     case mnAggiorna:
         RiempiGriglia(false);
@@ -148,11 +170,10 @@ void FrmMain::grigliaSposta(int da, int a) {
     });
 }
 
-void FrmMain::spostaSelezionato(int passo) {
+void FrmMain::spostaSelezionato(int a) {
     const int da = ElementoSelezionato();
-    const int a = da + passo;
-    if (da >= 0 && a >= 0 && a < documento_.elementi().conteggio()) {
-        comandiElementi_.SpostaElemento(da, a, Causa::Trascinamento);
+    if (da >= 0 && a != da && a >= 0 && a < documento_.elementi().conteggio()) {
+        comandiElementi_.SpostaElemento(da, a, Causa::Comando);
     }
 }
 

@@ -87,17 +87,19 @@ private:
     [[nodiscard]] bool Form_QueryUnload();
     void Form_Unload() noexcept;
 
-    // Runs an action that may show a dialog; nothing while another one is at work. The action
-    // raises nothing.
+    // Runs an action that may show a dialog; nothing while another one is at work. An action raises
+    // only what befell the report of its failure.
     template <class Azione>
     void occupando(Azione azione);
 
     void creaControlli();
+    // Runs the command of a key of the grid, when it is one and the grid has the focus.
+    [[nodiscard]] bool acceleraGriglia(MSG& messaggio);
     void comando(int id);
     // What a command of an item says where the mouse found none, whichever row is the current one.
     void avvisaNessunaRiga();
-    // A drag by one row, with the keyboard.
-    void spostaSelezionato(int passo);
+    // The selected item goes to index `a`, where the table has one; counts as a modification.
+    void spostaSelezionato(int a);
     void DisponiFinestra();
 
     Servizi servizi_;

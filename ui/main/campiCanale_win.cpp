@@ -128,6 +128,12 @@ void CampiCanale::dataOra(DataOra valore) {
     }
 }
 
+void CampiCanale::conferma() {
+    KOInputNumerico::lasciaQuelloColFuoco();
+    txtData_.conferma();
+    txtOrario_.conferma();
+}
+
 KOInputNumerico& CampiCanale::txtLarghezza() const {
     return *Finestra::da<KOInputNumerico>(controllo(IDC_TXTLARGHEZZA));
 }
@@ -184,7 +190,6 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
     GetClientRect(hwnd(), &dati);
     misure.sinistraLogo = logo.left * twipsX;
     misure.larghezzaTitolo = (titolo.right - titolo.left) * twipsX;
-    misure.larghezzaLogo = (logo.right - logo.left) * twipsX;
     misure.altoLarghezza = numero.top * twipsY;
     misure.altezzaGetSize = (pulsante.bottom - pulsante.top) * twipsY;
     misure.altezzaDati = dati.bottom * twipsY;
@@ -194,7 +199,7 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
 void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, double twipsY) {
     const auto pixelX = [&](double twips) { return aPixel(twips, twipsX); };
     const auto pixelY = [&](double twips) { return aPixel(twips, twipsY); };
-    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     if (const auto& r = disposizione.fraDati) {
         SetWindowPos(hwnd(), nullptr, pixelX(r->sinistra), pixelY(r->alto), pixelX(r->larghezza),
                      pixelY(r->altezza), fermo);
@@ -209,7 +214,10 @@ void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, doubl
         }
     }
     if (const auto& r = disposizione.cmdGetSize) {
-        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, pixelX(r->sinistra), pixelY(r->alto),
+        // From the window's pixels to the frame's: twips would be rounded once more.
+        POINT sinistra{pixelX(r->sinistra), 0};
+        MapWindowPoints(GetParent(hwnd()), hwnd(), &sinistra, 1);
+        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, sinistra.x, pixelY(r->alto),
                      pixelX(r->larghezza), pixelY(r->altezza), fermo);
     }
 }

@@ -56,6 +56,9 @@ public:
     // Gives both pickers the same date and time; raises 380 for what they cannot hold.
     void dataOra(DataOra valore);
 
+    // What leaving the field that has the focus would do, for a command, which leaves it there.
+    void conferma();
+
     // Pixels, 0 to 10000. Assigning beyond that raises 380 and changes nothing.
     [[nodiscard]] KOInputNumerico& txtLarghezza() const;
     [[nodiscard]] KOInputNumerico& txtAltezza() const;

@@ -61,22 +61,24 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
                 throw Errore(fileRecenteMancante,
                              maiuscolo(percorso) + L": impossibile trovare il file.");
             }
-            leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
-            aperto = true;
+            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
 }
 
-void ComandiDocumento::leggi(const std::wstring& percorso) {
+bool ComandiDocumento::leggi(const std::wstring& percorso) {
     const Clessidra clessidra;
     finestra_.NuovoDocumento();
     Canale canale;
     TabellaElementi elementi;
     clsFeedRss().LeggiDocumentoRSS(percorso, canale, elementi);
-    riempiCampi(percorso, canale);
+    // A value that its field refuses ends the filling; the items are there and are shown.
+    const bool riempiti =
+        protetto([&] { riempiCampi(percorso, canale); }, [&] { finestra_.MostraErrore(); });
     documento_.sostituisci(std::move(elementi));
-    documento_.modificato(false);
+    documento_.modificato(!riempiti);
+    return riempiti;
 }
 
 void ComandiDocumento::riempiCampi(const std::wstring& percorso, const Canale& canale) {

@@ -31,7 +31,9 @@ public:
     void mnNuovo_Click();
 
 private:
-    void leggi(const std::wstring& percorso);
+    // False when a field refused what it was given, which was told; the items are there all the
+    // same. Raises what makes the file unreadable, the document then empty.
+    [[nodiscard]] bool leggi(const std::wstring& percorso);
     void riempiCampi(const std::wstring& percorso, const Canale& canale);
 
     Servizi servizi_;

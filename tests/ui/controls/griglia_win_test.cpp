@@ -167,37 +167,6 @@ TEST(Griglia, UnClicSullaRigaVisibileAMetaNonScorre) {
     EXPECT_TRUE(p.osservatore.mosse().empty());
 }
 
-TEST(Griglia, ITastiMuovonoLaRigaCorrente) {
-    GrigliaProva p(200);
-    p.premiTasto(VK_DOWN);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
-    p.premiTasto(VK_END);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 200);
-    p.premiTasto(VK_HOME);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
-    EXPECT_EQ(p.griglia.rigaInCima(), 1);
-    p.premiTasto(VK_NEXT);
-    EXPECT_GT(p.griglia.rigaCorrente(), 5);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{p.griglia.rigaCorrente()});
-    // One row further than what is in sight scrolls by one row.
-    while (p.griglia.rigaInCima() == 1 && p.griglia.rigaCorrente() < 199) {
-        p.premiTasto(VK_DOWN);
-    }
-    EXPECT_EQ(p.griglia.rigaInCima(), 2);
-}
-
-TEST(Griglia, NemmenoConCtrlUnaRigaRestaSenzaSelezione) {
-    GrigliaProva p(20);
-    p.premiTasto(VK_SPACE, VK_CONTROL);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{1});
-    p.premiTasto(VK_DOWN, VK_CONTROL);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
-    p.premiTasto(VK_ADD, VK_CONTROL);
-    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
-}
-
 TEST(Griglia, ChiSelezionaDaFuoriCambiaLaRigaCorrente) {
     GrigliaProva p(20);
     ListView_SetItemState(p.lista(), 6, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);

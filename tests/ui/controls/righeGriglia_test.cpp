@@ -66,6 +66,7 @@ TEST(RigheGriglia, NumeroDiRigheAttornoA50) {
         EXPECT_EQ(p.righe.elemento(1), 0);
         EXPECT_EQ(p.righe.elemento(elementi), elementi - 1);
         EXPECT_EQ(p.righe.elemento(elementi + 1), -1);
+        EXPECT_EQ(p.righe.ultima(), elementi);
         EXPECT_EQ(p.righe.cella(elementi, 2), std::to_wstring(elementi - 1));
     }
 }
@@ -79,6 +80,7 @@ TEST(RigheGriglia, SoloIntestazioniEPoiRigheVuote) {
     EXPECT_EQ(p.righe.righe(), 50);
     EXPECT_EQ(p.righe.cella(1, 2), L"-1");
     EXPECT_EQ(p.righe.elemento(1), -1);
+    EXPECT_EQ(p.righe.ultima(), 0);
 }
 
 TEST(RigheGriglia, CelleDiUnElemento) {

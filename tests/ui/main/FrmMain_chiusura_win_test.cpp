@@ -1,7 +1,5 @@
+#include "tests/aiuti/frmMainVera_win.h"
 #include "tests/aiuti/frmMain_win.h"
-
-#include "support/messaggi_win.h"
-#include "ui/dialogs/FrmEditFeed_win.h"
 
 #include <commctrl.h>
 
@@ -12,15 +10,8 @@ namespace {
 
 using FrmMainChiusura = ProvaFrmMain;
 
-constexpr const wchar_t* boxWindows = L"#32770";
-
-// The main window with the boxes and the editor that the program has.
-class FrmMainVera : public testing::Test {
+class FrmMainVera : public ProvaFrmMainVera {
 protected:
-    FrmMainVera() {
-        finestra.apri(SW_SHOWNORMAL);
-        portaAvanti(finestra.hwnd());
-    }
     void modifica() {
         campi.testo(IDC_TXTTITOLO, L"scritto");
         ASSERT_TRUE(documento.modificato());
@@ -35,17 +26,6 @@ protected:
         ASSERT_NE(finestra.hwnd(), nullptr);
         EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
     }
-
-    MessaggiWindows messaggi;
-    DialoghiFinti dialoghi;
-    OrologioFermo orologio{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
-    ImpostazioniFinte impostazioni;
-    ClsCodaEliminazione coda;
-    EditorElementiWindows editor{messaggi, orologio};
-    Documento documento;
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, documento};
-    CampiProva campi{finestra};
-    ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };
 
 // A window of another thread, in front as another program's would be, for the life of the object.

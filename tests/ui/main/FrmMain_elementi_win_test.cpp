@@ -59,9 +59,10 @@ TEST_F(FrmMainElementi, UnaTabellaVuotaHaSoloRigheSenzaElemento) {
             attendiNessunaSelezione();
             finestra.esegui(comando);
         }
-        finestra.esegui(spostaSu);
-        finestra.esegui(spostaGiu);
-        EXPECT_EQ(corrente(), riga);
+        for (const int comando : {spostaSu, spostaGiu, spostaInCima, spostaInFondo}) {
+            finestra.esegui(comando);
+            EXPECT_EQ(corrente(), riga);
+        }
     }
     EXPECT_EQ(documento.elementi().conteggio(), 0);
     EXPECT_FALSE(documento.modificato());
@@ -138,11 +139,34 @@ TEST_F(FrmMainElementi, SpostareColTastoTieneLaRigaInCimaEControllaIConfini) {
     EXPECT_EQ(titoloDi(101), L"100");
     EXPECT_EQ(corrente(), 102);
     EXPECT_EQ(griglia().rigaInCima(), 100);
+    EXPECT_TRUE(documento.modificato());
+    documento.modificato(false);
     finestra.SelezionaRiga(1);
     finestra.esegui(spostaSu);
+    finestra.esegui(spostaInCima);
     EXPECT_EQ(titoloDi(0), L"0");
     finestra.SelezionaRiga(200);
     finestra.esegui(spostaGiu);
+    finestra.esegui(spostaInFondo);
     EXPECT_EQ(titoloDi(199), L"199");
     EXPECT_EQ(corrente(), 200);
+    EXPECT_FALSE(documento.modificato());
+}
+
+TEST_F(FrmMainElementi, SpostareInCimaEInFondoPortaLiAncheLaVista) {
+    for (const int quanti : {2, 49, 50, 32767}) {
+        SCOPED_TRACE(quanti);
+        riempi(quanti);
+        finestra.SelezionaRiga(1);
+        finestra.esegui(spostaInFondo);
+        EXPECT_EQ(titoloDi(0), L"1");
+        EXPECT_EQ(titoloDi(quanti - 1), L"0");
+        EXPECT_EQ(corrente(), quanti);
+        EXPECT_TRUE(griglia().visibile(quanti));
+        finestra.esegui(spostaInCima);
+        EXPECT_EQ(titoloDi(0), L"0");
+        EXPECT_EQ(titoloDi(quanti - 1), std::to_wstring(quanti - 1));
+        EXPECT_EQ(corrente(), 1);
+        EXPECT_EQ(griglia().rigaInCima(), 1);
+    }
 }

@@ -313,3 +313,16 @@ TEST_F(FrmMainMenu, AggiornaListaRileggeLaTabellaETornaAllaPrimaRiga) {
     EXPECT_EQ(griglia().rigaCorrente(), 1);
     EXPECT_FALSE(documento.modificato());
 }
+
+TEST_F(FrmMainMenu, SenzaRecentiTornaLaVoceCheLoDice) {
+    const HMENU recenti = GetSubMenu(GetSubMenu(GetMenu(finestra.hwnd()), 0), 8);
+    for (const wchar_t* const salvato : {L"c:\\feed.xml", L""}) {
+        impostazioni.scrivi(L"url", L"murl1", salvato);
+        finestra.CaricaRecenti();
+        ASSERT_EQ(GetMenuItemCount(recenti), 1);
+        const bool vuoto = *salvato == L'\0';
+        EXPECT_EQ(didascalia(recenti, 0), vuoto ? L"nessuna voce in elenco" : salvato);
+        EXPECT_EQ(GetMenuItemID(recenti, 0) == mnrec, vuoto);
+        EXPECT_EQ((GetMenuState(recenti, 0, MF_BYPOSITION) & MF_GRAYED) != 0, vuoto);
+    }
+}

@@ -1,5 +1,6 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
+#include "tests/aiuti/spia_win.h"
 
 #include "support/file_win.h"
 
@@ -63,18 +64,56 @@ TEST_F(FrmMainTasti, InsInvioECancNellaGriglia) {
     EXPECT_EQ(griglia().rigaCorrente(), 3);
 }
 
-TEST_F(FrmMainTasti, AltConLeFrecceSpostaSenzaSegnareLaModifica) {
+TEST_F(FrmMainTasti, AltConFrecceHomeEFineSpostaESegnaLaModifica) {
+    struct Mossa {
+        WORD tasto;
+        const wchar_t* dopo;
+        int riga;
+        bool modifica;
+    };
     riempi();
-    premi(VK_DOWN, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;a;c;");
-    EXPECT_EQ(griglia().rigaCorrente(), 2);
-    premi(VK_DOWN, {VK_MENU});
-    premi(VK_DOWN, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;c;a;");
-    EXPECT_EQ(griglia().rigaCorrente(), 3);
-    premi(VK_UP, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;a;c;");
-    EXPECT_FALSE(documento.modificato());
+    metti(L"d");
+    for (const Mossa& mossa : {Mossa{VK_DOWN, L"b;a;c;d;", 2, true},
+                               {VK_END, L"b;c;d;a;", 4, true},
+                               {VK_DOWN, L"b;c;d;a;", 4, false},
+                               {VK_END, L"b;c;d;a;", 4, false},
+                               {VK_UP, L"b;c;a;d;", 3, true},
+                               {VK_HOME, L"a;b;c;d;", 1, true},
+                               {VK_HOME, L"a;b;c;d;", 1, false},
+                               {VK_UP, L"a;b;c;d;", 1, false}}) {
+        SCOPED_TRACE(inUtf8(mossa.dopo) + " " + std::to_string(mossa.tasto));
+        documento.modificato(false);
+        premi(mossa.tasto, {VK_MENU});
+        EXPECT_EQ(titoliElementi(), mossa.dopo);
+        EXPECT_EQ(griglia().rigaCorrente(), mossa.riga);
+        EXPECT_EQ(documento.modificato(), mossa.modifica);
+    }
+}
+
+TEST_F(FrmMainTasti, LasciareAltPrimaDellAltroTastoNonApreIlMenu) {
+    riempi();
+    int menuAperti = 0;
+    const Spia spia([&](const CWPSTRUCT& messaggio) {
+        if (messaggio.message == WM_ENTERMENULOOP) {
+            ++menuAperti;
+            PostMessageW(finestra.hwnd(), WM_KEYDOWN, VK_ESCAPE, 0);
+        }
+    });
+    for (const WORD tasto : {WORD{VK_DOWN}, WORD{VK_UP}, WORD{VK_END}, WORD{VK_HOME}}) {
+        SCOPED_TRACE(tasto);
+        menuAperti = 0;
+        premiGiu(VK_MENU);
+        premiGiu(tasto);
+        lascia(VK_MENU);
+        lascia(tasto);
+        EXPECT_EQ(menuAperti, 0);
+        // Alt alone still does.
+        premiGiu(VK_MENU);
+        lascia(VK_MENU);
+        EXPECT_EQ(menuAperti, 1);
+    }
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(GetFocus(), lista());
 }
 
 TEST_F(FrmMainTasti, FuoriDallaGrigliaITastiSonoDelCampo) {
@@ -122,6 +161,14 @@ TEST_F(FrmMainTasti, F1ApreLaGuidaEDiceSeManca) {
     premi(VK_F1);
 }
 
+TEST_F(FrmMainTasti, UnErroreDellaGuidaSiDiceComeQuelliDegliElementi) {
+    // The message about the missing file cannot be shown: for the guide that is an error.
+    messaggi.attendi(fileGuida() + L": file non trovato!", L"Errore", Icona::Critica, Pulsanti::Ok,
+                     Risposta::Ok, [] { solleva(errori::memoriaEsaurita); });
+    messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
+    premi(VK_F1);
+}
+
 TEST_F(FrmMainTasti, IlDoppioClicModificaLaRigaCliccata) {
     riempi();
     attendiEditor(L"b", L"x");
@@ -163,8 +210,10 @@ TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
     muoviMouse(lista(), punto(3));
     premi(VK_ESCAPE);
     EXPECT_EQ(griglia().trascinato(), -1);
+    EXPECT_EQ(griglia().rigaCorrente(), 1);
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(griglia().rigaCorrente(), 1);
 }
 
 TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {

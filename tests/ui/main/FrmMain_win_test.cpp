@@ -247,8 +247,9 @@ TEST_F(FrmMainAperta, IlTabulatoreSegueLOcchio) {
 
 TEST_F(FrmMainAperta, OgniMisuraDellaFinestraVaBene) {
     for (const SIZE misura : {SIZE{1, 1}, SIZE{200, 150}, SIZE{5760, 1080}, SIZE{800, 600}}) {
+        // Below the least size as well, which nobody asks about so.
         SetWindowPos(finestra.hwnd(), nullptr, 0, 0, misura.cx, misura.cy,
-                     SWP_NOZORDER | SWP_NOMOVE);
+                     SWP_NOZORDER | SWP_NOMOVE | SWP_NOSENDCHANGING);
         pompa();
     }
     ShowWindow(finestra.hwnd(), SW_MINIMIZE);
@@ -267,7 +268,8 @@ TEST_F(FrmMainAperta, UnaFinestraTroppoStrettaLasciaICampiComErano) {
     SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER | SWP_NOMOVE);
     RECT prima{};
     GetWindowRect(campo(IDC_TXTLOGO), &prima);
-    SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 300, 700, SWP_NOZORDER | SWP_NOMOVE);
+    SetWindowPos(finestra.hwnd(), nullptr, 0, 0, 300, 700,
+                 SWP_NOZORDER | SWP_NOMOVE | SWP_NOSENDCHANGING);
     RECT dopo{};
     GetWindowRect(campo(IDC_TXTLOGO), &dopo);
     EXPECT_EQ(dopo.right - dopo.left, prima.right - prima.left);

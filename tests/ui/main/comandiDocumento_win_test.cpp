@@ -128,15 +128,25 @@ TEST_F(Documenti, UnaDataCheISelettoriNonTengonoSiDiceUnaVolta) {
     EXPECT_EQ(campi.dataOra(), orologio.locale());
 }
 
-TEST_F(Documenti, UnaMisuraFuoriDaiLimitiFinisceLAperturaELasciaIlRiempito) {
-    for (const char* const misura : {"<width>10001</width>", "<width>-1</width>"}) {
-        attendiErrore(380, L"Valore di proprietà non valido");
+TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
+    for (const char* const misura :
+         {"<width>10001</width>", "<width>-1</width>", "<height>10001</height>"}) {
+        messaggi.attendi(L"Valore di proprietà non valido", L"Errore n° 380", Icona::Critica,
+                         Pulsanti::Ok, Risposta::Ok,
+                         [&] { EXPECT_EQ(griglia().righe().elemento(1), -1); });
         const std::wstring percorso =
             feed(L"m.xml", "<image><title>t</title>" + std::string(misura) + "</image>");
         EXPECT_FALSE(finestra.Apri(percorso));
         EXPECT_EQ(documento.percorso(), percorso);
+        EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
         EXPECT_EQ(campi.testo(IDC_TXTLOGO), L"t");
         EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
+        EXPECT_EQ(campi.txtAltezza().Valore(), 0);
+        EXPECT_EQ(titoliElementi(), L"uno;");
+        EXPECT_EQ(griglia().righe().elemento(1), 0);
+        EXPECT_EQ(griglia().righe().cella(1, 1), L"uno\r\n");
+        EXPECT_TRUE(documento.modificato());
+        EXPECT_FALSE(documento.nuovo());
         finestra.NuovoDocumento();
     }
 }

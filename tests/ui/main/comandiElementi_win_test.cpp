@@ -156,6 +156,16 @@ TEST_F(ComandiElementiGriglia, ModificaRiscriveLaColonnaETieneIlGuid) {
     EXPECT_EQ(banco.griglia.documento.ultimaData(), inizio);
 }
 
+TEST_F(ComandiElementiGriglia, ConfermareSenzaCambiareNullaEUnaModifica) {
+    Banco banco(3, editor);
+    banco.seleziona(2);
+    editor.attendi([](clsItemRss&, DataOra ultima) { return ultima; });
+    banco.comandi.cmdModifica_Click();
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
+    EXPECT_TRUE(banco.griglia.documento.modificato());
+}
+
 TEST_F(ComandiElementiGriglia, SenzaElementoModificaECancellaLoDicono) {
     Banco vuoto(0, editor);
     vuoto.attendiSelezione();

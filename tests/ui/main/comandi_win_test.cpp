@@ -3,6 +3,7 @@
 #include "support/file_win.h"
 #include "support/prodotto.h"
 #include "tests/aiuti/comandi_prova_win.h"
+#include "tests/aiuti/proprietariaShell_win.h"
 
 #include <commctrl.h>
 
@@ -244,6 +245,22 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
         {L"? > &Informazione sul prodotto...", [&] { mostraInformazioni(); }},
     };
     prova(voci, casi);
+}
+
+TEST_F(Comandi, CioCheSiApreAppartieneAllaFinestra) {
+    const std::wstring base = fileGuida().substr(0, fileGuida().rfind(L'.'));
+    const FilePassante htm(base + L".htm");
+    riparti();
+    const ProprietariaShell proprietarie;
+    dialoghi.attendiSalva(richiestaPagina, cartella.file(L"p.htm"));
+    attendiDomandaPagina(Risposta::Si);
+    constexpr std::array comandi{mnGuida,           mniaco, mnguidaonline, mnautore,
+                                 mnVerificaUpgrade, mnBug,  mnvisualhtml,  mnsalvahtm};
+    for (const int comando : comandi) {
+        finestra.esegui(comando);
+        EXPECT_NE(registratore.attendi().obiettivo, L"") << comando;
+    }
+    EXPECT_EQ(ProprietariaShell::viste(), std::vector<HWND>(comandi.size(), finestra.hwnd()));
 }
 
 TEST_F(Comandi, OgniPulsanteDellaBarraFaIlSuoLavoro) {
