@@ -4,7 +4,7 @@
 #include "support/messaggi_win.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
-#include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
@@ -20,8 +20,6 @@ protected:
         finestra.apri(SW_SHOWNORMAL);
         portaAvanti(finestra.hwnd());
     }
-
-    [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra); }
 
     // The class of message boxes and dialogs.
     static constexpr const wchar_t* boxWindows = L"#32770";

@@ -5,11 +5,12 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/editor_finto.h"
-#include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/main/FrmMain_win.h"
 
 #include "res/risorse.h"
@@ -65,11 +66,7 @@ protected:
 
     // One more item, without counting as a modification.
     void metti(std::wstring_view titoloElemento) {
-        const std::wstring link = L"https://e.example/" + std::wstring(titoloElemento);
-        const auto elemento =
-            creaElemento({titoloElemento, link, L"", L"", L"Tue, 15 Nov 2005 10:00:00 +0100", L""});
-        documento.applica(documento.aggiunta(elemento), Causa::Trascinamento);
-        finestra.RiempiGriglia(false);
+        mettiElemento(finestra, documento, titoloElemento);
     }
     [[nodiscard]] std::wstring titoloDi(int indice) const {
         return std::wstring(documento.elementi()(CampoElemento::Titolo, indice));

@@ -1,6 +1,5 @@
 #include "tests/aiuti/griglia_prova_win.h"
 
-#include "res/risorse.h"
 #include "support/errore.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/GUI_win.h"
@@ -10,10 +9,6 @@
 #include <array>
 
 #include <gtest/gtest.h>
-
-Griglia& grigliaDi(const Finestra& finestra) {
-    return *Finestra::da<Griglia>(GetDlgItem(finestra.hwnd(), IDC_GRIGLIA));
-}
 
 void OsservatoreProva::grigliaDoppioClic(int riga) {
     eventi.push_back(L"doppio " + std::to_wstring(riga));

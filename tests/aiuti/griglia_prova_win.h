@@ -11,9 +11,6 @@
 #include <string>
 #include <vector>
 
-// The item grid of a main window, found as a user finds it.
-[[nodiscard]] Griglia& grigliaDi(const Finestra& finestra);
-
 // A grid's owner for tests: writes down what it is told and moves items in the table.
 class OsservatoreProva final : public OsservatoreGriglia {
 public:

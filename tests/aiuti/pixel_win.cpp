@@ -8,10 +8,13 @@
 
 namespace {
 
-Immagine fotografa(HDC da, const RECT& r) {
-    return dipinta(r.right - r.left, r.bottom - r.top, [&](HDC dc) {
-        BitBlt(dc, 0, 0, r.right - r.left, r.bottom - r.top, da, 0, 0, SRCCOPY);
+// What a window's device context shows, from its upper left corner on.
+Immagine fotografa(HWND finestra, HDC da, SIZE misura) {
+    Immagine immagine = dipinta(misura.cx, misura.cy, [&](HDC dc) {
+        BitBlt(dc, 0, 0, misura.cx, misura.cy, da, 0, 0, SRCCOPY);
     });
+    ReleaseDC(finestra, da);
+    return immagine;
 }
 
 } // namespace
@@ -71,19 +74,13 @@ Immagine sulloSchermo(HWND finestra) {
     UpdateWindow(finestra);
     RECT r{};
     GetClientRect(finestra, &r);
-    const HDC da = GetDC(finestra);
-    Immagine immagine = fotografa(da, r);
-    ReleaseDC(finestra, da);
-    return immagine;
+    return fotografa(finestra, GetDC(finestra), {r.right, r.bottom});
 }
 
 Immagine tuttaSulloSchermo(HWND finestra) {
     RECT r{};
     GetWindowRect(finestra, &r);
-    const HDC da = GetWindowDC(finestra);
-    Immagine immagine = fotografa(da, r);
-    ReleaseDC(finestra, da);
-    return immagine;
+    return fotografa(finestra, GetWindowDC(finestra), {r.right - r.left, r.bottom - r.top});
 }
 
 ColoriSistema::ColoriSistema(const std::vector<Coppia>& colori) {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
 #include "support/dialoghiFile.h"
 #include "support/messaggi.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"

@@ -34,13 +34,11 @@ bool SelettoreData::valore(DataOra data) {
 }
 
 void SelettoreData::conferma() const noexcept {
-    // An open calendar would take the arrows for itself, and opening it left the field.
-    if (controllo_ == nullptr || GetFocus() != controllo_ ||
-        IsWindowVisible(DateTime_GetMonthCal(controllo_)) != FALSE) {
-        return;
+    // One part on and back: the control takes in what was typed when it leaves a part.
+    if (controllo_ != nullptr && GetFocus() == controllo_) {
+        SendMessageW(controllo_, WM_KEYDOWN, VK_LEFT, 0);
+        SendMessageW(controllo_, WM_KEYDOWN, VK_RIGHT, 0);
     }
-    SendMessageW(controllo_, WM_KEYDOWN, VK_LEFT, 0);
-    SendMessageW(controllo_, WM_KEYDOWN, VK_RIGHT, 0);
 }
 
 bool SelettoreData::cambiato() {

@@ -20,7 +20,8 @@ TEST(Contrasto, OgniCanalePesaASuoModo) {
     EXPECT_NEAR(contrasto(0x0000FF, bianco), 4.00, 0.005);
     EXPECT_NEAR(contrasto(0x00FF00, bianco), 1.37, 0.005);
     EXPECT_NEAR(contrasto(0xFF0000, bianco), 8.59, 0.005);
-    // The grey that is just not enough for text, and one near black.
+    // A dark grey, the one that is just not enough for text, and one near black.
+    EXPECT_NEAR(contrasto(0x404040, bianco), 10.37, 0.005);
     EXPECT_NEAR(contrasto(0x777777, bianco), 4.48, 0.005);
     EXPECT_NEAR(contrasto(0x0A0A0A, nero), 1.06, 0.005);
 }

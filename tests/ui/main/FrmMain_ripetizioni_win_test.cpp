@@ -10,12 +10,8 @@ class FrmMainRipetizioni : public ProvaFrmMainVera {
 protected:
     FrmMainRipetizioni() {
         for (const wchar_t* const t : {L"a", L"b"}) {
-            const int i = aggiungi(documento);
-            metti(documento, CampoElemento::Titolo, i, t);
-            metti(documento, CampoElemento::Link, i, L"https://e.example/");
-            metti(documento, CampoElemento::Data, i, L"Tue, 15 Nov 2005 10:00:00 +0100");
+            mettiElemento(finestra, documento, t);
         }
-        finestra.RiempiGriglia(false);
     }
     void TearDown() override { lascia(VK_RETURN); }
 
@@ -48,7 +44,7 @@ TEST_F(FrmMainRipetizioni, InvioTenutoSuCancellaNonRispondeAllaDomanda) {
 }
 
 TEST_F(FrmMainRipetizioni, InvioTenutoNellaGrigliaNonSalvaNellEditor) {
-    SetFocus(griglia().lista());
+    SetFocus(grigliaDi(finestra).lista());
     const QuandoAppare dialogo(boxWindows, L"Edit", [&](HWND box) {
         SetWindowTextW(GetDlgItem(box, IDC_EDITTITOLO), L"cambiato");
         tieniEPoiPremi(box);

@@ -24,9 +24,9 @@ protected:
     }
     // Date and time of a saved feed, without the offset, which is today's.
     [[nodiscard]] static std::wstring dataIn(const std::wstring& percorso) {
-        FeedDiProva documento;
-        documento.leggi(percorso);
-        return documento.lastBuildDate.substr(0, documento.lastBuildDate.rfind(L' '));
+        FeedDiProva letto;
+        letto.leggi(percorso);
+        return letto.lastBuildDate.substr(0, letto.lastBuildDate.rfind(L' '));
     }
     // A feed whose image has this size.
     [[nodiscard]] std::wstring feed(int larghezza, int altezza) {

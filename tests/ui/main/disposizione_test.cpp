@@ -97,10 +97,12 @@ TEST(Disposizione, ATutteLeMisureIlPulsanteELaStrisciaSonoInsieme) {
             ASSERT_EQ(d.cmdGetSize.has_value(), d.picCmd.has_value());
             ASSERT_EQ(d.griglia.has_value(), d.picCmd.has_value());
             if (d.picCmd) {
-                ASSERT_EQ(d.cmdGetSize->sinistra, d.picCmd->sinistra) << larghezza;
-                ASSERT_GT(d.griglia->larghezza, 0);
-                ASSERT_GT(d.griglia->altezza, 0);
-                ASSERT_EQ(d.griglia->sinistra + d.griglia->larghezza + 50, d.picCmd->sinistra);
+                const Riquadro griglia = posto(d.griglia);
+                const double striscia = posto(d.picCmd).sinistra;
+                ASSERT_EQ(posto(d.cmdGetSize).sinistra, striscia) << larghezza;
+                ASSERT_GT(griglia.larghezza, 0);
+                ASSERT_GT(griglia.altezza, 0);
+                ASSERT_EQ(griglia.sinistra + griglia.larghezza + 50, striscia);
             }
             if (d.fraDati) {
                 ASSERT_GT(d.fraDati->larghezza, 0);
@@ -117,7 +119,6 @@ TEST(Disposizione, ATutteLeMisureIlPulsanteELaStrisciaSonoInsieme) {
 TEST(Disposizione, UnaFinestraMinimaNonMuoveNulla) {
     const auto d = DisponiControlli(misure(0, 0));
     EXPECT_FALSE(d.fraDati);
-    EXPECT_FALSE(d.larghezzaImmagine);
     EXPECT_FALSE(d.griglia);
     EXPECT_FALSE(d.picCmd);
     EXPECT_FALSE(d.cmdGetSize);
