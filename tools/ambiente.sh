@@ -3,7 +3,7 @@
 
 radice=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build="$radice/build"
-wine64=/usr/lib/wine/wine64
+wine64="$radice/tools/wine"
 wineserver=/usr/lib/wine/wineserver
 
 passo() { printf '\n== %s\n' "$*"; }
