@@ -6,6 +6,14 @@ build="$radice/build"
 wine64="$radice/tools/wine"
 wineserver=/usr/lib/wine/wineserver
 
+# One line "passed failed skipped" for each run of tests.
+conti="$build/conti"
+# totali: their sums; whether nothing failed.
+totali() {
+  awk '{p += $1; f += $2; s += $3}
+    END {printf "%d passed, %d failed, %d skipped\n", p, f, s; exit f > 0}' "$conti"
+}
+
 passo() { printf '\n== %s\n' "$*"; }
 
 # installa: every package of tools/packages that is missing.
@@ -84,6 +92,16 @@ avvia_wine() {
   "$wine64" explorer.exe /desktop </dev/null >/dev/null 2>&1 &
   disown
   "$wine64" cmd /c ver </dev/null >/dev/null 2>&1
+}
+
+# riavvia_wine LANGUAGE: the same once more in another language. What a background program starts
+# brings its own: the separators of the whole prefix would become those.
+riavvia_wine() {
+  { export LC_ALL=$1.UTF-8 LANG=$1.UTF-8; } 2>/dev/null
+  "$wineserver" -k || true
+  "$wineserver" -w
+  "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+  avvia_wine
 }
 
 # schermo WxH [DPI]: a virtual display of its own, closed when the shell ends.
