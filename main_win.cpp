@@ -28,7 +28,8 @@ int esegui(int comeMostrare) {
     if (!FrmMain::Form_Initialize(messaggi)) {
         return 0;
     }
-    FrmMain finestra(servizi);
+    Documento documento;
+    FrmMain finestra(servizi, documento);
     finestra.apri(comeMostrare);
     return finestra.cicloMessaggi();
 }

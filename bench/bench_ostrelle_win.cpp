@@ -73,6 +73,7 @@ public:
     }
 
     FrmMain& finestra() noexcept { return finestra_; }
+    [[nodiscard]] const TabellaElementi& elementi() const noexcept { return documento_.elementi(); }
 
     // Until nothing is left to do: every message, every paint.
     void calma() {
@@ -87,7 +88,7 @@ public:
     }
 
     void apri(const std::wstring& percorso) {
-        if (!finestra_.documento().Apri(percorso)) {
+        if (!finestra_.Apri(percorso)) {
             abbandona(L"cannot open");
         }
         calma();
@@ -100,7 +101,9 @@ private:
     ImpostazioniRegistro impostazioni_{prodotto::titolo};
     ClsCodaEliminazione coda_;
     EditorVeloce editor_;
-    FrmMain finestra_{Servizi{messaggi_, dialoghi_, orologio_, impostazioni_, coda_, editor_}};
+    Documento documento_;
+    FrmMain finestra_{Servizi{messaggi_, dialoghi_, orologio_, impostazioni_, coda_, editor_},
+                      documento_};
 };
 
 int apri(const std::wstring& percorso) {
@@ -109,7 +112,7 @@ int apri(const std::wstring& percorso) {
     programma.apri(percorso);
     riporta("ms", tempo.millisecondi());
     riporta("kib", static_cast<double>(piccoMemoria()));
-    riporta("items", programma.finestra().elementi().conteggio());
+    riporta("items", programma.elementi().conteggio());
     return 0;
 }
 
@@ -119,7 +122,7 @@ int salva(const std::wstring& percorso) {
     std::vector<double> tempi;
     for (int i = 0; i < salvataggi; ++i) {
         const Cronometro tempo;
-        if (!programma.finestra().documento().Salva(false)) {
+        if (!programma.finestra().Salva(false)) {
             abbandona(L"cannot save");
         }
         programma.calma();
@@ -133,7 +136,7 @@ int modifica(const std::wstring& percorso, int volte) {
     Programma programma;
     programma.apri(percorso);
     FrmMain& finestra = programma.finestra();
-    const int elementi = finestra.elementi().conteggio();
+    const int elementi = programma.elementi().conteggio();
     const int riga = elementi / 2;
     struct Lavoro {
         const char* nome;
@@ -155,7 +158,7 @@ int modifica(const std::wstring& percorso, int volte) {
             lavoro.tempi.push_back(tempo.millisecondi());
         }
     }
-    if (finestra.elementi().conteggio() != elementi) {
+    if (programma.elementi().conteggio() != elementi) {
         abbandona(L"a command did not do its work");
     }
     for (auto& lavoro : lavori) {

@@ -120,7 +120,7 @@ DataOra ClsUTC::ToDate(std::wstring_view testo) const {
         orario.ore += nDiffOre_;
     } else {
         // Only checked for being a number: the clock time is taken as written.
-        static_cast<void>(testoAInt16(zona, formato_));
+        static_cast<void>(testoAInt16(zona, formato_.lingua));
     }
     const DataOra data = DataOra::daParti(anno, mese, giorno);
     const std::int64_t ore = aInt16(orario.ore);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/clsImgRss.h"
+#include "document/canale.h"
 #include "document/tabellaElementi.h"
 
 #include <string>
@@ -9,15 +9,16 @@
 class ClsCodaEliminazione;
 class NodoXml;
 
-// Reads and writes the feed document. Keeps nothing between calls. The channel's strings stand in
-// the same order everywhere: title, link, description, language, copyright, lastBuildDate (RFC 822
-// text), webMaster.
+// Reads and writes the feed document. Keeps nothing between calls. Each operation has a form that
+// takes the channel whole and one that takes its strings apart: title, link, description, language,
+// copyright, lastBuildDate (RFC 822 text), webMaster.
 class clsFeedRss {
 public:
-    // Fills all that follows `path` from the file; `image` is replaced by a new one. Raises 18343
+    // Fills all that follows `path` from the file; the channel's image is a new one. Raises 18343
     // (cannot be loaded), 18344 (no RSS document), 18345 (more than one image), 6 (more than 32767
     // items, a width beyond 32 bits); what was filled until then stays, and a file that cannot be
     // loaded leaves everything empty.
+    void LeggiDocumentoRSS(const std::wstring& path, Canale& canale, TabellaElementi& items) const;
     void LeggiDocumentoRSS(const std::wstring& path, std::wstring& title, std::wstring& link,
                            std::wstring& description, std::wstring& language,
                            std::wstring& copyright, std::wstring& lastBuildDate,
@@ -26,6 +27,8 @@ public:
     // Writes every item up to the table's upper bound. The file on disk is touched once the tree is
     // complete: deleted, then saved. Raises 5 for a text that no XML document can hold, 61 when the
     // disk was full, else the failure of the deletion or the DOM.
+    void CreaDocumentoRSS(const std::wstring& path, const Canale& canale,
+                          const TabellaElementi& items) const;
     void CreaDocumentoRSS(const std::wstring& path, const std::wstring& title,
                           const std::wstring& link, const std::wstring& description,
                           const std::wstring& language, const std::wstring& copyright,
@@ -35,6 +38,8 @@ public:
     // Writes the whole feed as an HTML page in the ANSI code page; the language is not shown. A
     // file of that name is deleted first; a page that cannot be written whole is not left on disk.
     // Raises the run-time error of the failure.
+    void CreaDocumentoHTML(const std::wstring& path, const Canale& canale,
+                           const TabellaElementi& items) const;
     void CreaDocumentoHTML(const std::wstring& path, const std::wstring& title,
                            const std::wstring& link, const std::wstring& description,
                            const std::wstring& language, const std::wstring& copyright,

@@ -1,6 +1,8 @@
 #include "document/clsFeedRss.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/clsItemRss.h"
+#include "document/deposito.h"
 #include "support/errore.h"
 #include "support/numeri.h"
 #include "support/testo.h"
@@ -8,10 +10,10 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
-#include <span>
 #include <string_view>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -60,68 +62,61 @@ private:
     std::array<NodoXml, quanti> trovati_;
 };
 
-constexpr std::array<std::wstring_view, 7> nomiCanale{
-    L"title", L"link", L"description", L"language", L"copyright", L"lastBuildDate", L"webMaster"};
-constexpr std::size_t postoData = 5;
 constexpr std::array<std::wstring_view, 5> nomiImmagine{L"title", L"url", L"link", L"width",
                                                         L"height"};
-// In the order of CampoElemento.
-constexpr std::array<std::wstring_view, numeroCampi> nomiElemento{
-    L"title", L"link", L"description", L"author", L"pubDate", L"guid"};
 
-// Texts of a document, kept in large blocks while it lives. As thousands of strings they would lie
-// between what the DOM allocates and frees for each node, and leave a heap of crumbs to search.
-class Deposito {
-public:
-    [[nodiscard]] std::wstring_view conserva(std::wstring_view testo) {
-        if (testo.size() > libero_.size()) {
-            blocchi_.emplace_back(std::max(testo.size(), blocco));
-            libero_ = blocchi_.back();
-        }
-        std::ranges::copy(testo, libero_.begin());
-        const std::wstring_view copia(libero_.data(), testo.size());
-        libero_ = libero_.subspan(testo.size());
-        return copia;
+// The element names of a table of fields.
+template <class Voci>
+constexpr auto nomiDi(const Voci& voci) {
+    std::array<std::wstring_view, std::tuple_size_v<Voci>> nomi;
+    std::ranges::transform(voci, nomi.begin(), [](const auto& voce) { return voce.nodo; });
+    return nomi;
+}
+
+constexpr auto nomiCanale = nomiDi(vociCanale);
+constexpr auto nomiElemento = nomiDi(vociElemento);
+
+// A text as the document keeps it: the link keeps its line breaks as they are.
+std::wstring_view conserva(Deposito& deposito, CampoElemento campo, std::wstring_view testo) {
+    if (campo == CampoElemento::Link || testo.find(L'\n') == testo.npos) {
+        return deposito.conserva(testo);
     }
+    return deposito.conserva(aCapoCrLf(testo));
+}
 
-private:
-    static constexpr std::size_t blocco = std::size_t{512} * 1024;
-
-    std::vector<std::vector<wchar_t>> blocchi_;
-    std::span<wchar_t> libero_;
-};
-
-using TestiElemento = std::array<std::wstring_view, numeroCampi>;
-
-// A later child of the same name overwrites an earlier one.
-TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito) {
+// A later child of the same name overwrites an earlier one. An item without a date is of `adesso`.
+TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
     TestiElemento testi;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         const auto dove = posto(nomiElemento, nome.vista());
         if (!dove) {
             return;
         }
-        const bool descrizione = *dove == static_cast<std::size_t>(CampoElemento::Descrizione);
-        const NodoXml origine = descrizione ? figlio.primoFiglio() : figlio;
-        testi[*dove] = origine ? deposito.conserva(origine.testo().vista()) : std::wstring_view();
+        const auto campo = static_cast<CampoElemento>(*dove);
+        const NodoXml origine = campo == CampoElemento::Descrizione ? figlio.primoFiglio() : figlio;
+        testi[*dove] =
+            origine ? conserva(deposito, campo, origine.testo().vista()) : std::wstring_view();
     });
+    if (auto& data = testi[static_cast<std::size_t>(CampoElemento::Data)]; data.empty()) {
+        data = adesso;
+    }
     return testi;
 }
 
-// What counts of the channel, gathered in one walk: a query for each field would go through the
-// whole document each time.
+// What counts of the channel besides the items, gathered in one walk: a query for each field would
+// go through the whole document each time.
 struct CanaleLetto {
     PrimiFigli<nomiCanale.size()> campi{nomiCanale};
     std::vector<NodoXml> immagini;
-    std::vector<TestiElemento> elementi;
 };
 
-CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito) {
+CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
+    const std::wstring_view data = deposito.conserva(adesso);
     CanaleLetto canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
-                canale.elementi.push_back(leggiElemento(figlio, deposito));
+                deposito.aggiungi(leggiElemento(figlio, deposito, data));
             }
         } else if (nome.vista() == L"image") {
             if (figlio.elemento()) {
@@ -156,61 +151,37 @@ std::int32_t misura(const NodoXml& nodo) {
 
 } // namespace
 
-void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, std::wstring& title,
-                                   std::wstring& link, std::wstring& description,
-                                   std::wstring& language, std::wstring& copyright,
-                                   std::wstring& lastBuildDate, std::wstring& webMaster,
-                                   clsImgRss& image, TabellaElementi& items) const {
-    const std::array<std::wstring*, nomiCanale.size()> campi{
-        &title, &link, &description, &language, &copyright, &lastBuildDate, &webMaster};
-    for (auto* const campo : campi) {
-        campo->clear();
-    }
+void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
+                                   TabellaElementi& items) const {
+    canale = Canale();
     items.svuota();
-    image = clsImgRss();
 
     const ClsUTC utc;
     const std::wstring adesso = utc.GetDataUtc(utc.adessoLocale(), true);
-    Deposito deposito;
-    std::vector<TestiElemento> elementi;
+    const auto deposito = std::make_shared<Deposito>();
     {
         const DocumentoXml documento;
         if (!documento.carica(path)) {
             rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
-        CanaleLetto canale = percorriCanale(trovaCanale(documento, path), deposito);
-        for (std::size_t i = 0; i < campi.size(); ++i) {
-            if (const NodoXml& nodo = canale.campi[i]) {
-                *campi[i] = NormalizzaACapo(nodo.testo().vista());
-            } else if (i == postoData) {
-                *campi[i] = adesso;
+        const CanaleLetto letto = percorriCanale(trovaCanale(documento, path), *deposito, adesso);
+        for (std::size_t i = 0; i < vociCanale.size(); ++i) {
+            const auto membro = vociCanale[i].membro;
+            if (const NodoXml& nodo = letto.campi[i]) {
+                canale.*membro = NormalizzaACapo(nodo.testo().vista());
+            } else if (membro == &Canale::lastBuildDate) {
+                canale.*membro = adesso;
             }
         }
-        if (canale.immagini.size() > 1) {
+        if (letto.immagini.size() > 1) {
             rifiuta(formatoNonSupportato, path, L": formato non supportato.");
         }
-        if (!canale.immagini.empty()) {
-            LeggiImmagine(canale.immagini.front(), image);
+        if (!letto.immagini.empty()) {
+            LeggiImmagine(letto.immagini.front(), canale.image);
         }
-        elementi = std::move(canale.elementi);
     }
     // The table is filled when the document is gone.
-    if (elementi.empty()) {
-        return;
-    }
-    items.dimensiona(static_cast<std::int64_t>(elementi.size()));
-    for (int i = 0; i <= items.limiteSuperiore(); ++i) {
-        const TestiElemento& testi = elementi[static_cast<std::size_t>(i)];
-        for (std::size_t c = 0; c < testi.size(); ++c) {
-            const auto campo = static_cast<CampoElemento>(c);
-            // The link keeps its line breaks as they are.
-            items(campo, i) =
-                campo == CampoElemento::Link ? std::wstring(testi[c]) : NormalizzaACapo(testi[c]);
-        }
-        if (auto& data = items(CampoElemento::Data, i); data.empty()) {
-            data = adesso;
-        }
-    }
+    items.riempi(Deposito::elementi(deposito));
 }
 
 void clsFeedRss::LeggiImmagine(const NodoXml& nodo, clsImgRss& image) {

@@ -23,13 +23,9 @@ void scriviPagina(const std::wstring& path, const std::wstring& testo) {
 
 } // namespace
 
-void clsFeedRss::CreaDocumentoHTML(const std::wstring& path, const std::wstring& title,
-                                   const std::wstring& link, const std::wstring& description,
-                                   const std::wstring& /*language*/, const std::wstring& copyright,
-                                   const std::wstring& lastBuildDate, const std::wstring& webMaster,
-                                   const clsImgRss& image, const TabellaElementi& items) const {
-    scriviPagina(path, paginaFeed(title, link, description, copyright, lastBuildDate, webMaster,
-                                  image, items, ClsUTC(), formatoUtente()));
+void clsFeedRss::CreaDocumentoHTML(const std::wstring& path, const Canale& canale,
+                                   const TabellaElementi& items) const {
+    scriviPagina(path, paginaFeed(canale, items, ClsUTC(), formatoUtente()));
 }
 
 std::wstring clsFeedRss::VisualizzaItemHTML(const TabellaElementi& items,

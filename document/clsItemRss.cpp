@@ -32,3 +32,18 @@ void clsItemRss::Svuota() noexcept {
     }
     modificato_ = false;
 }
+
+void clsItemRss::riempi(const Elemento& elemento) {
+    Svuota();
+    for (std::size_t i = 0; i < vociElemento.size(); ++i) {
+        (this->*vociElemento[i].scrive)(elemento.testi()[i]);
+    }
+}
+
+ElementoCondiviso clsItemRss::elemento() const {
+    TestiElemento testi;
+    for (std::size_t i = 0; i < vociElemento.size(); ++i) {
+        testi[i] = (this->*vociElemento[i].legge)();
+    }
+    return creaElemento(testi);
+}

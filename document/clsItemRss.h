@@ -1,5 +1,8 @@
 #pragma once
 
+#include "document/elemento.h"
+
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -31,6 +34,11 @@ public:
     // Empties the six texts and lowers Modificato.
     void Svuota() noexcept;
 
+    // The one place where a record is filled from an item of the table, and read back into a new
+    // one.
+    void riempi(const Elemento& elemento);
+    [[nodiscard]] ElementoCondiviso elemento() const;
+
     // A new `item` element made in the document, attached to nothing. Raises what the DOM raises.
     [[nodiscard]] ElementoXml getNodoItem(const DocumentoXml& doc) const;
 
@@ -46,3 +54,21 @@ private:
     mutable std::wstring appoggio_;
     bool modificato_ = false;
 };
+
+// A text of an item: its property, its element, and how messages name it.
+struct VoceElemento {
+    const std::wstring& (clsItemRss::*legge)() const noexcept;
+    void (clsItemRss::*scrive)(std::wstring_view);
+    std::wstring_view nodo;
+    std::wstring_view nome;
+};
+
+// In the order of CampoElemento, which is that of the file.
+inline constexpr std::array<VoceElemento, numeroCampi> vociElemento{{
+    {&clsItemRss::sTitle, &clsItemRss::sTitle, L"title", L"titolo"},
+    {&clsItemRss::sLink, &clsItemRss::sLink, L"link", L"link"},
+    {&clsItemRss::sDescription, &clsItemRss::sDescription, L"description", L"descrizione"},
+    {&clsItemRss::sAuthor, &clsItemRss::sAuthor, L"author", L"autore"},
+    {&clsItemRss::sPubDate, &clsItemRss::sPubDate, L"pubDate", L"data"},
+    {&clsItemRss::sGuid, &clsItemRss::sGuid, L"guid", L"guid"},
+}};

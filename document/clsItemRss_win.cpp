@@ -5,13 +5,16 @@
 
 ElementoXml clsItemRss::getNodoItem(const DocumentoXml& doc) const {
     ElementoXml nodo = doc.creaElemento(L"item");
-    nodo.aggiungi(doc.creaElemento(L"title", sTitle_));
-    nodo.aggiungi(doc.creaElemento(L"link", sLink_));
-    const ElementoXml descrizione = doc.creaElemento(L"description");
-    descrizione.aggiungi(doc.creaCData(conRiferimenti(sDescription_, appoggio_)));
-    nodo.aggiungi(descrizione);
-    nodo.aggiungi(doc.creaElemento(L"author", sAuthor_));
-    nodo.aggiungi(doc.creaElemento(L"pubDate", sPubDate_));
-    nodo.aggiungi(doc.creaElemento(L"guid", sGuid_));
+    for (std::size_t i = 0; i < vociElemento.size(); ++i) {
+        const VoceElemento& voce = vociElemento[i];
+        const std::wstring& testo = (this->*voce.legge)();
+        if (static_cast<CampoElemento>(i) == CampoElemento::Descrizione) {
+            const ElementoXml descrizione = doc.creaElemento(voce.nodo);
+            descrizione.aggiungi(doc.creaCData(conRiferimenti(testo, appoggio_)));
+            nodo.aggiungi(descrizione);
+        } else {
+            nodo.aggiungi(doc.creaElemento(voce.nodo, testo));
+        }
+    }
     return nodo;
 }

@@ -77,13 +77,8 @@ public:
     void elementi(const TabellaElementi& items) {
         clsItemRss item;
         for (int i = 0; i <= items.limiteSuperiore(); ++i) {
-            item.Svuota();
-            item.sTitle(items(CampoElemento::Titolo, i));
-            item.sLink(items(CampoElemento::Link, i));
-            item.sDescription(items(CampoElemento::Descrizione, i));
-            item.sAuthor(items(CampoElemento::Autore, i));
-            item.sPubDate(data(items(CampoElemento::Data, i)));
-            item.sGuid(items(CampoElemento::Guid, i));
+            item.riempi(*items.elemento(i));
+            item.sPubDate(data(item.sPubDate()));
             elemento(item);
         }
     }
@@ -118,19 +113,16 @@ private:
 
 } // namespace
 
-std::wstring paginaFeed(const std::wstring& title, const std::wstring& link,
-                        const std::wstring& description, const std::wstring& copyright,
-                        const std::wstring& lastBuildDate, const std::wstring& webMaster,
-                        const clsImgRss& image, const TabellaElementi& items, const ClsUTC& utc,
+std::wstring paginaFeed(const Canale& canale, const TabellaElementi& items, const ClsUTC& utc,
                         const FormatoLocale& formato) {
     Pagina pagina(utc, formato);
-    pagina.testata(title);
-    pagina.immagine(image);
-    pagina.intestazione(title, link);
-    pagina.riga(L"<p>", description);
-    pagina.riga(L"<p><i>", pagina.data(lastBuildDate), L" ");
-    pagina.riga(L"<br>", copyright, L" ");
-    pagina.riga(L"<br>", webMaster, L"</i>");
+    pagina.testata(canale.title);
+    pagina.immagine(canale.image);
+    pagina.intestazione(canale.title, canale.link);
+    pagina.riga(L"<p>", canale.description);
+    pagina.riga(L"<p><i>", pagina.data(canale.lastBuildDate), L" ");
+    pagina.riga(L"<br>", canale.copyright, L" ");
+    pagina.riga(L"<br>", canale.webMaster, L"</i>");
     pagina.elementi(items);
     return pagina.chiudi();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "datetime/ClsUTC.h"
-#include "document/clsImgRss.h"
+#include "document/canale.h"
 #include "document/tabellaElementi.h"
 #include "support/formato.h"
 
@@ -12,11 +12,8 @@
 // text that is no date is shown unchanged.
 
 // The whole feed: channel, image when it was set, every item up to the table's upper bound.
-[[nodiscard]] std::wstring
-paginaFeed(const std::wstring& title, const std::wstring& link, const std::wstring& description,
-           const std::wstring& copyright, const std::wstring& lastBuildDate,
-           const std::wstring& webMaster, const clsImgRss& image, const TabellaElementi& items,
-           const ClsUTC& utc, const FormatoLocale& formato);
+[[nodiscard]] std::wstring paginaFeed(const Canale& canale, const TabellaElementi& items,
+                                      const ClsUTC& utc, const FormatoLocale& formato);
 
 // The items alone, for a preview.
 [[nodiscard]] std::wstring paginaElementi(const TabellaElementi& items, const ClsUTC& utc,

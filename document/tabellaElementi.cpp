@@ -8,92 +8,74 @@
 
 namespace {
 
-constexpr std::int64_t massimo = std::numeric_limits<std::int16_t>::max();
+constexpr std::int16_t massimo = std::numeric_limits<std::int16_t>::max();
 
 } // namespace
 
-TabellaElementi::TabellaElementi() {
-    svuota();
-}
-
-TabellaElementi::TabellaElementi(const TabellaElementi& altra) : conteggio_(altra.conteggio_) {
-    elementi_.reserve(altra.elementi_.size());
-    for (const auto& elemento : altra.elementi_) {
-        elementi_.push_back(std::make_unique<Elemento>(*elemento));
-    }
-}
-
-// A table that was moved from has no item at all: it may only be assigned to or destroyed.
-TabellaElementi::TabellaElementi(TabellaElementi&& altra) noexcept
-    : elementi_(std::move(altra.elementi_)), conteggio_(std::exchange(altra.conteggio_, {})) {}
-
-TabellaElementi& TabellaElementi::operator=(const TabellaElementi& altra) {
-    TabellaElementi copia(altra);
-    *this = std::move(copia);
-    return *this;
-}
-
-TabellaElementi& TabellaElementi::operator=(TabellaElementi&& altra) noexcept {
-    std::swap(elementi_, altra.elementi_);
-    std::swap(conteggio_, altra.conteggio_);
-    return *this;
-}
-
-TabellaElementi::~TabellaElementi() = default;
-
 void TabellaElementi::svuota() {
-    dimensiona(1);
+    elementi_ = std::vector{elementoVuoto()};
     conteggio_ = 0;
 }
 
-void TabellaElementi::dimensiona(std::int64_t numero) {
-    if (numero < 1 || numero > massimo) {
+void TabellaElementi::riempi(std::vector<ElementoCondiviso> elementi) {
+    if (elementi.size() > static_cast<std::size_t>(massimo)) {
         solleva(errori::overflow);
     }
-    std::vector<std::unique_ptr<Elemento>> nuovi(static_cast<std::size_t>(numero));
-    std::ranges::generate(nuovi, std::make_unique<Elemento>);
-    elementi_ = std::move(nuovi);
-    conteggio_ = static_cast<std::int16_t>(numero);
+    if (elementi.empty()) {
+        svuota();
+        return;
+    }
+    elementi_ = std::move(elementi);
+    conteggio_ = static_cast<std::int16_t>(elementi_.size());
+}
+
+bool TabellaElementi::piena() const noexcept {
+    return conteggio_ == massimo;
 }
 
 int TabellaElementi::limiteSuperiore() const noexcept {
     return static_cast<int>(elementi_.size()) - 1;
 }
 
-const std::wstring& TabellaElementi::operator()(CampoElemento campo, int indice) const {
-    return (*elementi_[posizione(indice)])[static_cast<std::size_t>(campo)];
+const ElementoCondiviso& TabellaElementi::elemento(int indice) const {
+    if (indice < 0 || indice > limiteSuperiore()) {
+        solleva(errori::indiceFuoriIntervallo);
+    }
+    return elementi_[static_cast<std::size_t>(indice)];
 }
 
-std::wstring& TabellaElementi::operator()(CampoElemento campo, int indice) {
-    return (*elementi_[posizione(indice)])[static_cast<std::size_t>(campo)];
-}
-
-int TabellaElementi::aggiungi() {
-    if (conteggio_ == massimo) {
+void TabellaElementi::inserisci(int indice, ElementoCondiviso elemento) {
+    if (indice < 0 || indice > conteggio_) {
+        solleva(errori::indiceFuoriIntervallo);
+    }
+    if (piena()) {
         solleva(errori::overflow);
     }
-    if (conteggio_ > 0) {
-        elementi_.push_back(std::make_unique<Elemento>());
+    if (conteggio_ == 0) {
+        elementi_.front() = std::move(elemento);
     } else {
-        elementi_.front() = std::make_unique<Elemento>();
+        elementi_.insert(elementi_.begin() + indice, std::move(elemento));
     }
     ++conteggio_;
-    return conteggio_ - 1;
+}
+
+void TabellaElementi::sostituisci(int indice, ElementoCondiviso elemento) {
+    elementi_[static_cast<std::size_t>(posizione(indice))] = std::move(elemento);
 }
 
 void TabellaElementi::rimuovi(int indice) {
     const auto dove = posizione(indice);
-    if (elementi_.size() == 1) {
+    if (conteggio_ == 1) {
         svuota();
         return;
     }
-    elementi_.erase(elementi_.begin() + static_cast<std::ptrdiff_t>(dove));
+    elementi_.erase(elementi_.begin() + dove);
     --conteggio_;
 }
 
 void TabellaElementi::sposta(int da, int a) {
-    const auto prima = elementi_.begin() + static_cast<std::ptrdiff_t>(posizione(da));
-    const auto dopo = elementi_.begin() + static_cast<std::ptrdiff_t>(posizione(a));
+    const auto prima = elementi_.begin() + posizione(da);
+    const auto dopo = elementi_.begin() + posizione(a);
     if (prima < dopo) {
         std::rotate(prima, prima + 1, dopo + 1);
     } else {
@@ -101,9 +83,9 @@ void TabellaElementi::sposta(int da, int a) {
     }
 }
 
-std::size_t TabellaElementi::posizione(int indice) const {
-    if (indice < 0 || indice > limiteSuperiore()) {
+std::ptrdiff_t TabellaElementi::posizione(int indice) const {
+    if (indice < 0 || indice >= conteggio_) {
         solleva(errori::indiceFuoriIntervallo);
     }
-    return static_cast<std::size_t>(indice);
+    return indice;
 }

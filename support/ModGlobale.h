@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <random>
 #include <string>
 
 // Random numbers and the identifiers of new items. The generator belongs to the object, so that two
@@ -8,9 +9,9 @@
 class ModGlobale {
 public:
     // Seeded from the system timer.
-    ModGlobale() noexcept;
+    ModGlobale();
     // Always the same numbers for the same seed.
-    explicit ModGlobale(std::uint64_t seme) noexcept : stato_(seme) {}
+    explicit ModGlobale(std::uint64_t seme) : generatore_(seme) {}
 
     // A whole number from `inferiore` to `superiore`, both included, each equally likely. Raises
     // error 6 when (superiore - inferiore + 1) leaves the 16 bits.
@@ -21,8 +22,5 @@ public:
     [[nodiscard]] std::wstring GeneraIdentificativo();
 
 private:
-    // In [0, 1), a multiple of 2^-24.
-    [[nodiscard]] float prossimo() noexcept;
-
-    std::uint64_t stato_;
+    std::mt19937_64 generatore_;
 };

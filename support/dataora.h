@@ -21,7 +21,8 @@ public:
 
     constexpr DataOra() noexcept = default;
 
-    // From parts that carry over: day 31 of April is 1 May, hour -5 belongs to the day before.
+    // From parts that carry over: day 31 of April is 1 May, hour -5 belongs to the day before;
+    // months by 16 bits at most.
     // Years 0-29 mean 2000-2029, 30-99 mean 1930-1999. Raises error 5 when the year, or that of
     // the result, is not 100 to 9999.
     [[nodiscard]] static DataOra daParti(int anno, int mese, int giorno, int ora = 0,

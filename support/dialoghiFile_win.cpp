@@ -2,6 +2,7 @@
 
 #include "support/errori_win.h"
 #include "support/maniglie_win.h"
+#include "support/tastiTenuti_win.h"
 
 #include <windows.h>
 
@@ -42,6 +43,7 @@ std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
     dati.nMaxFile = static_cast<DWORD>(percorso.size());
     dati.Flags = richiesta.opzioni | OFN_EXPLORER | OFN_NOCHANGEDIR;
     dati.lpstrDefExt = estensione.empty() ? nullptr : estensione.c_str();
+    const SenzaRipetizioni guardia;
     if (!dialogo(&dati)) {
         switch (errore()) {
         case 0:

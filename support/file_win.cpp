@@ -3,6 +3,10 @@
 #include "support/errori_win.h"
 #include "support/maniglie_win.h"
 
+#include <shlwapi.h>
+
+#include <cwchar>
+
 bool fileEsiste(const std::wstring& percorso) noexcept {
     WIN32_FIND_DATAW trovato{};
     const Ricerca ricerca(FindFirstFileW(percorso.c_str(), &trovato));
@@ -65,13 +69,11 @@ std::wstring percorsoProgramma() {
 
 std::wstring cartellaProgramma() {
     std::wstring percorso = percorsoProgramma();
-    const auto barra = percorso.find_last_of(L'\\');
-    const bool radice = barra == 2 && percorso[1] == L':';
-    percorso.resize(radice ? barra + 1 : barra);
+    PathRemoveFileSpecW(percorso.data());
+    percorso.resize(std::wcslen(percorso.c_str()));
     return percorso;
 }
 
 std::wstring nomeProgramma() {
-    const std::wstring percorso = percorsoProgramma();
-    return percorso.substr(percorso.find_last_of(L'\\') + 1);
+    return PathFindFileNameW(percorsoProgramma().c_str());
 }

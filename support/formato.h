@@ -1,14 +1,18 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
-// What the user's regional settings say about numbers and dates.
+// Locales, by the system's own numbers.
+enum class Lingua : std::uint32_t { Utente = 0x0400, Inglese = 0x0409, Italiano = 0x0410 };
+
+// A locale that numbers are read by, and the separators that numbers and dates are written with.
 struct FormatoLocale {
+    Lingua lingua = Lingua::Italiano;
     wchar_t decimale = L',';
-    wchar_t migliaia = L'.';
     std::wstring data = L"/";
     std::wstring ora = L":";
 };
 
-// The settings of the user that runs the program, read anew at each call.
+// The regional settings of the user that runs the program, read anew at each call.
 [[nodiscard]] FormatoLocale formatoUtente();

@@ -20,7 +20,6 @@ wchar_t primo(const std::wstring& testo, wchar_t altrimenti) {
 } // namespace
 
 FormatoLocale formatoUtente() {
-    return {primo(informazione(LOCALE_SDECIMAL), L','),
-            primo(informazione(LOCALE_STHOUSAND), L'\0'), informazione(LOCALE_SDATE),
+    return {Lingua::Utente, primo(informazione(LOCALE_SDECIMAL), L','), informazione(LOCALE_SDATE),
             informazione(LOCALE_STIME)};
 }

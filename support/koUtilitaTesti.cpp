@@ -1,9 +1,6 @@
 #include "support/koUtilitaTesti.h"
 
-#include "support/errore.h"
 #include "support/testo.h"
-
-#include <algorithm>
 
 std::wstring koUtilitaTesti::koReplace(std::wstring_view testo, std::wstring_view cerca,
                                        std::wstring_view con) {
@@ -21,15 +18,5 @@ std::wstring koUtilitaTesti::EspuraSpazi(std::wstring_view testo) {
 }
 
 wchar_t koUtilitaTesti::KeyMaiuscolo(wchar_t carattere) noexcept {
-    return maiuscola(carattere);
-}
-
-DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
-    constexpr std::int32_t primo = -657434;  // 1 January 100
-    constexpr std::int32_t ultimo = 2958465; // 31 December 9999
-    if (numero < primo || numero > ultimo) {
-        solleva(errori::overflow);
-    }
-    constexpr std::int64_t secondiDelGiorno = 86400;
-    return DataOra().piuSecondi(numero * secondiDelGiorno);
+    return maiuscolo({&carattere, 1}).front();
 }

@@ -7,14 +7,30 @@
 
 #include <oleauto.h>
 
+namespace {
+
+DataOra daVariante(DATE data) {
+    SYSTEMTIME tempo{};
+    if (!VariantTimeToSystemTime(data, &tempo)) {
+        solleva(errori::tipoNonCorrispondente);
+    }
+    return daSystemTime(tempo);
+}
+
+} // namespace
+
+DataOra koUtilitaTesti::LongToDate(std::int32_t numero) {
+    DATE data = 0;
+    verifica(VarDateFromI4(numero, &data));
+    return daVariante(data);
+}
+
 DataOra koUtilitaTesti::StringaToDate(const std::wstring& testo) {
     // MinGW's declaration wants a text that can be written.
     std::wstring copia = testo;
     DATE data = 0;
-    SYSTEMTIME tempo{};
-    if (FAILED(VarDateFromStr(copia.data(), GetUserDefaultLCID(), 0, &data)) ||
-        !VariantTimeToSystemTime(data, &tempo)) {
+    if (FAILED(VarDateFromStr(copia.data(), GetUserDefaultLCID(), 0, &data))) {
         solleva(errori::tipoNonCorrispondente);
     }
-    return daSystemTime(tempo);
+    return daVariante(data);
 }

@@ -1,5 +1,7 @@
 #include "support/messaggi_win.h"
 
+#include "support/tastiTenuti_win.h"
+
 #include <windows.h>
 
 namespace {
@@ -32,6 +34,7 @@ UINT stile(Pulsanti pulsanti) noexcept {
 
 Risposta MessaggiWindows::mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
                                  Pulsanti pulsanti) {
+    const SenzaRipetizioni guardia;
     switch (MessageBoxW(GetActiveWindow(), testo.c_str(), titolo.c_str(),
                         stile(icona) | stile(pulsanti))) {
     case IDYES:

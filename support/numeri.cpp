@@ -1,7 +1,6 @@
 #include "support/numeri.h"
 
 #include "support/errore.h"
-#include "support/testo.h"
 
 #include <algorithm>
 #include <array>
@@ -11,225 +10,17 @@
 
 namespace {
 
-constexpr bool cifra(wchar_t c) noexcept {
-    return c >= L'0' && c <= L'9';
-}
 constexpr bool spazio(wchar_t c) noexcept {
     return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n';
 }
 
-// What the system takes for blank around a number.
-constexpr bool bianco(wchar_t c) noexcept {
-    return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
-           (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F ||
-           c == 0x205F || c == 0x3000;
+// Where a text from a place on has no digits any more, and where it has none behind a sign.
+std::size_t dopoLeCifre(std::wstring_view testo, std::size_t da) noexcept {
+    return std::min(testo.find_first_not_of(L"0123456789", da), testo.size());
 }
-
-// Gathers decimal digits and an exponent into a number. 19 digits fill a 64-bit mantissa; those
-// beyond only move the exponent.
-class Mantissa {
-public:
-    void intero(wchar_t c) noexcept {
-        if (!aggiungi(c)) {
-            ++scala_;
-        }
-    }
-    void decimale(wchar_t c) noexcept {
-        if (aggiungi(c)) {
-            --scala_;
-        }
-    }
-    void esponente(int valore) noexcept { scala_ += valore; }
-    // A digit of another base; too great from 32 bits on.
-    void inBase(std::uint64_t base, int cifra) noexcept {
-        constexpr std::uint64_t limite = 0x80000000;
-        cifre_ = std::min(cifre_ * base + static_cast<std::uint64_t>(cifra), limite);
-        scala_ = cifre_ == limite ? 5000 : 0;
-    }
-
-    [[nodiscard]] double valore() const noexcept {
-        if (cifre_ == 0) {
-            return 0;
-        }
-        // In steps, so that neither factor overflows on its own.
-        auto v = static_cast<long double>(cifre_);
-        int resto = std::clamp(scala_, -5000, 5000);
-        while (resto != 0) {
-            const int passo = std::clamp(resto, -27, 27);
-            const long double fattore = std::pow(10.0L, std::abs(passo));
-            v = passo > 0 ? v * fattore : v / fattore;
-            resto -= passo;
-        }
-        return static_cast<double>(v);
-    }
-
-private:
-    bool aggiungi(wchar_t c) noexcept {
-        if (cifre_ > (std::numeric_limits<std::uint64_t>::max() - 9) / 10) {
-            return false;
-        }
-        cifre_ = cifre_ * 10 + static_cast<std::uint64_t>(c - L'0');
-        return true;
-    }
-
-    std::uint64_t cifre_ = 0;
-    int scala_ = 0;
-};
-
-// One character of what Val scans; 0 at the end.
-class Scansione {
-public:
-    explicit Scansione(std::wstring_view testo) noexcept : testo_(testo) { salta(); }
-    [[nodiscard]] wchar_t guarda() const noexcept {
-        return dove_ < testo_.size() ? testo_[dove_] : L'\0';
-    }
-    void avanti() noexcept {
-        ++dove_;
-        salta();
-    }
-
-private:
-    void salta() noexcept {
-        while (dove_ < testo_.size() && spazio(testo_[dove_])) {
-            ++dove_;
-        }
-    }
-
-    std::wstring_view testo_;
-    std::size_t dove_ = 0;
-};
-
-// What the system's conversion of a text to a number reads; see the header for what it leaves out.
-class LettoreNumero {
-public:
-    struct Letto {
-        double valore;
-        // Written with &H or &O.
-        bool inBase;
-    };
-
-    LettoreNumero(std::wstring_view testo, const FormatoLocale& formato) noexcept
-        : testo_(testo), formato_(formato) {}
-
-    // Infinite when the number is too great.
-    [[nodiscard]] std::optional<Letto> leggi() {
-        prima();
-        const bool inBase = prendi(L'&');
-        if (!(inBase ? base() : decimale()) || !dopo()) {
-            return std::nullopt;
-        }
-        const double valore = mantissa_.valore();
-        // A sign before &H is read and means nothing.
-        return Letto{negativo_ && !inBase ? -valore : valore, inBase};
-    }
-
-private:
-    [[nodiscard]] wchar_t guarda() const noexcept {
-        return testo_.empty() ? L'\0' : testo_.front();
-    }
-    bool prendi(wchar_t c) noexcept {
-        if (testo_.empty() || testo_.front() != c) {
-            return false;
-        }
-        testo_.remove_prefix(1);
-        return true;
-    }
-    void saltaBianchi() noexcept {
-        while (bianco(guarda())) {
-            testo_.remove_prefix(1);
-        }
-    }
-
-    // Before the digits: blanks, one sign of each kind, one parenthesis, in any order.
-    void prima() noexcept {
-        for (;;) {
-            saltaBianchi();
-            if (!piu_ && prendi(L'+')) {
-                piu_ = true;
-            } else if (!meno_ && prendi(L'-')) {
-                meno_ = negativo_ = true;
-            } else if (!aperta_ && prendi(L'(')) {
-                aperta_ = negativo_ = true;
-            } else {
-                return;
-            }
-        }
-    }
-
-    // After them: blanks, signs of a kind that did not stand before, the closing parenthesis.
-    [[nodiscard]] bool dopo() noexcept {
-        for (;;) {
-            saltaBianchi();
-            if (!meno_ && prendi(L'-')) {
-                negativo_ = true;
-            } else if (aperta_ && prendi(L')')) {
-                aperta_ = false;
-            } else if (piu_ || !prendi(L'+')) {
-                return testo_.empty() && !aperta_;
-            }
-        }
-    }
-
-    [[nodiscard]] bool decimale() noexcept {
-        bool lette = false;
-        bool decimali = false;
-        for (; !testo_.empty(); testo_.remove_prefix(1)) {
-            const wchar_t c = guarda();
-            if (cifra(c)) {
-                decimali ? mantissa_.decimale(c) : mantissa_.intero(c);
-                lette = true;
-            } else if (c == formato_.decimale && !decimali) {
-                decimali = true;
-            } else if (c != formato_.migliaia || !(lette || decimali)) {
-                break;
-            }
-        }
-        return lette && ((!prendi(L'e') && !prendi(L'E')) || esponente());
-    }
-
-    [[nodiscard]] bool esponente() noexcept {
-        const bool meno = prendi(L'-');
-        if (!meno) {
-            static_cast<void>(prendi(L'+'));
-        }
-        if (!cifra(guarda())) {
-            return false;
-        }
-        int valore = 0;
-        for (; cifra(guarda()); testo_.remove_prefix(1)) {
-            valore = std::min(valore * 10 + (guarda() - L'0'), 5000);
-        }
-        mantissa_.esponente(meno ? -valore : valore);
-        return true;
-    }
-
-    // The digits after &H or &O.
-    [[nodiscard]] bool base() noexcept {
-        const bool esadecimale = prendi(L'H') || prendi(L'h');
-        if (!esadecimale && !prendi(L'O') && !prendi(L'o')) {
-            return false;
-        }
-        bool lette = false;
-        for (;; lette = true, testo_.remove_prefix(1)) {
-            const wchar_t c = guarda();
-            if (esadecimale && ((c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F'))) {
-                mantissa_.inBase(16, (c | 0x20) - L'a' + 10);
-            } else if (cifra(c) && (esadecimale || c < L'8')) {
-                mantissa_.inBase(esadecimale ? 16 : 8, c - L'0');
-            } else {
-                return lette;
-            }
-        }
-    }
-
-    std::wstring_view testo_;
-    const FormatoLocale& formato_;
-    Mantissa mantissa_;
-    bool piu_ = false;
-    bool meno_ = false;
-    bool aperta_ = false;
-    bool negativo_ = false;
-};
+std::size_t dopoIlSegno(std::wstring_view testo, std::size_t da) noexcept {
+    return da < testo.size() && (testo[da] == L'+' || testo[da] == L'-') ? da + 1 : da;
+}
 
 template <class Intero>
 Intero aIntero(double valore) {
@@ -243,39 +34,28 @@ Intero aIntero(double valore) {
 
 } // namespace
 
-double valoreIniziale(std::wstring_view testo) noexcept {
-    Scansione s(testo);
-    bool negativo = false;
-    if (s.guarda() == L'+' || s.guarda() == L'-') {
-        negativo = s.guarda() == L'-';
-        s.avanti();
+double valoreIniziale(std::wstring_view testo) {
+    std::wstring numero(testo);
+    std::erase_if(numero, spazio);
+    const auto inizio = dopoIlSegno(numero, 0);
+    auto fine = dopoLeCifre(numero, inizio);
+    bool lette = fine > inizio;
+    if (fine < numero.size() && numero[fine] == L'.') {
+        const auto punto = fine;
+        fine = dopoLeCifre(numero, punto + 1);
+        lette = lette || fine > punto + 1;
     }
-    Mantissa mantissa;
-    bool lette = false;
-    for (; cifra(s.guarda()); s.avanti()) {
-        mantissa.intero(s.guarda());
-        lette = true;
+    if (!lette) {
+        return 0;
     }
-    if (s.guarda() == L'.') {
-        for (s.avanti(); cifra(s.guarda()); s.avanti()) {
-            mantissa.decimale(s.guarda());
-            lette = true;
-        }
+    if (fine < numero.size() && (numero[fine] == L'e' || numero[fine] == L'E')) {
+        const auto esponente = dopoIlSegno(numero, fine + 1);
+        const auto dopo = dopoLeCifre(numero, esponente);
+        fine = dopo > esponente ? dopo : fine;
     }
-    if (lette && (s.guarda() == L'e' || s.guarda() == L'E')) {
-        s.avanti();
-        bool meno = false;
-        if (s.guarda() == L'+' || s.guarda() == L'-') {
-            meno = s.guarda() == L'-';
-            s.avanti();
-        }
-        int esponente = 0;
-        for (; cifra(s.guarda()); s.avanti()) {
-            esponente = std::min(esponente * 10 + (s.guarda() - L'0'), 5000);
-        }
-        mantissa.esponente(meno ? -esponente : esponente);
-    }
-    return negativo ? -mantissa.valore() : mantissa.valore();
+    numero.resize(fine);
+    // Cut like this it is a number: what Windows refuses is too great.
+    return testoADouble(numero, Lingua::Inglese).value_or(std::numeric_limits<double>::infinity());
 }
 
 std::int16_t aInt16(double valore) {
@@ -284,22 +64,6 @@ std::int16_t aInt16(double valore) {
 
 std::int32_t aInt32(double valore) {
     return aIntero<std::int32_t>(valore);
-}
-
-std::optional<double> testoADouble(std::wstring_view testo, const FormatoLocale& formato) {
-    const auto letto = LettoreNumero(testo, formato).leggi();
-    return letto && std::isfinite(letto->valore) ? std::optional(letto->valore) : std::nullopt;
-}
-
-std::int16_t testoAInt16(std::wstring_view testo, const FormatoLocale& formato) {
-    const auto letto = LettoreNumero(testo, formato).leggi();
-    if (!letto) {
-        solleva(errori::tipoNonCorrispondente);
-    }
-    // &H8000 to &HFFFF are the bits of a negative.
-    constexpr double giro = 0x10000;
-    const bool bit = letto->inBase && letto->valore >= giro / 2 && letto->valore < giro;
-    return aInt16(bit ? letto->valore - giro : letto->valore);
 }
 
 std::wstring formattaNumero(double valore, int cifreIntere, int decimali, wchar_t separatore) {

@@ -1,7 +1,5 @@
 #include "support/testo.h"
 
-#include "support/maiuscole.h"
-
 #include <algorithm>
 
 namespace {
@@ -24,26 +22,6 @@ std::wstring_view rifila(std::wstring_view testo) noexcept {
     testo = rifilaDestra(testo);
     testo.remove_prefix(std::min(testo.find_first_not_of(L' '), testo.size()));
     return testo;
-}
-
-wchar_t maiuscola(wchar_t carattere) noexcept {
-    return converti(carattere, tabellaMaiuscole());
-}
-
-wchar_t minuscola(wchar_t carattere) noexcept {
-    return converti(carattere, tabellaMinuscole());
-}
-
-std::wstring maiuscolo(std::wstring_view testo) {
-    std::wstring risultato(testo);
-    std::ranges::transform(risultato, risultato.begin(), maiuscola);
-    return risultato;
-}
-
-std::wstring minuscolo(std::wstring_view testo) {
-    std::wstring risultato(testo);
-    std::ranges::transform(risultato, risultato.begin(), minuscola);
-    return risultato;
 }
 
 std::wstring sostituisci(std::wstring_view testo, std::wstring_view cerca, std::wstring_view con) {

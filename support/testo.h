@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/sistema.h" // upper and lower case
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,12 +12,6 @@
 // right.
 [[nodiscard]] std::wstring_view rifila(std::wstring_view testo) noexcept;
 [[nodiscard]] std::wstring_view rifilaDestra(std::wstring_view testo) noexcept;
-
-// Full upper and lower case of each character, accents included, one character for one.
-[[nodiscard]] wchar_t maiuscola(wchar_t carattere) noexcept;
-[[nodiscard]] wchar_t minuscola(wchar_t carattere) noexcept;
-[[nodiscard]] std::wstring maiuscolo(std::wstring_view testo);
-[[nodiscard]] std::wstring minuscolo(std::wstring_view testo);
 
 // Every occurrence of one text replaced by another, from left to right; an empty `cerca` changes
 // nothing.

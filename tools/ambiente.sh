@@ -86,6 +86,21 @@ unita_di_rete() {
   export OSTRELLE_UNITA_RETE=R:
 }
 
+# prefisso_doppio: the tests' prefix once more, its screen at 192 dpi; the drive is the same. Ends what
+# runs in the first one.
+prefisso_doppio() {
+  local prima="$WINEPREFIX"
+  "$wineserver" -k || true
+  "$wineserver" -w
+  export WINEPREFIX="$build/wine-doppi"
+  rm -rf "$WINEPREFIX"
+  mkdir -p "$WINEPREFIX"
+  cp -a "$prima"/*.reg "$prima/dosdevices" "$prima/.update-timestamp" "$WINEPREFIX"
+  ln -s "$prima/drive_c" "$WINEPREFIX/drive_c"
+  "$wine64" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 192 /f >/dev/null
+  "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+}
+
 # avvia_wine: Wine's own background programs, started with nothing of ours open: one that held a
 # test's output would keep whoever reads it waiting.
 avvia_wine() {
@@ -94,14 +109,13 @@ avvia_wine() {
   "$wine64" cmd /c ver </dev/null >/dev/null 2>&1
 }
 
-# riavvia_wine LANGUAGE: the same once more in another language. What a background program starts
-# brings its own: the separators of the whole prefix would become those.
+# riavvia_wine LANGUAGE: Wine anew, its background programs in another language. What they start
+# brings their own, and the separators of the whole prefix would become those.
 riavvia_wine() {
-  { export LC_ALL=$1.UTF-8 LANG=$1.UTF-8; } 2>/dev/null
   "$wineserver" -k || true
   "$wineserver" -w
   "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
-  avvia_wine
+  LC_ALL=$1.UTF-8 LANG=$1.UTF-8 avvia_wine 2>/dev/null
 }
 
 # schermo WxH [DPI]: a virtual display of its own, closed when the shell ends.

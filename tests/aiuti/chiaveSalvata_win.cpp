@@ -59,8 +59,9 @@ ChiaveSalvata::~ChiaveSalvata() {
     }
 }
 
-void ChiaveSalvata::testo(const std::wstring& valore, const std::wstring& contenuto) const {
-    grezzo(valore, REG_SZ,
+void ChiaveSalvata::testo(const std::wstring& valore, const std::wstring& contenuto,
+                          DWORD tipo) const {
+    grezzo(valore, tipo,
            {reinterpret_cast<const char*>(contenuto.c_str()),
             (contenuto.size() + 1) * sizeof(wchar_t)});
 }

@@ -20,15 +20,17 @@ public:
     // Makes the key, to be read by everybody and written by nobody, this program included; not even
     // read with `nemmenoLetta`. Keys below it that are made later are not meant.
     void nega(bool nemmenoLetta = false) const;
+    // Gives the key, which is there, an access list in Windows' own notation.
+    void permetti(const wchar_t* descrittore) const;
 
-    // A string value; its end is marked.
-    void testo(const std::wstring& valore, const std::wstring& contenuto) const;
+    // A string value, or one whose environment variables are meant to be expanded; its end is
+    // marked.
+    void testo(const std::wstring& valore, const std::wstring& contenuto,
+               DWORD tipo = REG_SZ) const;
     // A value of any type with exactly these bytes.
     void grezzo(const std::wstring& valore, DWORD tipo, std::string_view byte) const;
 
 private:
-    void permetti(const wchar_t* descrittore) const;
-
     HKEY radice_;
     std::wstring nome_;
     std::wstring copia_;

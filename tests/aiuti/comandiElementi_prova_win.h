@@ -5,31 +5,22 @@
 #include "tests/aiuti/messaggi_finti.h"
 #include "ui/main/GUI_win.h"
 #include "ui/main/comandiElementi_win.h"
+#include "ui/main/vistaElementi_win.h"
 
 #include <string>
 
-// The window of the commands: a real grid and the modified flag.
-class FinestraProva final : public FinestraElementi {
+// A view that fails when it is told.
+class VistaFallita final : public OsservatoreDocumento {
 public:
-    explicit FinestraProva(Griglia& griglia) noexcept : griglia_(griglia) {}
-
-    void RiempiGriglia(bool soloIntestazioni) override {
-        if (fallisce) {
-            solleva(errori::memoriaEsaurita);
-        }
-        GUI::RiempiGriglia(griglia_, soloIntestazioni);
-    }
-    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
-    [[nodiscard]] int ElementoSelezionato() const override {
-        return griglia_.ElementoSelezionato();
-    }
-    void ImpostaModificato() override { modificato = true; }
-
-    bool modificato = false;
     bool fallisce = false;
 
 private:
-    Griglia& griglia_;
+    void elementiModificati(const Modifica& /*modifica*/, Causa /*causa*/) override {
+        if (fallisce) {
+            solleva(errori::memoriaEsaurita);
+        }
+    }
+    void elementiSostituiti() override {}
 };
 
 inline const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
@@ -37,7 +28,10 @@ inline const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
 // The commands on a grid of `elementi` items.
 struct Banco {
     Banco(int elementi, EditorElementi& editor)
-        : griglia(elementi), comandi(messaggi, editor, finestra, griglia.tabella, ultima) {}
+        : griglia(elementi), comandi(messaggi, editor, griglia.griglia, griglia.documento) {
+        griglia.documento.ultimaData(inizio);
+        griglia.documento.osserva(fallita);
+    }
 
     void attendiSelezione() {
         messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
@@ -48,12 +42,14 @@ struct Banco {
                          L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
     }
     [[nodiscard]] std::wstring campo(CampoElemento campo, int indice) const {
-        return griglia.tabella(campo, indice);
+        return std::wstring(griglia.tabella(campo, indice));
     }
+    [[nodiscard]] int selezionato() const { return griglia.griglia.ElementoSelezionato(); }
+    void seleziona(int riga) { GUI::SelezionaRiga(griglia.griglia, riga); }
 
     MessaggiFinti messaggi;
     GrigliaProva griglia;
-    FinestraProva finestra{griglia.griglia};
-    DataOra ultima = inizio;
+    VistaElementi vista{griglia.documento, griglia.griglia};
+    VistaFallita fallita;
     ComandiElementi comandi;
 };

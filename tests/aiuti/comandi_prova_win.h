@@ -26,7 +26,7 @@ protected:
             metti(nome);
         }
         finestra.SelezionaRiga(2);
-        finestra.stato().modificato(false);
+        documento.modificato(false);
     }
 
     void attendiDomandaPagina(Risposta risposta, std::function<void()> intanto = {}) {

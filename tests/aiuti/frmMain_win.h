@@ -1,16 +1,23 @@
 #pragma once
 
 #include "support/ClsCodaEliminazione.h"
+#include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/editor_finto.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/main/FrmMain_win.h"
 
 #include "res/risorse.h"
+
+#include <array>
+#include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +29,11 @@ inline const RichiestaFile richiestaSalva{
 
 inline constexpr const wchar_t* domandaSalvataggio =
     L"Il documento è stato modificato. Si desidera salvare le modifiche?";
+
+// The nine texts of the channel's frame, in the order of the form.
+inline constexpr std::array campiTesto{IDC_TXTTITOLO, IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
+                                       IDC_CBOLINGUA, IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
+                                       IDC_TXTLOGO,   IDC_TXTURL,       IDC_TXTLINKIMG};
 
 // The real main window, shown, among fakes for what blocks.
 class ProvaFrmMain : public testing::Test {
@@ -41,7 +53,7 @@ protected:
     }
 
     // A control of the channel's frame.
-    [[nodiscard]] HWND campo(int id) { return GetDlgItem(finestra.campi().hwnd(), id); }
+    [[nodiscard]] HWND campo(int id) { return campi.controllo(id); }
     [[nodiscard]] std::wstring titolo() { return testoDi(finestra.hwnd()); }
     [[nodiscard]] std::wstring pannello(WPARAM numero) {
         const HWND barra = GetDlgItem(finestra.hwnd(), IDC_STATUSBAR);
@@ -50,18 +62,19 @@ protected:
         return testo;
     }
 
-    // An item straight into the table, shown, without counting as a modification.
-    void metti(const std::wstring& titoloElemento) {
-        const int i = finestra.elementi().aggiungi();
-        finestra.elementi()(CampoElemento::Titolo, i) = titoloElemento;
-        finestra.elementi()(CampoElemento::Link, i) = L"https://e.example/" + titoloElemento;
-        finestra.elementi()(CampoElemento::Data, i) = L"Tue, 15 Nov 2005 10:00:00 +0100";
-        finestra.RiempiGriglia(false);
+    [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra); }
+
+    // One more item, without counting as a modification.
+    void metti(std::wstring_view titoloElemento) {
+        mettiElemento(finestra, documento, titoloElemento);
     }
-    [[nodiscard]] std::wstring titoliElementi() {
+    [[nodiscard]] std::wstring titoloDi(int indice) const {
+        return std::wstring(documento.elementi()(CampoElemento::Titolo, indice));
+    }
+    [[nodiscard]] std::wstring titoliElementi() const {
         std::wstring tutti;
-        for (int i = 0; i < finestra.elementi().conteggio(); ++i) {
-            tutti += finestra.elementi()(CampoElemento::Titolo, i) + L';';
+        for (int i = 0; i < documento.elementi().conteggio(); ++i) {
+            tutti += titoloDi(i) + L';';
         }
         return tutti;
     }
@@ -73,6 +86,8 @@ protected:
     ClsCodaEliminazione coda;
     EditorFinto editor;
     CartellaProva cartella;
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
+    Documento documento;
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, documento};
+    CampiProva campi{finestra};
     ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };

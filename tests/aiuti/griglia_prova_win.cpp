@@ -23,7 +23,7 @@ void OsservatoreProva::grigliaSposta(int da, int a) {
     if (fallisce) {
         solleva(errori::memoriaEsaurita);
     }
-    tabella_.sposta(da, a);
+    documento_.applica(documento_.spostamento(da, a), Causa::Trascinamento);
     GUI::RiempiGriglia(*griglia_, false);
 }
 
@@ -70,10 +70,9 @@ LRESULT GrigliaProva::messaggio(UINT codice, WPARAM w, LPARAM l) {
 }
 
 void GrigliaProva::aggiungi(const std::wstring& titolo, const std::wstring& descrizione) {
-    const int i = tabella.aggiungi();
-    tabella(CampoElemento::Titolo, i) = titolo;
-    tabella(CampoElemento::Descrizione, i) = descrizione;
-    tabella(CampoElemento::Data, i) = L"Tue, 15 Nov 2005 10:00:00 +0100";
+    const auto elemento =
+        creaElemento({titolo, L"", descrizione, L"", L"Tue, 15 Nov 2005 10:00:00 +0100", L""});
+    documento.applica(documento.aggiunta(elemento), Causa::Trascinamento);
 }
 
 std::wstring GrigliaProva::testo(int riga, int colonna) const {
@@ -110,7 +109,7 @@ std::vector<std::wstring> GrigliaProva::titoli() const {
     std::vector<std::wstring> quelli;
     quelli.reserve(static_cast<std::size_t>(tabella.conteggio()));
     for (int i = 0; i < tabella.conteggio(); ++i) {
-        quelli.push_back(tabella(CampoElemento::Titolo, i));
+        quelli.emplace_back(tabella(CampoElemento::Titolo, i));
     }
     return quelli;
 }

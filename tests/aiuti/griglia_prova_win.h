@@ -1,6 +1,7 @@
 #pragma once
 
-#include "document/tabellaElementi.h"
+#include "document/documento.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/controls/griglia_win.h"
 
 #include <windows.h>
@@ -13,7 +14,7 @@
 // A grid's owner for tests: writes down what it is told and moves items in the table.
 class OsservatoreProva final : public OsservatoreGriglia {
 public:
-    explicit OsservatoreProva(TabellaElementi& tabella) : tabella_(tabella) {}
+    explicit OsservatoreProva(Documento& documento) : documento_(documento) {}
 
     void lega(Griglia& griglia) { griglia_ = &griglia; }
 
@@ -41,7 +42,7 @@ public:
 private:
     [[nodiscard]] std::vector<std::wstring> scelti(std::wstring_view inizio) const;
 
-    TabellaElementi& tabella_;
+    Documento& documento_;
     Griglia* griglia_ = nullptr;
 };
 
@@ -55,8 +56,9 @@ public:
     GrigliaProva(const GrigliaProva&) = delete;
     GrigliaProva& operator=(const GrigliaProva&) = delete;
 
-    TabellaElementi tabella;
-    OsservatoreProva osservatore{tabella};
+    Documento documento;
+    const TabellaElementi& tabella = documento.elementi();
+    OsservatoreProva osservatore{documento};
     Griglia griglia{tabella, osservatore};
 
     void aggiungi(const std::wstring& titolo, const std::wstring& descrizione);

@@ -143,6 +143,28 @@ void premi(WORD tasto, std::initializer_list<WORD> modificatori) {
     invia(std::move(eventi));
 }
 
+void premiGiu(WORD tasto) {
+    invia({tastiera(tasto, 0, tastoEsteso(tasto))});
+}
+
+void ripeti(WORD tasto) {
+    // Under Wine a window that gets the keyboard asks the display which keys are down, and the
+    // display knows nothing of these. What it took for up goes down again, seen by nobody.
+    const HHOOK gancio = SetWindowsHookExW(
+        WH_KEYBOARD, [](int, WPARAM, LPARAM) noexcept -> LRESULT { return 1; }, nullptr,
+        GetCurrentThreadId());
+    const auto fine = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (GetAsyncKeyState(tasto) >= 0 && std::chrono::steady_clock::now() < fine) {
+        premiGiu(tasto);
+    }
+    UnhookWindowsHookEx(gancio);
+    premiGiu(tasto);
+}
+
+void lascia(WORD tasto) {
+    invia({tastiera(tasto, 0, tastoEsteso(tasto) | KEYEVENTF_KEYUP)});
+}
+
 void scrivi(std::wstring_view testo) {
     for (const wchar_t c : testo) {
         invia({tastiera(0, static_cast<WORD>(c), KEYEVENTF_UNICODE),
@@ -229,6 +251,14 @@ std::wstring testoDi(HWND finestra) {
     testo.resize(static_cast<std::size_t>(
         GetWindowTextW(finestra, testo.data(), static_cast<int>(testo.size()))));
     return testo;
+}
+
+std::pair<DWORD, DWORD> selezioneDi(HWND casella) {
+    DWORD inizio = 0;
+    DWORD fine = 0;
+    SendMessageW(casella, EM_GETSEL, reinterpret_cast<WPARAM>(&inizio),
+                 reinterpret_cast<LPARAM>(&fine));
+    return {inizio, fine};
 }
 
 std::wstring testoAppunti() {

@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 
 // What a user does and sees, for tests with windows. Keys and mouse go through the system's input
 // queue to whatever has the focus or lies under the pointer, and each act returns when the windows
@@ -40,6 +41,11 @@ void portaAvanti(HWND finestra);
 // One key by its virtual code, with the modifiers (VK_CONTROL, VK_SHIFT, VK_MENU) held.
 void premi(WORD tasto, std::initializer_list<WORD> modificatori = {});
 
+// A key goes down and stays so, repeats, and goes up again.
+void premiGiu(WORD tasto);
+void ripeti(WORD tasto);
+void lascia(WORD tasto);
+
 // Types a text, character by character.
 void scrivi(std::wstring_view testo);
 
@@ -59,6 +65,8 @@ void rotella(HWND finestra, int scatti);
 
 // The text that a window or control shows.
 [[nodiscard]] std::wstring testoDi(HWND finestra);
+// The first character selected in an edit box and the one after the last.
+[[nodiscard]] std::pair<DWORD, DWORD> selezioneDi(HWND casella);
 // The text on the clipboard; empty when there is none.
 [[nodiscard]] std::wstring testoAppunti();
 void testoAppunti(std::wstring_view testo);

@@ -1,9 +1,9 @@
 // What the monkey does: keys, mouse, menus, commands.
 
+#include "document/elementi.h"
 #include "res/risorse.h"
 #include "support/testo.h"
 #include "tests/aiuti/scimmia_win.h"
-#include "ui/main/elementi.h"
 
 #include <commctrl.h>
 
@@ -11,6 +11,10 @@
 #include <utility>
 
 namespace {
+
+constexpr std::array campiTesto{IDC_TXTTITOLO, IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
+                                IDC_CBOLINGUA, IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
+                                IDC_TXTLOGO,   IDC_TXTURL,       IDC_TXTLINKIMG};
 
 // The window whose inside is at a point of the screen; none where a press would start a loop of the
 // system's own, which no other message ends: on a frame, a scroll bar, the status bar's size grip.
@@ -25,26 +29,32 @@ HWND internoA(POINT schermo) {
 
 } // namespace
 
-void Scimmia::sposta(int da, int a) {
+bool Scimmia::sposta(int da, int a) {
     if (da < 0 || a < 0 || da == a || std::max(da, a) >= static_cast<int>(modello_.size())) {
-        return;
+        return false;
     }
     Elemento mosso = std::move(modello_[static_cast<std::size_t>(da)]);
     modello_.erase(modello_.begin() + da);
     modello_.insert(modello_.begin() + a, std::move(mosso));
     ++conti_.spostati;
+    return true;
 }
 
 void Scimmia::tasto() {
     fatto_ = "key";
     if (caso(3) == 0) {
-        SetFocus(finestra_.griglia().lista());
+        SetFocus(griglia().lista());
         if (caso(2) == 0) {
-            const int passo = caso(2) == 0 ? -1 : 1;
             const int da = finestra_.ElementoSelezionato();
-            fatto_ = "Alt+arrow";
-            premi(static_cast<WORD>(passo < 0 ? VK_UP : VK_DOWN), {VK_MENU});
-            sposta(da, da + passo);
+            const int fondo = static_cast<int>(modello_.size()) - 1;
+            const std::array<std::pair<WORD, int>, 4> mosse{
+                {{VK_UP, da - 1}, {VK_DOWN, da + 1}, {VK_HOME, 0}, {VK_END, fondo}}};
+            const auto& [tasto, a] = mosse[static_cast<std::size_t>(caso(4))];
+            fatto_ = "Alt+key " + std::to_string(tasto);
+            premi(tasto, {VK_MENU});
+            if (sposta(da, a) && !documento_.modificato()) {
+                segnala("a move by a key that is no modification");
+            }
             return;
         }
     }
@@ -67,7 +77,7 @@ void Scimmia::scriveTesto() {
                                IDC_CBOLINGUA,    IDC_TXTCOPYRIGHT, IDC_TXTWEBMASTER,
                                IDC_TXTLOGO,      IDC_TXTURL,       IDC_TXTLINKIMG,
                                IDC_TXTLARGHEZZA, IDC_TXTALTEZZA,   IDC_TXTDATA};
-    SetFocus(GetDlgItem(finestra_.campi().hwnd(),
+    SetFocus(GetDlgItem(campi_.hwnd(),
                         campi[static_cast<std::size_t>(caso(static_cast<int>(campi.size())))]));
     if (caso(2) == 0) {
         premi('A', {VK_CONTROL});
@@ -119,7 +129,7 @@ void Scimmia::clicca() {
 
 void Scimmia::trascinaInUnCampo() {
     const auto posto = postoCaso();
-    if (!posto || posto->finestra == finestra_.griglia().lista()) {
+    if (!posto || posto->finestra == griglia().lista()) {
         return;
     }
     fatto_ = "drag in control " + std::to_string(GetDlgCtrlID(posto->finestra));
@@ -127,7 +137,7 @@ void Scimmia::trascinaInUnCampo() {
 }
 
 std::optional<POINT> Scimmia::puntoGriglia() {
-    const HWND lista = finestra_.griglia().lista();
+    const HWND lista = griglia().lista();
     RECT r{};
     GetClientRect(lista, &r);
     if (r.right < 1 || r.bottom < 1) {
@@ -142,13 +152,13 @@ std::optional<POINT> Scimmia::puntoGriglia() {
 
 void Scimmia::trascinaInGriglia() {
     fatto_ = "drag in the grid";
-    const HWND lista = finestra_.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto inizio = puntoGriglia();
     if (!inizio) {
         return;
     }
     // Between the pages of a pair of clicks a double click would open the editor.
-    clic(finestra_.campi().hwnd(), {1, 1});
+    clic(campi_.hwnd(), {1, 1});
     premiMouse(lista, *inizio);
     for (int i = caso(6); i > 0; --i) {
         muoviMouse(lista, puntoGriglia().value_or(*inizio));
@@ -157,23 +167,23 @@ void Scimmia::trascinaInGriglia() {
         constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
         premi(tasti[static_cast<std::size_t>(caso(4))]);
     }
-    const int da = finestra_.griglia().trascinato();
+    const int da = griglia().trascinato();
     const int a = finestra_.ElementoSelezionato();
     lasciaMouse();
-    sposta(da, a);
+    static_cast<void>(sposta(da, a));
 }
 
 void Scimmia::menuGriglia() {
     fatto_ = "menu of the grid";
-    SetFocus(finestra_.griglia().lista());
+    SetFocus(griglia().lista());
     voceMenu_ = caso(4) - 1;
     const auto punto = puntoGriglia();
     if (!punto || caso(2) == 0) {
         premi(VK_APPS);
     } else {
         const LPARAM dove = MAKELPARAM(punto->x, punto->y);
-        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
-        PostMessageW(finestra_.griglia().lista(), WM_RBUTTONUP, 0, dove);
+        PostMessageW(griglia().lista(), WM_RBUTTONDOWN, MK_RBUTTON, dove);
+        PostMessageW(griglia().lista(), WM_RBUTTONUP, 0, dove);
         pompa();
     }
 }
@@ -184,17 +194,38 @@ void Scimmia::eseguiUno(int comando) {
     pompa();
 }
 
+bool Scimmia::daChiedere() {
+    if (!documento_.modificato()) {
+        return false;
+    }
+    if (!modello_.empty() || testoDi(finestra_.hwnd()) != L"Ostrelle  [Nuovo Documento]") {
+        return true;
+    }
+    return std::ranges::any_of(campiTesto, [&](int id) {
+        const std::wstring testo = testoDi(GetDlgItem(campi_.hwnd(), id));
+        return testo.find_first_not_of(L' ') != std::wstring::npos;
+    });
+}
+
+void Scimmia::controllaDomanda(bool attesa) {
+    if (attesa && !domanda_ && !daChiedere()) {
+        segnala("a document went without a question");
+    }
+}
+
 bool Scimmia::lasciato() const {
     return !domanda_ || *domanda_ == Risposta::No || (*domanda_ == Risposta::Si && salvato_);
 }
 
 void Scimmia::nuovo() {
+    const bool attesa = daChiedere();
     if (caso(2) == 0) {
         eseguiUno(mnNuovo);
     } else {
         fatto_ = "Ctrl+N";
         premi('N', {VK_CONTROL});
     }
+    controllaDomanda(attesa);
     if (lasciato()) {
         modello_.clear();
     }
@@ -210,7 +241,9 @@ void Scimmia::apre(int comando) {
         }
         scelto_ = voce.data();
     }
+    const bool attesa = daChiedere();
     eseguiUno(comando);
+    controllaDomanda(attesa);
     if (!lasciato() || scelto_.empty()) {
         return;
     }
@@ -281,7 +314,7 @@ void Scimmia::ridimensiona() {
 void Scimmia::chiudeEAnnulla() {
     fatto_ = "close, taken back";
     // Only where the question comes: a closed window is the end of the test.
-    if (!finestra_.stato().scartabile(finestra_.campi().vuoti() && modello_.empty())) {
+    if (daChiedere()) {
         chiude_ = true;
         SendMessageW(finestra_.hwnd(), WM_CLOSE, 0, 0);
         pompa();
@@ -294,6 +327,6 @@ void Scimmia::portaFuoco() {
         portaAvanti(finestra_.hwnd());
     }
     if (GetFocus() == nullptr) {
-        SetFocus(finestra_.griglia().lista());
+        SetFocus(griglia().lista());
     }
 }

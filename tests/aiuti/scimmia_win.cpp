@@ -2,9 +2,10 @@
 
 #include "tests/aiuti/scimmia_win.h"
 
+#include "document/clsItemRss.h"
+#include "document/elementi.h"
 #include "res/risorse.h"
 #include "support/testo.h"
-#include "ui/main/elementi.h"
 
 #include <commctrl.h>
 
@@ -245,9 +246,9 @@ void Scimmia::riposa() {
     ReleaseCapture();
     // The toolbar makes its tooltip when it first needs it.
     SendMessageW(GetDlgItem(finestra_.hwnd(), IDC_TOOLBAR), TB_GETTOOLTIPS, 0, 0);
-    DateTime_CloseMonthCal(GetDlgItem(finestra_.campi().hwnd(), IDC_TXTDATA));
+    DateTime_CloseMonthCal(GetDlgItem(campi_.hwnd(), IDC_TXTDATA));
     premi(VK_ESCAPE);
-    SetFocus(GetDlgItem(finestra_.campi().hwnd(), IDC_TXTTITOLO));
+    SetFocus(GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
     SetWindowPos(finestra_.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER);
     finestra_.NuovoDocumento();
     modello_.clear();
@@ -260,7 +261,7 @@ void Scimmia::confronta() {
         segnala("the window does not answer");
         return;
     }
-    const TabellaElementi& tabella = finestra_.elementi();
+    const TabellaElementi& tabella = documento_.elementi();
     if (tabella.conteggio() != static_cast<int>(modello_.size())) {
         segnala("items: " + std::to_string(tabella.conteggio()) + ", in the model " +
                 std::to_string(modello_.size()));
@@ -275,7 +276,7 @@ void Scimmia::confronta() {
             }
         }
         for (int campo = 0; campo < numeroCampi; ++campo) {
-            const std::wstring& vero = tabella(static_cast<CampoElemento>(campo), i);
+            const std::wstring_view vero = tabella(static_cast<CampoElemento>(campo), i);
             if (vero != atteso[static_cast<std::size_t>(campo)]) {
                 segnala("item " + std::to_string(i) + ", field " + std::to_string(campo) + ": " +
                         inUtf8(vero) + ", in the model " +
@@ -286,11 +287,10 @@ void Scimmia::confronta() {
     }
     const int scelto = finestra_.ElementoSelezionato();
     if (scelto >= tabella.conteggio() ||
-        finestra_.griglia().righe().righe() !=
-            std::max(RigheGriglia::minime, tabella.conteggio() + 1)) {
+        griglia().righe().righe() != std::max(RigheGriglia::minime, tabella.conteggio() + 1)) {
         segnala("the grid shows other rows");
     }
-    if (finestra_.griglia().trascinato() >= 0) {
+    if (griglia().trascinato() >= 0) {
         segnala("a drag that has no end");
     }
 }

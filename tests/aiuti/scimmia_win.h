@@ -1,9 +1,12 @@
 #pragma once
 
+#include "res/risorse.h"
 #include "support/ClsCodaEliminazione.h"
 #include "support/dialoghiFile.h"
 #include "support/messaggi.h"
+#include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
@@ -83,9 +86,15 @@ private:
     void ridimensiona();
     void chiudeEAnnulla();
 
+    [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra_); }
     void confronta();
     void segnala(std::string guasto);
-    void sposta(int da, int a);
+    // Moves an item of the model; whether there was one to move elsewhere.
+    bool sposta(int da, int a);
+    // Whether the document, as the window shows it, must not go without a question.
+    [[nodiscard]] bool daChiedere();
+    // After what throws the document away; `attesa`: a question had to come first.
+    void controllaDomanda(bool attesa);
     // Whether the question of this step, if any, let the document go.
     [[nodiscard]] bool lasciato() const;
 
@@ -110,7 +119,9 @@ private:
     ClsCodaEliminazione coda_;
     CartellaProva cartella_;
     std::wstring rovinato_;
-    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}};
+    Documento documento_;
+    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}, documento_};
+    CampiProva campi_{finestra_};
     ConFiltro filtro_{[this](MSG& msg) { return finestra_.anticipa(msg); }};
     UINT_PTR timer_;
 

@@ -1,7 +1,8 @@
 #include "document/caratteriXml.h"
 #include "support/testo.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <array>
 #include <cstdio>
@@ -95,9 +96,9 @@ private:
     std::mt19937& caso_;
 };
 
-Documento documentoCasuale(std::mt19937& caso) {
+FeedDiProva documentoCasuale(std::mt19937& caso) {
     Testi testi(caso);
-    Documento d;
+    FeedDiProva d;
     for (auto* const campo : d.canale()) {
         *campo = testi();
     }
@@ -110,17 +111,17 @@ Documento documentoCasuale(std::mt19937& caso) {
         d.image.nHeight(testi.fra(-3, 3));
     }
     // Most feeds are short.
-    d.items.dimensiona(testi.fra(0, 9) == 0 ? testi.fra(1, 50) : testi.fra(1, 5));
+    dimensiona(d.items, testi.fra(0, 9) == 0 ? testi.fra(1, 50) : testi.fra(1, 5));
     for (int i = 0; i <= d.items.limiteSuperiore(); ++i) {
         for (int c = 0; c < numeroCampi; ++c) {
-            d.items(static_cast<CampoElemento>(c), i) = testi();
+            metti(d.items, static_cast<CampoElemento>(c), i, testi());
         }
     }
     return d;
 }
 
 // A date that read as nothing was stamped.
-bool dataUguale(const std::wstring& letta, const std::wstring& attesa) {
+bool dataUguale(std::wstring_view letta, const std::wstring& attesa) {
     return attesa.empty() ? !letta.empty() : letta == attesa;
 }
 
@@ -137,7 +138,7 @@ void confrontaElementi(const TabellaElementi& letti, const TabellaElementi& scri
     }
 }
 
-void confronta(Documento& letto, Documento& scritto) {
+void confronta(FeedDiProva& letto, FeedDiProva& scritto) {
     const auto l = letto.canale();
     const auto s = scritto.canale();
     for (std::size_t i = 0; i < l.size(); ++i) {
@@ -161,9 +162,9 @@ TEST(Giro, DuemilaDocumentiCasualiSiRileggonoUguali) {
     const auto percorso = cartella.file(L"giro.xml");
     for (int i = 0; i < 2000; ++i) {
         SCOPED_TRACE(testing::Message() << "seed " << seme << ", document " << i);
-        Documento scritto = documentoCasuale(caso);
+        FeedDiProva scritto = documentoCasuale(caso);
         scritto.scrivi(percorso);
-        Documento letto;
+        FeedDiProva letto;
         letto.leggi(percorso);
         confronta(letto, scritto);
         if (HasFatalFailure()) {
@@ -175,9 +176,9 @@ TEST(Giro, DuemilaDocumentiCasualiSiRileggonoUguali) {
 
 TEST(Giro, UnaTabellaVuotaEUnElementoVuoto) {
     const CartellaProva cartella;
-    Documento scritto;
+    FeedDiProva scritto;
     scritto.scrivi(cartella.file(L"a.xml"));
-    Documento letto;
+    FeedDiProva letto;
     letto.leggi(cartella.file(L"a.xml"));
     EXPECT_EQ(letto.items.conteggio(), 1);
     EXPECT_EQ(letto.lastBuildDate, L"");
@@ -200,7 +201,7 @@ TEST(Giro, OgniFeedDelCorpusSiApreOSiRifiuta) {
             continue;
         }
         SCOPED_TRACE(inUtf8(voce.path().wstring()));
-        Documento d;
+        FeedDiProva d;
         const auto e = d.provaLeggi(voce.path().wstring());
         if (e.numero != 0) {
             EXPECT_TRUE(e.numero == 18343 || e.numero == 18344 || e.numero == 18345 ||
@@ -218,7 +219,7 @@ TEST(Giro, OgniFeedDelCorpusSiApreOSiRifiuta) {
         // A description may hold "]]>" (as text): then it cannot be saved, and nothing is.
         ASSERT_TRUE(s.numero == 0 || s.numero == 5) << inUtf8(s.descrizione);
         if (s.numero == 0) {
-            Documento ancora;
+            FeedDiProva ancora;
             ancora.leggi(copia);
             confronta(ancora, d);
         }

@@ -1,6 +1,6 @@
 #include "support/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 
 #include <winsock2.h>
 
@@ -94,7 +94,7 @@ TEST(LetturaFile, UnaDtdOUnEntitaEsternaNonTocconoAltro) {
           std::string("<!DOCTYPE rss [<!ENTITY e SYSTEM \"altro.txt\">]>"),
           std::string("<!DOCTYPE rss SYSTEM \"altro.txt\">")}) {
         const bool definita = intestazione.find("ENTITY e") != std::string::npos;
-        Documento d;
+        FeedDiProva d;
         const auto e = d.provaLeggi(
             cartella.scrivi(L"a.xml", intestazione + "<rss><channel><title>x" +
                                           (definita ? "&e;" : "") + "</title></channel></rss>"));
@@ -108,7 +108,7 @@ TEST(LetturaFile, UnaDtdOUnEntitaEsternaNonTocconoAltro) {
 
 TEST(LetturaFile, UnEntitaInternaSiEspande) {
     const CartellaProva cartella;
-    Documento d;
+    FeedDiProva d;
     d.leggi(cartella.scrivi(L"a.xml", "<!DOCTYPE rss [<!ENTITY e \"mondo\">]><rss><channel>"
                                       "<title>ciao &e;</title></channel></rss>"));
     EXPECT_EQ(d.title, L"ciao mondo");
@@ -117,7 +117,7 @@ TEST(LetturaFile, UnEntitaInternaSiEspande) {
 TEST(LetturaFile, EntitaSenzaFineNonSiCaricano) {
     const CartellaProva cartella;
     const ULONGLONG inizio = GetTickCount64();
-    Documento d;
+    FeedDiProva d;
     for (const std::string& testo :
          {entitaAValanga() + "<rss><channel><title>&k;</title></channel></rss>",
           entitaAValanga() + "<rss><channel x='&k;'><title>x</title></channel></rss>",
@@ -136,13 +136,13 @@ TEST(LetturaFile, IlNomeSiApreComeEScritto) {
                           L"a%e8.xml",    L"%2e%2e.xml"};
     // All of them first, so that a wrong name would open a wrong file.
     for (const auto* const nome : nomi) {
-        Documento d;
+        FeedDiProva d;
         d.title = nome;
         d.scrivi(cartella.file(nome));
         EXPECT_TRUE(std::filesystem::exists(cartella.file(nome))) << inUtf8(nome);
     }
     for (const auto* const nome : nomi) {
-        Documento d;
+        FeedDiProva d;
         EXPECT_EQ(d.provaLeggi(cartella.file(nome)).numero, 0) << inUtf8(nome);
         EXPECT_EQ(inUtf8(d.title), inUtf8(nome));
     }
@@ -150,7 +150,7 @@ TEST(LetturaFile, IlNomeSiApreComeEScritto) {
 
 TEST(LetturaFile, PercorsiRelativiDiReteELunghi) {
     const CartellaProva cartella;
-    Documento d;
+    FeedDiProva d;
     const auto percorso = cartella.scrivi(L"a b.xml", rssCon("<title>x</title>"));
     const auto prima = std::filesystem::current_path();
     std::filesystem::current_path(cartella.percorso());
@@ -172,10 +172,10 @@ TEST(LetturaFile, TrecentoCaratteriSiApronoOSiRifiutano) {
     percorso += L'\\';
     percorso += std::wstring(300 - percorso.size() - 4, L'y') + L".xml";
     ASSERT_EQ(percorso.size(), 300U);
-    Documento d;
+    FeedDiProva d;
     d.title = L"x";
     const auto scritto = d.provaScrivi(percorso);
-    Documento riletto;
+    FeedDiProva riletto;
     const auto letto = riletto.provaLeggi(percorso);
     EXPECT_TRUE(letto.numero == 0 || letto.numero == 18343) << letto.numero;
     if (letto.numero == 0) {
@@ -188,7 +188,7 @@ TEST(LetturaFile, TrecentoCaratteriSiApronoOSiRifiutano) {
 
 TEST(LetturaFile, CioCheNonEUnFileLeggibileNonSiCarica) {
     const CartellaProva cartella;
-    Documento d;
+    FeedDiProva d;
     const auto numero = [&](const std::wstring& percorso) { return d.provaLeggi(percorso).numero; };
     EXPECT_EQ(numero(cartella.percorso()), 18343);
     EXPECT_EQ(numero(cartella.file(L"nessuno.xml")), 18343);
@@ -209,7 +209,7 @@ TEST(LetturaFile, CioCheNonEUnFileLeggibileNonSiCarica) {
 // An address is not a path: nothing goes out for it.
 TEST(LetturaFile, UnIndirizzoNonSiScarica) {
     const Ascolto ascolto;
-    Documento d;
+    FeedDiProva d;
     EXPECT_EQ(d.provaLeggi(daUtf8(ascolto.url())).numero, 18343);
     EXPECT_FALSE(ascolto.chiamato());
 }

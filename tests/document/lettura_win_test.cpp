@@ -1,6 +1,7 @@
 #include "datetime/ClsUTC.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <windows.h>
 
@@ -20,7 +21,7 @@ protected:
     Sollevato leggiCanale(std::string_view contenuto) { return leggi(rssCon(contenuto)); }
 
     // A text that the reader stamped: the time of now.
-    void attendiAdesso(const std::wstring& testo) const {
+    void attendiAdesso(std::wstring_view testo) const {
         const ClsUTC utc;
         const auto adesso = utc.adessoLocale().secondi();
         // The offset west of Greenwich is no number to read back; tests run in Rome.
@@ -31,7 +32,7 @@ protected:
 
     CartellaProva cartella;
     std::wstring percorso;
-    Documento d;
+    FeedDiProva d;
 };
 
 } // namespace
@@ -67,6 +68,20 @@ TEST_F(Lettura, SetteTestiImmagineEdElementi) {
     EXPECT_EQ(d.items(Titolo, 1), L"2");
 }
 
+TEST_F(Lettura, GliElementiDiUnDocumentoStannoInUnaSolaMemoria) {
+    ASSERT_EQ(
+        leggi(rssCon("<item><title>a</title></item><item/><item><link>b</link></item>")).numero, 0);
+    const ElementoCondiviso primo = d.items.elemento(0);
+    for (const int i : {1, 2}) {
+        EXPECT_FALSE(primo.owner_before(d.items.elemento(i)));
+        EXPECT_FALSE(d.items.elemento(i).owner_before(primo));
+    }
+    // It outlives the table.
+    const ElementoCondiviso ultimo = d.items.elemento(2);
+    d.items.svuota();
+    EXPECT_EQ((*ultimo)[Link], L"b");
+}
+
 TEST_F(Lettura, SenzaUnSoloRssConUnSoloCanaleIlFormatoNonEValido) {
     for (const auto* const testo :
          {"<rss/>", "<rss><channel/><channel/></rss>", "<rdf><channel/></rdf>",
@@ -99,7 +114,7 @@ TEST_F(Lettura, CioCheNonSiCaricaLasciaTuttoVuoto) {
         d.title = L"prima";
         d.webMaster = L"prima";
         d.image.nWidth(3);
-        d.items.dimensiona(3);
+        dimensiona(d.items, 3);
         const auto e = leggi(testo);
         EXPECT_EQ(e.numero, 18343) << testo;
         EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML: impossibile caricare il documento."))
@@ -248,7 +263,7 @@ TEST_F(Lettura, ElementiSenzaTitoloDelCanale) {
 }
 
 TEST_F(Lettura, SenzaElementiLaTabellaEVuota) {
-    d.items.dimensiona(4);
+    dimensiona(d.items, 4);
     EXPECT_EQ(leggiCanale("<title>a</title>").numero, 0);
     EXPECT_EQ(d.items.conteggio(), 0);
     EXPECT_EQ(d.items.limiteSuperiore(), 0);

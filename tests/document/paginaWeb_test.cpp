@@ -3,6 +3,8 @@
 #include "document/clsItemRss.h"
 #include "support/prodotto.h"
 #include "support/testo.h"
+#include "tests/aiuti/formati.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <algorithm>
 #include <vector>
@@ -29,26 +31,18 @@ Righe righe(const std::wstring& pagina) {
     return trovate;
 }
 
-const FormatoLocale italiano{L',', L'.', L"/", L":"};
-
 ClsUTC conOra() {
     return {Istante{DataOra::daParti(2005, 6, 11, 13), DataOra::daParti(2005, 6, 11, 15)},
             italiano};
 }
 
-struct Canale {
-    std::wstring title = L"titolo";
-    std::wstring link;
-    std::wstring description;
-    std::wstring copyright;
-    std::wstring lastBuildDate;
-    std::wstring webMaster;
-    clsImgRss image;
+struct CanaleDiProva : Canale {
+    CanaleDiProva() { title = L"titolo"; }
+
     TabellaElementi items;
 
     [[nodiscard]] Righe pagina(const FormatoLocale& formato = italiano) const {
-        return righe(paginaFeed(title, link, description, copyright, lastBuildDate, webMaster,
-                                image, items, conOra(), formato));
+        return righe(paginaFeed(*this, items, conOra(), formato));
     }
     // Without the header, the items and the closing lines.
     [[nodiscard]] Righe blocco(const FormatoLocale& formato = italiano) const {
@@ -65,7 +59,7 @@ Righe bloccoElementi(const TabellaElementi& items, const FormatoLocale& formato 
 } // namespace
 
 TEST(PaginaWeb, LaTestataHaDodiciRigheEIlTitoloDelCanale) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.title = L"  <Titolo> & \"altro\"  ";
     const Righe pagina = canale.pagina();
     const Righe attese{
@@ -96,7 +90,7 @@ TEST(PaginaWeb, LAnteprimaHaUnTitoloFissoENienteCanale) {
 }
 
 TEST(PaginaWeb, IlBloccoDelCanaleRigaPerRiga) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.link = L" http://a/ ";
     canale.description = L"<b>x</b>";
     canale.copyright = L"c";
@@ -108,7 +102,7 @@ TEST(PaginaWeb, IlBloccoDelCanaleRigaPerRiga) {
 }
 
 TEST(PaginaWeb, UnLinkDiSpaziNonFaUnAncora) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.link = L"   ";
     canale.lastBuildDate = L"x";
     EXPECT_EQ(canale.blocco(),
@@ -119,7 +113,7 @@ TEST(PaginaWeb, UnLinkDiSpaziNonFaUnAncora) {
 }
 
 TEST(PaginaWeb, UnImmagineMaiToccataNonSiVede) {
-    Canale canale;
+    CanaleDiProva canale;
     EXPECT_EQ(canale.blocco().front(), L"<H3>");
     canale.image.sUrl(L"http://a/b.gif");
     canale.image.Modificato(false);
@@ -127,7 +121,7 @@ TEST(PaginaWeb, UnImmagineMaiToccataNonSiVede) {
 }
 
 TEST(PaginaWeb, LImmagineHaIlSuoAncoraELeSueMisure) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.image.sTitle(L"il \"logo\"");
     canale.image.sUrl(L" http://a/b.gif");
     canale.image.sLink(L"http://a/");
@@ -142,7 +136,7 @@ TEST(PaginaWeb, LImmagineHaIlSuoAncoraELeSueMisure) {
 }
 
 TEST(PaginaWeb, UnImmagineSenzaIndirizzoLasciaLAncoraVuoto) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.image.sLink(L"http://a/");
     canale.image.sUrl(L"  ");
     const Righe blocco = canale.blocco();
@@ -151,7 +145,7 @@ TEST(PaginaWeb, UnImmagineSenzaIndirizzoLasciaLAncoraVuoto) {
 }
 
 TEST(PaginaWeb, UnImmagineSenzaLinkNonHaAncora) {
-    Canale canale;
+    CanaleDiProva canale;
     canale.image.sUrl(L"u");
     canale.image.sLink(L" ");
     const Righe blocco = canale.blocco();
@@ -161,12 +155,12 @@ TEST(PaginaWeb, UnImmagineSenzaLinkNonHaAncora) {
 
 TEST(PaginaWeb, UnElementoRigaPerRiga) {
     TabellaElementi items;
-    items(CampoElemento::Titolo, 0) = L"t";
-    items(CampoElemento::Link, 0) = L"l";
-    items(CampoElemento::Descrizione, 0) = L"d\r\n<i>e</i>";
-    items(CampoElemento::Autore, 0) = L" a ";
-    items(CampoElemento::Data, 0) = L"Sat, 11 Giu 2005 15:00:00 GMT";
-    items(CampoElemento::Guid, 0) = L"{GUID}";
+    metti(items, CampoElemento::Titolo, 0, L"t");
+    metti(items, CampoElemento::Link, 0, L"l");
+    metti(items, CampoElemento::Descrizione, 0, L"d\r\n<i>e</i>");
+    metti(items, CampoElemento::Autore, 0, L" a ");
+    metti(items, CampoElemento::Data, 0, L"Sat, 11 Giu 2005 15:00:00 GMT");
+    metti(items, CampoElemento::Guid, 0, L"{GUID}");
     EXPECT_EQ(bloccoElementi(items),
               (Righe{L"<p><hr>", L"<H3>", L"<a href=\"l\">", L"t", L"</a>", L"</H3>", L"<p>d",
                      L"<i>e</i>", L"<p><i>11/06/2005 17:00:00 ", L"<br> a </i> "}));
@@ -181,13 +175,13 @@ TEST(PaginaWeb, UnaTabellaMaiCresciutaDaUnElementoVuoto) {
 
 TEST(PaginaWeb, GliElementiVannoFinoAlLimiteNelLoroOrdine) {
     TabellaElementi items;
-    items.dimensiona(3);
+    dimensiona(items, 3);
     for (int i = 0; i < 3; ++i) {
-        items(CampoElemento::Titolo, i) = std::to_wstring(i);
-        items(CampoElemento::Data, i) = L"?";
+        metti(items, CampoElemento::Titolo, i, std::to_wstring(i));
+        metti(items, CampoElemento::Data, i, L"?");
     }
-    items(CampoElemento::Link, 1) = L"solo qui";
-    items(CampoElemento::Autore, 1) = L"solo qui";
+    metti(items, CampoElemento::Link, 1, L"solo qui");
+    metti(items, CampoElemento::Autore, 1, L"solo qui");
     const Righe blocco = bloccoElementi(items);
     EXPECT_EQ(std::ranges::count(blocco, L"<p><hr>"), 3);
     EXPECT_EQ(std::ranges::count(blocco, L"</a>"), 1);
@@ -203,9 +197,9 @@ TEST(PaginaWeb, UnTestoCheNonEUnaDataRestaComE) {
     for (const auto* testo : {L"ieri", L"Sat, 11 Xyz 2005 15:00:00 +0100", L"Sat, 11 Jun 2005",
                               L"Sat, 11 Jun 2005 1500 Z", L"Sat, 11 Jun 2005 15:00:00 --0500",
                               L"Sat, 11 Jun 99999 15:00:00 GMT"}) {
-        items(CampoElemento::Data, 0) = testo;
+        metti(items, CampoElemento::Data, 0, testo);
         EXPECT_EQ(bloccoElementi(items)[5], L"<p><i>" + std::wstring(testo) + L' ');
-        Canale canale;
+        CanaleDiProva canale;
         canale.lastBuildDate = testo;
         EXPECT_EQ(canale.blocco()[4], L"<p><i>" + std::wstring(testo) + L' ');
     }
@@ -213,7 +207,9 @@ TEST(PaginaWeb, UnTestoCheNonEUnaDataRestaComE) {
 
 TEST(PaginaWeb, LaDataHaISeparatoriDellUtente) {
     TabellaElementi items;
-    items(CampoElemento::Data, 0) = L"Tue, 3 Jan 2006 04:05:06 +0100";
-    EXPECT_EQ(bloccoElementi(items, {L',', L'.', L".", L"."})[5], L"<p><i>03.01.2006 04.05.06 ");
-    EXPECT_EQ(bloccoElementi(items, {L'.', L',', L"-", L":"})[5], L"<p><i>03-01-2006 04:05:06 ");
+    metti(items, CampoElemento::Data, 0, L"Tue, 3 Jan 2006 04:05:06 +0100");
+    EXPECT_EQ(bloccoElementi(items, {Lingua::Italiano, L',', L".", L"."})[5],
+              L"<p><i>03.01.2006 04.05.06 ");
+    EXPECT_EQ(bloccoElementi(items, {Lingua::Inglese, L'.', L"-", L":"})[5],
+              L"<p><i>03-01-2006 04:05:06 ");
 }

@@ -8,8 +8,9 @@
 #include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <windows.h>
 
@@ -17,13 +18,13 @@
 
 namespace {
 
-Documento breve() {
-    Documento d;
+FeedDiProva breve() {
+    FeedDiProva d;
     d.title = L"breve";
     return d;
 }
 
-void crea(const Documento& d, const std::wstring& percorso) {
+void crea(const FeedDiProva& d, const std::wstring& percorso) {
     clsFeedRss().CreaDocumentoHTML(percorso, d.title, d.link, d.description, d.language,
                                    d.copyright, d.lastBuildDate, d.webMaster, d.image, d.items);
 }
@@ -115,7 +116,7 @@ TEST(PaginaSuDisco, SuUnDiscoPienoSollevaENonLasciaMezzaPagina) {
         GTEST_SKIP() << "OSTRELLE_DISCO_PIENO is not set";
     }
     const std::wstring percorso = cartella + std::wstring(L"\\pagina.htm");
-    Documento lunga = breve();
+    FeedDiProva lunga = breve();
     lunga.description = std::wstring(1000000, L'x');
     EXPECT_EQ(sollevatoDa([&] { crea(lunga, percorso); }).numero, errori::discoPieno);
     EXPECT_FALSE(fileEsiste(percorso));
@@ -182,7 +183,7 @@ TEST(Anteprima, SonoInCodaIlNomeNudoEPoiLaPagina) {
     const CartellaProva cartella;
     const VariabileAmbiente tmp(L"TMP", cartella.percorso());
     TabellaElementi items;
-    items(CampoElemento::Titolo, 0) = L"uno";
+    metti(items, CampoElemento::Titolo, 0, L"uno");
     ClsCodaEliminazione coda;
     const std::wstring pagina = clsFeedRss().VisualizzaItemHTML(items, coda);
     EXPECT_TRUE(pagina.starts_with(cartella.percorso() + L"\\ko")) << inUtf8(pagina);

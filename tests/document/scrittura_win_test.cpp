@@ -4,7 +4,8 @@
 #include "support/prodotto.h"
 #include "support/xml_win.h"
 #include "tests/aiuti/cartella_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <windows.h>
 
@@ -57,7 +58,7 @@ protected:
 
     CartellaProva cartella;
     std::wstring percorso = cartella.file(L"a.xml");
-    Documento d;
+    FeedDiProva d;
 };
 
 } // namespace
@@ -75,10 +76,10 @@ TEST_F(Scrittura, LAlberoInteroNellOrdine) {
     d.image.sLink(L"IL");
     d.image.nWidth(10);
     d.image.nHeight(-20);
-    d.items.dimensiona(2);
+    dimensiona(d.items, 2);
     for (int e = 0; e < 2; ++e) {
         for (int c = 0; c < numeroCampi; ++c) {
-            d.items(static_cast<CampoElemento>(c), e) = std::to_wstring(e * 10 + c);
+            metti(d.items, static_cast<CampoElemento>(c), e, std::to_wstring(e * 10 + c));
         }
     }
     EXPECT_EQ(scritto(),
@@ -110,12 +111,6 @@ TEST_F(Scrittura, VuotoScriveTuttiGliElementiSenzaImmagine) {
               std::string::npos);
 }
 
-TEST_F(Scrittura, ValgonoGliElementiFinoAlLimiteENonIlConteggio) {
-    ASSERT_EQ(d.items.conteggio(), 0);
-    d.items(Titolo, 0) = L"scritto lo stesso";
-    EXPECT_NE(scritto().find("item(title(scritto lo stesso)"), std::string::npos);
-}
-
 TEST_F(Scrittura, ImmagineToccataSiScriveConGliZeri) {
     d.image.sTitle(L"x");
     d.image.sTitle(L"");
@@ -132,8 +127,8 @@ TEST_F(Scrittura, ImmagineLettaVuotaNonSiRiscrive) {
 
 TEST_F(Scrittura, SoloLaDescrizioneDellElementoStaInCData) {
     d.description = L"a < b & c ]]>";
-    d.items(Descrizione, 0) = L"a < b & c";
-    d.items(Titolo, 0) = L"<t>";
+    metti(d.items, Descrizione, 0, L"a < b & c");
+    metti(d.items, Titolo, 0, L"<t>");
     d.scrivi(percorso);
     const std::string testo = leggiTutto(percorso);
     EXPECT_NE(testo.find("<description>a &lt; b &amp; c ]]&gt;</description>"), std::string::npos);
@@ -143,29 +138,29 @@ TEST_F(Scrittura, SoloLaDescrizioneDellElementoStaInCData) {
 
 TEST_F(Scrittura, CioCheMancaAlLatin1) {
     d.title = L"è €";
-    d.items(Descrizione, 0) = L"è € “–”";
+    metti(d.items, Descrizione, 0, L"è € “–”");
     d.scrivi(percorso);
     const std::string testo = leggiTutto(percorso);
     EXPECT_NE(testo.find("<title>\xE8 &#8364;</title>"), std::string::npos);
     EXPECT_NE(testo.find("<![CDATA[\xE8 &#8364; &#8220;&#8211;&#8221;]]>"), std::string::npos);
-    Documento riletto;
+    FeedDiProva riletto;
     riletto.leggi(percorso);
     EXPECT_EQ(riletto.title, L"è €");
     EXPECT_EQ(riletto.items(Descrizione, 0), L"è &#8364; &#8220;&#8211;&#8221;");
     // What was a reference stays one: saving again changes nothing.
     riletto.scrivi(cartella.file(L"b.xml"));
-    Documento ancora;
+    FeedDiProva ancora;
     ancora.leggi(cartella.file(L"b.xml"));
     EXPECT_EQ(ancora.items(Descrizione, 0), riletto.items(Descrizione, 0));
 }
 
 TEST_F(Scrittura, UnCarattereInammissibileSiRifiutaPrimaDelFile) {
-    d.items.dimensiona(3);
-    d.items(Descrizione, 2) = L"a\vb";
+    dimensiona(d.items, 3);
+    metti(d.items, Descrizione, 2, L"a\vb");
     attendiRifiuto(L": carattere non ammesso in descrizione dell'elemento 3 (U+000B).");
-    d.items(Descrizione, 2) = L"a]]>b";
+    metti(d.items, Descrizione, 2, L"a]]>b");
     attendiRifiuto(L": sequenza ]]> non ammessa in descrizione dell'elemento 3.");
-    d.items(Titolo, 1) = std::wstring(1, static_cast<wchar_t>(0xD800));
+    metti(d.items, Titolo, 1, std::wstring(1, static_cast<wchar_t>(0xD800)));
     attendiRifiuto(L": carattere non ammesso in titolo dell'elemento 2 (U+D800).");
     d.image.sLink(L"\xFFFE");
     attendiRifiuto(L": carattere non ammesso in link dell'immagine (U+FFFE).");
@@ -187,7 +182,10 @@ TEST_F(Scrittura, OgniCampoSiControlla) {
         EXPECT_TRUE(rifiutato(*campo));
     }
     for (int c = 0; c < numeroCampi; ++c) {
-        EXPECT_TRUE(rifiutato(d.items(static_cast<CampoElemento>(c), 0))) << c;
+        metti(d.items, static_cast<CampoElemento>(c), 0, L"\x01");
+        EXPECT_EQ(d.provaScrivi(percorso).numero, 5) << c;
+        metti(d.items, static_cast<CampoElemento>(c), 0, L"");
+        EXPECT_EQ(d.provaScrivi(percorso).numero, 0) << c;
     }
     const auto conImmagine = [&](auto assegna) {
         d.image = clsImgRss();

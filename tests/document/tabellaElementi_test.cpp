@@ -1,6 +1,7 @@
 #include "document/tabellaElementi.h"
 
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <utility>
 #include <vector>
@@ -11,23 +12,27 @@ namespace {
 
 constexpr auto titolo = CampoElemento::Titolo;
 
-TabellaElementi conTitoli(const std::vector<std::wstring>& titoli) {
+using Titoli = std::vector<std::wstring>;
+
+ElementoCondiviso intitolato(std::wstring_view testo) {
+    return conTesto(*elementoVuoto(), titolo, testo);
+}
+
+TabellaElementi conTitoli(const Titoli& titoli) {
     TabellaElementi tabella;
     for (const auto& t : titoli) {
-        tabella(titolo, tabella.aggiungi()) = t;
+        tabella.inserisci(tabella.conteggio(), intitolato(t));
     }
     return tabella;
 }
 
-std::vector<std::wstring> titoliDi(const TabellaElementi& tabella) {
-    std::vector<std::wstring> titoli;
+Titoli titoliDi(const TabellaElementi& tabella) {
+    Titoli titoli;
     for (int i = 0; i <= tabella.limiteSuperiore(); ++i) {
-        titoli.push_back(tabella(titolo, i));
+        titoli.emplace_back(tabella(titolo, i));
     }
     return titoli;
 }
-
-using Titoli = std::vector<std::wstring>;
 
 } // namespace
 
@@ -40,47 +45,52 @@ TEST(TabellaElementi, VuotaHaUnElementoEConteggioZero) {
     }
 }
 
-TEST(TabellaElementi, IlPrimoAggiuntoOccupaIlPostoVuoto) {
+TEST(TabellaElementi, IlPrimoOccupaIlPostoVuotoEGliAltriFannoPosto) {
     TabellaElementi tabella;
-    EXPECT_EQ(tabella.aggiungi(), 0);
+    tabella.inserisci(0, intitolato(L"b"));
     EXPECT_EQ(tabella.conteggio(), 1);
     EXPECT_EQ(tabella.limiteSuperiore(), 0);
-    EXPECT_EQ(tabella.aggiungi(), 1);
-    EXPECT_EQ(tabella.conteggio(), 2);
-    EXPECT_EQ(tabella.limiteSuperiore(), 1);
-}
-
-TEST(TabellaElementi, IlPrimoAggiuntoNasceVuotoQualunqueCosaCiFosse) {
-    TabellaElementi tabella;
-    tabella(titolo, 0) = L"mai contato";
-    tabella(CampoElemento::Guid, 0) = L"guid";
-    EXPECT_EQ(tabella.aggiungi(), 0);
-    for (int campo = 0; campo < numeroCampi; ++campo) {
-        EXPECT_EQ(tabella(static_cast<CampoElemento>(campo), 0), L"");
-    }
+    tabella.inserisci(1, intitolato(L"d"));
+    tabella.inserisci(0, intitolato(L"a"));
+    tabella.inserisci(2, intitolato(L"c"));
+    EXPECT_EQ(titoliDi(tabella), (Titoli{L"a", L"b", L"c", L"d"}));
+    EXPECT_EQ(tabella.conteggio(), 4);
 }
 
 TEST(TabellaElementi, OgniCampoPerConto) {
     TabellaElementi tabella;
-    tabella.dimensiona(2);
+    tabella.riempi({creaElemento({L"0", L"1", L"2", L"3", L"4", L"5"}),
+                    creaElemento({L"10", L"11", L"12", L"13", L"14", L"15"})});
     EXPECT_EQ(tabella.conteggio(), 2);
-    for (int e = 0; e < 2; ++e) {
-        for (int c = 0; c < numeroCampi; ++c) {
-            tabella(static_cast<CampoElemento>(c), e) = std::to_wstring(e * 10 + c);
-        }
-    }
-    EXPECT_EQ(std::as_const(tabella)(CampoElemento::Guid, 1), L"15");
-    EXPECT_EQ(std::as_const(tabella)(CampoElemento::Link, 0), L"1");
+    EXPECT_EQ(tabella(CampoElemento::Guid, 1), L"15");
+    EXPECT_EQ(tabella(CampoElemento::Link, 0), L"1");
+    tabella.sostituisci(0, intitolato(L"z"));
+    EXPECT_EQ(titoliDi(tabella), (Titoli{L"z", L"10"}));
+    tabella.riempi({});
+    EXPECT_EQ(titoliDi(tabella), (Titoli{L""}));
+    EXPECT_EQ(tabella.conteggio(), 0);
 }
 
 TEST(TabellaElementi, OltreIlLimiteErrore9) {
     TabellaElementi tabella = conTitoli({L"a", L"b"});
-    EXPECT_EQ(sollevatoDa([&] { return tabella(titolo, 2); }).numero, 9);
-    EXPECT_EQ(sollevatoDa([&] { return std::as_const(tabella)(titolo, -1); }).numero, 9);
-    EXPECT_EQ(sollevatoDa([&] { return tabella.rimuovi(2), 0; }).numero, 9);
-    EXPECT_EQ(sollevatoDa([&] { return tabella.sposta(0, 2), 0; }).numero, 9);
-    EXPECT_EQ(sollevatoDa([&] { return tabella.sposta(-1, 0), 0; }).numero, 9);
+    EXPECT_EQ(erroreDi([&] { static_cast<void>(tabella(titolo, 2)); }), 9);
+    EXPECT_EQ(erroreDi([&] { static_cast<void>(tabella(titolo, -1)); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.inserisci(3, intitolato(L"x")); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.inserisci(-1, intitolato(L"x")); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.sostituisci(2, intitolato(L"x")); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.rimuovi(2); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.sposta(0, 2); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.sposta(-1, 0); }), 9);
     EXPECT_EQ(titoliDi(tabella), (Titoli{L"a", L"b"}));
+}
+
+TEST(TabellaElementi, LElementoVuotoDellaTabellaVuotaNonSiToccaENonSiToglie) {
+    TabellaElementi tabella;
+    EXPECT_EQ(erroreDi([&] { tabella.sostituisci(0, intitolato(L"x")); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.rimuovi(0); }), 9);
+    EXPECT_EQ(erroreDi([&] { tabella.sposta(0, 0); }), 9);
+    EXPECT_EQ(titoliDi(tabella), (Titoli{L""}));
+    EXPECT_EQ(tabella.conteggio(), 0);
 }
 
 TEST(TabellaElementi, RimuoviFinoAllaTabellaVuota) {
@@ -107,34 +117,36 @@ TEST(TabellaElementi, SpostaTieneLOrdineDegliAltri) {
 
 TEST(TabellaElementi, NonPiuDi32767) {
     TabellaElementi tabella;
-    tabella.dimensiona(32767);
+    dimensiona(tabella, 32766);
+    EXPECT_FALSE(tabella.piena());
+    tabella.inserisci(32766, intitolato(L"ultimo"));
     EXPECT_EQ(tabella.conteggio(), 32767);
-    tabella(titolo, 32766) = L"ultimo";
-    EXPECT_EQ(sollevatoDa([&] { return tabella.aggiungi(); }).numero, 6);
+    EXPECT_TRUE(tabella.piena());
+    EXPECT_EQ(erroreDi([&] { tabella.inserisci(0, intitolato(L"x")); }), 6);
+    EXPECT_EQ(erroreDi([&] { dimensiona(tabella, 32768); }), 6);
     EXPECT_EQ(tabella.limiteSuperiore(), 32766);
-    EXPECT_EQ(sollevatoDa([&] { return tabella.dimensiona(32768), 0; }).numero, 6);
-    EXPECT_EQ(sollevatoDa([&] { return tabella.dimensiona(0), 0; }).numero, 6);
     EXPECT_EQ(tabella(titolo, 32766), L"ultimo");
 }
 
-TEST(TabellaElementi, CrescereTogliereESpostareNonCopianoITesti) {
-    const std::wstring lungo(1000, L'x');
-    TabellaElementi tabella = conTitoli({L"a", lungo, L"c"});
-    const wchar_t* const dove = tabella(titolo, 1).data();
+TEST(TabellaElementi, NessunLavoroENessunaCopiaToccanoITesti) {
+    TabellaElementi tabella = conTitoli({L"a", L"b", L"c"});
+    const Elemento* const dove = tabella.elemento(1).get();
     for (int i = 0; i < 100; ++i) {
-        tabella.aggiungi();
+        tabella.inserisci(tabella.conteggio(), elementoVuoto());
     }
     tabella.rimuovi(0);
     tabella.sposta(0, 50);
-    EXPECT_EQ(tabella(titolo, 50).data(), dove);
+    EXPECT_EQ(tabella.elemento(50).get(), dove);
+    const TabellaElementi copia = tabella;
+    EXPECT_EQ(copia.elemento(50).get(), dove);
     const TabellaElementi altra = std::move(tabella);
-    EXPECT_EQ(altra(titolo, 50).data(), dove);
+    EXPECT_EQ(altra.elemento(50).get(), dove);
 }
 
 TEST(TabellaElementi, LaCopiaStaPerConto) {
     TabellaElementi tabella = conTitoli({L"a", L"b"});
     TabellaElementi copia = tabella;
-    copia(titolo, 0) = L"x";
+    copia.sostituisci(0, intitolato(L"x"));
     EXPECT_EQ(titoliDi(tabella), (Titoli{L"a", L"b"}));
     tabella = copia;
     EXPECT_EQ(titoliDi(tabella), (Titoli{L"x", L"b"}));

@@ -8,31 +8,12 @@
 
 namespace {
 
-bool uguali(double a, double b) {
-    return a == b || (std::isnan(a) && std::isnan(b));
-}
-
-void perIlTesto(const std::wstring& testo, const FormatoLocale& formato) {
+void perIlTesto(const std::wstring& testo) {
     const double iniziale = valoreIniziale(testo);
     esigi(!std::isnan(iniziale));
     // Blanks count nowhere, and what follows a stranger does not count.
-    esigi(uguali(valoreIniziale(L" \t" + testo), iniziale));
-    esigi(uguali(valoreIniziale(testo + L"x9"), iniziale));
-
-    const auto numero = testoADouble(testo, formato);
-    esigi(std::isfinite(numero.value_or(0)));
-    esigi(testoADouble(L' ' + testo + L'\t', formato) == numero);
-    esigi(!testoADouble(testo + L"x", formato));
-    try {
-        const std::int16_t intero = testoAInt16(testo, formato);
-        esigi(numero.has_value());
-        const double scarto = std::fabs(numero.value_or(0) - intero);
-        esigi(scarto <= 0.5 || scarto == 65536);
-    } catch (const Errore& errore) {
-        esigi(errore.numero() == errori::tipoNonCorrispondente ||
-              errore.numero() == errori::overflow);
-        esigi(errore.numero() != errori::tipoNonCorrispondente || !numero);
-    }
+    esigi(valoreIniziale(L" \t" + testo) == iniziale);
+    esigi(valoreIniziale(testo + L"x9") == iniziale);
 }
 
 void perIlReale(double valore, int intere, int decimali) {
@@ -68,8 +49,7 @@ void perIlReale(double valore, int intere, int decimali) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
     const std::wstring testo = testoDa(dati, quanti);
-    perIlTesto(testo, {});
-    perIlTesto(testo, {L'.', L',', L"/", L":"});
+    perIlTesto(testo);
     if (quanti >= sizeof(double) + 1) {
         double valore = 0;
         std::memcpy(&valore, dati + 1, sizeof valore);

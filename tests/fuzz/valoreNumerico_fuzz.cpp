@@ -1,4 +1,5 @@
 #include "support/errore.h"
+#include "tests/aiuti/formati.h"
 #include "ui/controls/valoreNumerico.h"
 
 #include <cmath>
@@ -32,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     if (quanti < 4) {
         return 0;
     }
-    const FormatoLocale formato{dati[0] % 2 == 0 ? L',' : L'.', dati[0] % 2 == 0 ? L'.' : L','};
+    const FormatoLocale& formato = dati[0] % 2 == 0 ? italiano : inglese;
     const auto codice = [](std::uint8_t scelta) {
         return static_cast<std::uint8_t>(scelta % 3 == 0 ? 0 : scelta % 3 == 1 ? ',' : '.');
     };

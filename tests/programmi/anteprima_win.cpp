@@ -7,6 +7,7 @@
 #include "support/maniglie_win.h"
 #include "support/scrittura_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <windows.h>
 
@@ -18,7 +19,7 @@ void anteprima(const wchar_t* dove, const wchar_t* evento) {
     const Apartamento apartamento;
     ClsCodaEliminazione coda;
     TabellaElementi items;
-    items(CampoElemento::Titolo, 0) = L"anteprima";
+    metti(items, CampoElemento::Titolo, 0, L"anteprima");
     const std::wstring pagina = clsFeedRss().VisualizzaItemHTML(items, coda);
     FileNuovo file(dove);
     file.scrivi(inUtf8(pagina));

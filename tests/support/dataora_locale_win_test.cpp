@@ -72,8 +72,8 @@ TEST(DataOraDiWindows, SiMostraComeNelleImpostazioni) {
 TEST(FormatoDiWindows, ISeparatoriDellUtente) {
     const FormatoLocale formato = formatoUtente();
     const bool italiano = PRIMARYLANGID(GetUserDefaultLangID()) == LANG_ITALIAN;
+    EXPECT_EQ(formato.lingua, Lingua::Utente);
     EXPECT_EQ(formato.decimale, italiano ? L',' : L'.');
-    EXPECT_EQ(formato.migliaia, italiano ? L'.' : L',');
     EXPECT_EQ(formato.data, L"/");
     EXPECT_EQ(formato.ora, L":");
 }

@@ -110,5 +110,5 @@ TEST(DataOra, LeOreDiDifferenzaContanoIConfini) {
 TEST(DataOra, SiMostraConISeparatoriDati) {
     const DataOra data = DataOra::daParti(205, 1, 2, 13, 4, 5);
     EXPECT_EQ(formattaDataOra(data, {}), L"02/01/0205 13:04:05");
-    EXPECT_EQ(formattaDataOra(data, {L',', L'.', L"-", L"."}), L"02-01-0205 13.04.05");
+    EXPECT_EQ(formattaDataOra(data, {Lingua::Italiano, L',', L"-", L"."}), L"02-01-0205 13.04.05");
 }

@@ -68,10 +68,15 @@ TEST_F(ImpostazioniVere, LElencoDeiRecentiPassaOltreIRifiuti) {
     recenti.CaricaRecenti();
     ASSERT_EQ(recenti.voci().size(), 1U);
     EXPECT_EQ(recenti.voci()[0], L"c:\\città\\a.xml");
+    // Meanwhile another copy of the program stores one of its own.
+    sezione.testo(L"murl4", L"c:\\altro.xml");
     recenti.AggiungiRecente(L"C:\\B.xml");
     EXPECT_EQ(leggi(L"murl1"), L"c:\\b.xml");
     EXPECT_EQ(leggi(L"murl2"), L"c:\\città\\a.xml");
+    // It would stand there twice.
     EXPECT_EQ(leggi(L"murl3"), L"");
+    EXPECT_EQ(leggi(L"murl4"), L"c:\\altro.xml");
+    EXPECT_EQ(leggi(L"murl11"), L"c:\\undicesimo.xml");
 }
 
 TEST_F(ImpostazioniVere, DoveNonSiPuoScrivereSiDice) {

@@ -1,24 +1,17 @@
 #include "support/numeri.h"
 
+#include "tests/aiuti/formati.h"
 #include "tests/aiuti/sollevato.h"
 
+#include <array>
 #include <cmath>
 #include <cstdio>
+#include <cwchar>
 #include <limits>
 #include <random>
+#include <string>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-const FormatoLocale italiano{};
-const FormatoLocale inglese{L'.', L',', L"/", L":"};
-
-int erroreInt16(std::wstring_view testo) {
-    return sollevatoDa([&] { return testoAInt16(testo, italiano); }).numero;
-}
-
-} // namespace
 
 TEST(Numeri, ValoreInizialeSiFermaAlPrimoEstraneo) {
     EXPECT_EQ(valoreIniziale(L"120px"), 120);
@@ -38,7 +31,8 @@ TEST(Numeri, ValoreInizialeSiFermaAlPrimoEstraneo) {
     EXPECT_EQ(valoreIniziale(L""), 0);
     EXPECT_EQ(valoreIniziale(L"px"), 0);
     EXPECT_EQ(valoreIniziale(L"\u00A05"), 0);
-    EXPECT_EQ(valoreIniziale(L"123456789012345678901234567890"), 123456789012345678901234567890.0);
+    EXPECT_DOUBLE_EQ(valoreIniziale(L"123456789012345678901234567890"),
+                     123456789012345678901234567890.0);
     EXPECT_TRUE(std::isinf(valoreIniziale(L"1e99999")));
     EXPECT_EQ(valoreIniziale(L"1e-99999"), 0);
 }
@@ -61,37 +55,6 @@ TEST(Numeri, FuoriIntervalloOverflow) {
     }
     for (const double v : {2147483647.5, -2147483649.0, -1e300}) {
         EXPECT_EQ(sollevatoDa([&] { return aInt32(v); }).numero, 6) << v;
-    }
-}
-
-TEST(Numeri, TestoAInt16) {
-    EXPECT_EQ(testoAInt16(L"+0100", italiano), 100);
-    EXPECT_EQ(testoAInt16(L"-0500", italiano), -500);
-    EXPECT_EQ(testoAInt16(L"(0100)", italiano), -100);
-    EXPECT_EQ(testoAInt16(L"0500-", italiano), -500);
-    EXPECT_EQ(testoAInt16(L" 12 ", italiano), 12);
-    EXPECT_EQ(testoAInt16(L"2,5", italiano), 2);
-    EXPECT_EQ(testoAInt16(L"1.000", italiano), 1000);
-    EXPECT_EQ(testoAInt16(L"1.000", inglese), 1);
-    EXPECT_EQ(testoAInt16(L"&HFFFF", italiano), -1);
-    EXPECT_EQ(testoAInt16(L"&O17", italiano), 15);
-    for (const auto* const testo : {L"--0500", L"EST", L"Z", L"+01:00", L"", L" ", L"-", L"(1",
-                                    L"1)", L"1 2", L"&", L"&H", L"e1", L"1e", L"+", L","}) {
-        EXPECT_EQ(erroreInt16(testo), 13);
-    }
-    for (const auto* const testo : {L"40000", L"32767,5", L"1e400", L"&H10000", L"-32769"}) {
-        EXPECT_EQ(erroreInt16(testo), 6);
-    }
-}
-
-TEST(Numeri, TestoADoubleSecondoISeparatori) {
-    EXPECT_EQ(testoADouble(L"1.234,5", italiano), 1234.5);
-    EXPECT_EQ(testoADouble(L"1,234.5", inglese), 1234.5);
-    EXPECT_EQ(testoADouble(L",5", italiano), 0.5);
-    EXPECT_EQ(testoADouble(L"5,", italiano), 5);
-    EXPECT_EQ(testoADouble(L"1e2", italiano), 100);
-    for (const auto* const testo : {L"", L"-", L"abc", L"1a", L".5", L"1,5,5", L"1e400"}) {
-        EXPECT_FALSE(testoADouble(testo, italiano).has_value());
     }
 }
 
@@ -137,8 +100,44 @@ TEST(Numeri, CioCheFormattaRilegge) {
     std::uniform_int_distribution<std::int64_t> interi(-999999999, 999999999);
     for (int i = 0; i < 5000; ++i) {
         const double valore = static_cast<double>(interi(caso)) / 1000;
-        ASSERT_EQ(testoADouble(formattaNumero(valore, 1, 3), italiano), valore) << "seed " << seme;
-        ASSERT_EQ(valoreIniziale(formattaNumero(valore, 1, 3, L'.')), valore) << "seed " << seme;
+        const auto letto = testoADouble(formattaNumero(valore, 1, 3), italiano.lingua);
+        ASSERT_DOUBLE_EQ(letto.value_or(HUGE_VAL), valore) << "seed " << seme;
+        ASSERT_DOUBLE_EQ(valoreIniziale(formattaNumero(valore, 1, 3, L'.')), valore)
+            << "seed " << seme;
+    }
+}
+
+// Texts put together of a number's parts, whole and broken ones, with blanks anywhere.
+TEST(Numeri, IlValoreInizialeDiTestiComposti) {
+    constexpr unsigned seme = 20050611;
+    constexpr std::array segni{L"", L"+", L"-"};
+    constexpr std::array intere{L"", L"0", L"12", L"007"};
+    constexpr std::array decimali{L"", L".", L".5", L".025"};
+    constexpr std::array esponenti{L"", L"E2", L"e-3", L"e+01", L"e", L"E-"};
+    constexpr std::array code{L"", L"x9", L",5", L"\u00A05", L"e7", L"(1)"};
+    constexpr std::wstring_view bianchi = L" \t\r\n";
+    std::mt19937 caso(seme);
+    const auto scegli = [&caso](const auto& tra) {
+        return tra[std::uniform_int_distribution<std::size_t>(0, tra.size() - 1)(caso)];
+    };
+    for (int i = 0; i < 5000; ++i) {
+        const std::wstring cifre = std::wstring(scegli(intere)) + scegli(decimali);
+        const std::wstring esponente = scegli(esponenti);
+        const bool intero = esponente.find_first_of(L"0123456789") != std::wstring::npos;
+        std::wstring numero = scegli(segni) + cifre;
+        std::wstring testo = numero + esponente;
+        if (esponente.empty() || intero) {
+            numero = testo;
+            testo += esponente.empty() ? L"x" : scegli(code);
+        }
+        for (int n = 0; n < 3; ++n) {
+            const auto dove = std::uniform_int_distribution<std::size_t>(0, testo.size())(caso);
+            testo.insert(dove, 1, scegli(bianchi));
+        }
+        const bool vuoto = cifre.find_first_of(L"0123456789") == std::wstring::npos;
+        const double atteso = vuoto ? 0 : std::wcstod(numero.c_str(), nullptr);
+        ASSERT_DOUBLE_EQ(valoreIniziale(testo), atteso)
+            << "seed " << seme << ", text " << i << ": " << testing::PrintToString(testo);
     }
 }
 

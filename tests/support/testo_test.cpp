@@ -12,12 +12,6 @@ TEST(Testo, RifilaToglieSoloGliSpazi) {
     EXPECT_EQ(rifilaDestra(L"  a  "), L"  a");
 }
 
-TEST(Testo, MaiuscoloConGliAccenti) {
-    EXPECT_EQ(maiuscolo(L"c:\\città\\è.xml"), L"C:\\CITTÀ\\È.XML");
-    EXPECT_EQ(minuscolo(L"C:\\CITTÀ\\È.XML"), L"c:\\città\\è.xml");
-    EXPECT_EQ(maiuscolo(L"straße"), L"STRAßE");
-}
-
 TEST(Testo, SostituisciDaSinistra) {
     EXPECT_EQ(sostituisci(L"aaa", L"aa", L"b"), L"ba");
     EXPECT_EQ(sostituisci(L"a\tb\t", L"\t", L"    "), L"a    b    ");

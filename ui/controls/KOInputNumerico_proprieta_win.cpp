@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-// The numeric control and its container's store.
+// The numeric control's properties, and its container's store of them.
 
 namespace {
 
@@ -50,6 +50,77 @@ Carattere fai(const FontProprieta& descrizione) {
 }
 
 } // namespace
+
+void KOInputNumerico::Massimo(double valore) {
+    regole_.Massimo(valore);
+    notifica(L"Massimo");
+}
+
+void KOInputNumerico::Minimo(double valore) {
+    regole_.Minimo(valore);
+    notifica(L"Minimo");
+}
+
+void KOInputNumerico::Incremento(double valore) {
+    regole_.Incremento(valore);
+    notifica(L"Incremento");
+}
+
+void KOInputNumerico::VisualizzaZero(bool valore) {
+    const Trattenuta trattenuta(*this);
+    regole_.VisualizzaZero(valore);
+    Valore(Valore());
+    notifica(L"VisualizzaZero");
+}
+
+void KOInputNumerico::CifreDecimali(std::int16_t valore) {
+    const Trattenuta trattenuta(*this);
+    regole_.CifreDecimali(valore);
+    Valore(Valore());
+    notifica(L"CifreDecimali");
+}
+
+void KOInputNumerico::Text(std::wstring_view /*valore*/) {
+    const Trattenuta trattenuta(*this);
+    impostaTesto({});
+    notifica(L"Text");
+}
+
+HFONT KOInputNumerico::Font() const noexcept {
+    return GetWindowFont(txtnumero_);
+}
+
+void KOInputNumerico::Font(HFONT font) {
+    SetWindowFont(txtnumero_, font, TRUE);
+    notifica(L"Font");
+}
+
+void KOInputNumerico::ForeColor(std::uint32_t colore) {
+    coloreTesto_ = colore;
+    InvalidateRect(txtnumero_, nullptr, TRUE);
+    notifica(L"ForeColor");
+}
+
+bool KOInputNumerico::Enabled() const noexcept {
+    return IsWindowEnabled(txtnumero_) != FALSE;
+}
+
+void KOInputNumerico::Enabled(bool valore) {
+    EnableWindow(txtnumero_, valore ? TRUE : FALSE);
+    EnableWindow(UPNum_, IsWindowEnabled(txtnumero_));
+    coloreSfondo_ = valore ? coloreSfondoFinestra : coloreSuperficiePulsante;
+    InvalidateRect(txtnumero_, nullptr, TRUE);
+    notifica(L"Enabled");
+}
+
+bool KOInputNumerico::Locked() const noexcept {
+    return (GetWindowStyle(txtnumero_) & ES_READONLY) != 0;
+}
+
+void KOInputNumerico::Locked(bool valore) {
+    Edit_SetReadOnly(txtnumero_, valore ? TRUE : FALSE);
+    notifica(L"Locked");
+}
 
 FontProprieta KOInputNumerico::fontAmbiente() const {
     return descrivi(GetWindowFont(GetParent(hwnd())));

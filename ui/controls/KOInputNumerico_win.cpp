@@ -102,85 +102,24 @@ double KOInputNumerico::Valore() const {
 
 void KOInputNumerico::Valore(double valore) {
     const Trattenuta trattenuta(*this);
-    impostaTesto(regole_.scrivi(valore, formatoUtente()));
-    notifica(L"Valore");
-}
-
-void KOInputNumerico::Massimo(double valore) {
-    regole_.Massimo(valore);
-    notifica(L"Massimo");
-}
-
-void KOInputNumerico::Minimo(double valore) {
-    regole_.Minimo(valore);
-    notifica(L"Minimo");
-}
-
-void KOInputNumerico::Incremento(double valore) {
-    regole_.Incremento(valore);
-    notifica(L"Incremento");
-}
-
-void KOInputNumerico::VisualizzaZero(bool valore) {
-    const Trattenuta trattenuta(*this);
-    regole_.VisualizzaZero(valore);
-    Valore(Valore());
-    notifica(L"VisualizzaZero");
-}
-
-void KOInputNumerico::CifreDecimali(std::int16_t valore) {
-    const Trattenuta trattenuta(*this);
-    regole_.CifreDecimali(valore);
-    Valore(Valore());
-    notifica(L"CifreDecimali");
-}
-
-void KOInputNumerico::Text(std::wstring_view /*valore*/) {
-    const Trattenuta trattenuta(*this);
-    impostaTesto({});
-    notifica(L"Text");
-}
-
-HFONT KOInputNumerico::Font() const noexcept {
-    return GetWindowFont(txtnumero_);
-}
-
-void KOInputNumerico::Font(HFONT font) {
-    SetWindowFont(txtnumero_, font, TRUE);
-    notifica(L"Font");
-}
-
-void KOInputNumerico::ForeColor(std::uint32_t colore) {
-    coloreTesto_ = colore;
-    InvalidateRect(txtnumero_, nullptr, TRUE);
-    notifica(L"ForeColor");
-}
-
-bool KOInputNumerico::Enabled() const noexcept {
-    return IsWindowEnabled(txtnumero_) != FALSE;
-}
-
-void KOInputNumerico::Enabled(bool valore) {
-    EnableWindow(txtnumero_, valore ? TRUE : FALSE);
-    EnableWindow(UPNum_, IsWindowEnabled(txtnumero_));
-    coloreSfondo_ = valore ? coloreSfondoFinestra : coloreSuperficiePulsante;
-    InvalidateRect(txtnumero_, nullptr, TRUE);
-    notifica(L"Enabled");
-}
-
-bool KOInputNumerico::Locked() const noexcept {
-    return (GetWindowStyle(txtnumero_) & ES_READONLY) != 0;
-}
-
-void KOInputNumerico::Locked(bool valore) {
-    Edit_SetReadOnly(txtnumero_, valore ? TRUE : FALSE);
-    notifica(L"Locked");
-}
-
-void KOInputNumerico::impostaTesto(std::wstring_view testo) {
-    if (campo_.testo(testo)) {
-        cambioValore();
+    // In use, the new number is there to be typed over.
+    if (assegna(valore) && GetFocus() == txtnumero_) {
+        selezionaTutto();
     }
+}
+
+bool KOInputNumerico::assegna(double valore) {
+    const bool cambiato = impostaTesto(regole_.scrivi(valore, formatoUtente()));
+    notifica(L"Valore");
+    return cambiato;
+}
+
+bool KOInputNumerico::impostaTesto(std::wstring_view testo) {
+    if (!campo_.testo(testo)) {
+        return false;
+    }
+    cambioValore();
+    return true;
 }
 
 void KOInputNumerico::cambioValore() {
@@ -232,7 +171,11 @@ void KOInputNumerico::lascia() {
     const Uscita uscita(uscendo_);
     const auto valore = regole_.esci(campo_.testo(), formatoUtente(), *this);
     if (valore && hwnd() != nullptr) {
-        Valore(*valore);
+        // On demand the box stays in use: the caret stands where it stood.
+        const auto [inizio, fine] = selezione();
+        if (assegna(*valore) && GetFocus() == txtnumero_) {
+            Edit_SetSel(txtnumero_, inizio, fine);
+        }
     }
 }
 
@@ -298,11 +241,16 @@ bool KOInputNumerico::tastoGiu(WPARAM tasto) {
     return true;
 }
 
-wchar_t KOInputNumerico::filtra(wchar_t tasto) const {
+std::pair<DWORD, DWORD> KOInputNumerico::selezione() const noexcept {
     DWORD inizio = 0;
     DWORD fine = 0;
     SendMessageW(txtnumero_, EM_GETSEL, reinterpret_cast<WPARAM>(&inizio),
                  reinterpret_cast<LPARAM>(&fine));
+    return {inizio, fine};
+}
+
+wchar_t KOInputNumerico::filtra(wchar_t tasto) const {
+    const auto [inizio, fine] = selezione();
     return regole_.filtra(tasto, campo_.testo(), fine - inizio,
                           {koUtilita::GetSeparatoreDecimale(), koUtilita::GetSeparatoreMigliaia()},
                           formatoUtente());

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 // The input control for one number: the text box `txtnumero` with the spin button `UPNum` at its
 // right. A window class that dialog templates name; the focus is the text box's. Its container
@@ -24,7 +25,7 @@ public:
     void osserva(EventiNumerico* eventi) noexcept { eventi_ = eventi; }
 
     // The number in the box; 0 when there is none. Writing raises 380 outside the limits and
-    // changes nothing then.
+    // changes nothing then; a text that changed under the user's hands is selected.
     [[nodiscard]] double Valore() const;
     void Valore(double valore);
     // Raises 380 unless the maximum stays above the minimum. The value stays as it is.
@@ -80,7 +81,10 @@ private:
     void disponi() noexcept;
     void aggiornaEtichetta();
     void selezionaTutto() noexcept;
-    void impostaTesto(std::wstring_view testo);
+    // These two give whether the text changed.
+    bool assegna(double valore);
+    bool impostaTesto(std::wstring_view testo);
+    [[nodiscard]] std::pair<DWORD, DWORD> selezione() const noexcept;
     void cambioValore();
     void notifica(std::wstring_view nome);
     void scatta(Verso verso);

@@ -1,6 +1,7 @@
 #include "ui/controls/aspettoGriglia_win.h"
 
 #include "support/errori_win.h"
+#include "ui/controls/contrasto.h"
 
 #include <algorithm>
 #include <cmath>
@@ -51,6 +52,22 @@ void scrivi(HDC dc, HFONT carattere, const std::wstring& testo, RECT posto) noex
               DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
+// The colour that tells the selected row from the others in any scheme: in some the fill of a
+// selection without the focus is the window's own, in some that of one with it hardly differs.
+int coloreSegno() noexcept {
+    constexpr double bastante = 3;
+    return contrasto(GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_WINDOW)) >= bastante
+               ? COLOR_HIGHLIGHT
+               : COLOR_WINDOWTEXT;
+}
+
+void incornicia(HDC dc, RECT r, int spessore, int colore) noexcept {
+    for (int i = 0; i < spessore; ++i) {
+        FrameRect(dc, &r, GetSysColorBrush(colore));
+        InflateRect(&r, -1, -1);
+    }
+}
+
 } // namespace
 
 AspettoGriglia::AspettoGriglia() {
@@ -67,6 +84,7 @@ AspettoGriglia::AspettoGriglia() {
     altezzaTesto_ =
         std::max(altezza(schermo.get(), normale_.get()), altezza(schermo.get(), grassetto_.get()));
     margine_ = twipsInPixel(60, LOGPIXELSY);
+    cornice_ = twipsInPixel(30, LOGPIXELSY);
     // Two lines, the margins, and the line that ends the row.
     altezzaRiga_ = 2 * altezzaTesto_ + 2 * margine_ + 1;
 }
@@ -105,10 +123,13 @@ void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
     const auto contenuto = righe.contenuto(riga, massimo);
     scrivi(dc, grassetto_.get(), contenuto.titolo, riquadro(posto.contenuto, 0));
     scrivi(dc, normale_.get(), contenuto.descrizione, riquadro(posto.contenuto, 1));
-    if (posto.selezionata && posto.fuoco) {
+    if (posto.selezionata) {
         RECT cornice = tutta;
         --cornice.bottom;
-        DrawFocusRect(dc, &cornice);
+        incornicia(dc, cornice, cornice_, coloreSegno());
+        if (posto.fuoco) {
+            DrawFocusRect(dc, &cornice);
+        }
     }
 }
 

@@ -6,7 +6,7 @@
 #include <windows.h>
 
 // How the grid's rows look: the user's message font, the title in bold over the description, system
-// colours only. Measures in pixels.
+// colours only, a frame around the selected row. Measures in pixels.
 class AspettoGriglia {
 public:
     // With the fonts of now.
@@ -29,6 +29,7 @@ private:
     Carattere grassetto_;
     int altezzaTesto_ = 0;
     int margine_ = 0;
+    int cornice_ = 0;
     int altezzaRiga_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/controls/dialogo_win.h"
 
 #include "support/errori_win.h"
+#include "support/tastiTenuti_win.h"
 
 #include <exception>
 
@@ -19,6 +20,7 @@ Dialogo::~Dialogo() {
 
 INT_PTR Dialogo::mostraModale(int modello, HWND proprietaria) {
     Nascita nascita{this, nullptr};
+    const SenzaRipetizioni guardia;
     modale_ = true;
     const INT_PTR esito =
         DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(modello), proprietaria,

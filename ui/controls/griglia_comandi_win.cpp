@@ -172,6 +172,7 @@ void Griglia::premi(POINT punto) {
     }
     SetCapture(lista_);
     premuto_ = true;
+    partenza_ = {riga, rigaInCima()};
     pressione_ = punto;
     ultimo_ = punto;
     POINT nella = punto;
@@ -249,10 +250,26 @@ void Griglia::menuDaTastiera() {
     osservatore_.grigliaMenu(sulloSchermo(lista_, punto), rigaCorrente_);
 }
 
+int Griglia::rigaUnaPaginaSotto() const noexcept {
+    const int intere = std::max<int>(1, ListView_GetCountPerPage(lista_));
+    const int fondo = rigaInCima() + intere - 1;
+    return rigaCorrente_ < fondo ? fondo : rigaCorrente_ + std::max(1, intere - 1);
+}
+
+// Not the list's own keys: these would go down to the rows without items.
+void Griglia::vaiGiu(int riga) {
+    if (riga >= 1) {
+        ListView_EnsureVisible(lista_, riga - 1, FALSE);
+        seleziona(riga);
+    }
+}
+
 LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     if (premuto_) {
         if (w == VK_ESCAPE) {
             abbandona();
+            rigaInCima(partenza_.cima);
+            seleziona(partenza_.riga);
         }
         return 0;
     }
@@ -267,12 +284,16 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
             return 0;
         }
         break;
+    case VK_END:
+        vaiGiu(righe_.ultima());
+        return 0;
+    case VK_NEXT:
+        vaiGiu(std::min(righe_.ultima(), rigaUnaPaginaSotto()));
+        return 0;
     case VK_UP:
     case VK_DOWN:
     case VK_PRIOR:
-    case VK_NEXT:
     case VK_HOME:
-    case VK_END:
         muove = true;
         break;
     default:

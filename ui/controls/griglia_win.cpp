@@ -99,6 +99,7 @@ void Griglia::disponi() {
     if (std::exchange(larghezza_, r.right) != r.right) {
         applicaLarghezze();
     }
+    RedrawWindow(lista_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
 LRESULT Griglia::notifica(NMHDR& avviso) {
@@ -308,6 +309,7 @@ AreaRighe Griglia::area() const noexcept {
 void Griglia::aggiornaAspetto() {
     aspetto_ = AspettoGriglia();
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), TRUE);
+    ListView_SetBkColor(lista_, GetSysColor(COLOR_WINDOW));
     // A list view measures its rows when its size changes, or so it believes.
     RECT r{};
     GetWindowRect(lista_, &r);

@@ -121,6 +121,9 @@ private:
     void lascia();
     void menuDaTastiera();
     LRESULT tasto(UINT codice, WPARAM w, LPARAM l);
+    // Where Page Down goes, were there no end: the last row wholly in sight, or a page below it.
+    [[nodiscard]] int rigaUnaPaginaSotto() const noexcept;
+    void vaiGiu(int riga);
     // The row whose focus or selection the list changed by itself becomes the current one.
     void allinea();
     // The current row is no longer selected. A list view that selects a row while another is
@@ -156,6 +159,11 @@ private:
     bool allineando_ = false;
     // The left button is down since a press on a row: the current row follows the pointer.
     bool premuto_ = false;
+    // The row pressed and the top row then.
+    struct Partenza {
+        int riga = 0;
+        int cima = 1;
+    } partenza_;
     POINT pressione_{};
     POINT ultimo_{};
 };

@@ -39,8 +39,11 @@ void RigheGriglia::completa() noexcept {
 }
 
 int RigheGriglia::elemento(int riga) const noexcept {
-    const int viste = std::min<int>(elementi_, tabella_.conteggio());
-    return riga >= 1 && riga <= viste ? riga - 1 : -1;
+    return riga >= 1 && riga <= ultima() ? riga - 1 : -1;
+}
+
+int RigheGriglia::ultima() const noexcept {
+    return std::min<int>(elementi_, tabella_.conteggio());
 }
 
 std::wstring RigheGriglia::cella(int riga, int colonna) const {
@@ -79,18 +82,18 @@ RigheGriglia::Righe RigheGriglia::contenuto(int riga, std::size_t massimo) const
 }
 
 std::wstring RigheGriglia::dataOra(int elemento) const {
-    const std::wstring& testo = campo(CampoElemento::Data, elemento);
+    const std::wstring_view testo = campo(CampoElemento::Data, elemento);
     if (utc_) {
         try {
             return formattaDataOra(utc_->ToDate(testo), formato_);
         } catch (const Errore&) {
-            return testo;
+            return std::wstring(testo);
         }
     }
-    return testo;
+    return std::wstring(testo);
 }
 
-const std::wstring& RigheGriglia::campo(CampoElemento campo, int elemento) const {
+std::wstring_view RigheGriglia::campo(CampoElemento campo, int elemento) const {
     return tabella_(campo, elemento);
 }
 

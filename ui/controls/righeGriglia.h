@@ -38,6 +38,8 @@ public:
     // The item of a row; -1 for the header, a filler row, a row outside the grid and a row whose
     // item the table has no more.
     [[nodiscard]] int elemento(int riga) const noexcept;
+    // The last row with an item; 0 when there is none.
+    [[nodiscard]] int ultima() const noexcept;
 
     // What a row shows of its item in two lines, each of at most about `massimo` characters.
     struct Righe {
@@ -48,7 +50,7 @@ public:
 
 private:
     [[nodiscard]] std::wstring dataOra(int elemento) const;
-    [[nodiscard]] const std::wstring& campo(CampoElemento campo, int elemento) const;
+    [[nodiscard]] std::wstring_view campo(CampoElemento campo, int elemento) const;
 
     const TabellaElementi& tabella_;
     std::optional<ClsUTC> utc_;

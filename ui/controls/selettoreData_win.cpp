@@ -33,6 +33,14 @@ bool SelettoreData::valore(DataOra data) {
     return ultimo_ != prima;
 }
 
+void SelettoreData::conferma() const noexcept {
+    // One part on and back: the control takes in what was typed when it leaves a part.
+    if (controllo_ != nullptr && GetFocus() == controllo_) {
+        SendMessageW(controllo_, WM_KEYDOWN, VK_LEFT, 0);
+        SendMessageW(controllo_, WM_KEYDOWN, VK_RIGHT, 0);
+    }
+}
+
 bool SelettoreData::cambiato() {
     const DataOra adesso = valore();
     if (adesso == ultimo_) {

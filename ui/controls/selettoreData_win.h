@@ -20,6 +20,10 @@ public:
     // value changed.
     bool valore(DataOra data);
 
+    // Takes in the digits typed so far, which the control holds back until its field is left. The
+    // focus and the field stay; nothing without the focus.
+    void conferma() const noexcept;
+
     // For DTN_DATETIMECHANGE: whether the value differs from the last one seen.
     [[nodiscard]] bool cambiato();
 

@@ -45,7 +45,7 @@ void ValoreNumerico::limiti(double massimo, double minimo) noexcept {
 }
 
 double ValoreNumerico::leggi(std::wstring_view testo, const FormatoLocale& formato) {
-    return testoADouble(rifila(testo), formato).value_or(0);
+    return testoADouble(rifila(testo), formato.lingua).value_or(0);
 }
 
 std::wstring ValoreNumerico::scrivi(double valore, const FormatoLocale& formato) const {

@@ -99,6 +99,8 @@ bool FrmEditFeed::SalvaDati() {
             elemento_.sDescription(std::wstring(rifila(txtDescrizione_.testo())));
             // Stored as typed, blanks and all.
             elemento_.sAuthor(txtAutore_.testo());
+            txtData_.conferma();
+            txtOrario_.conferma();
             dataOra_ = combina(txtData_, txtOrario_);
             const ClsUTC utc(orologio_.adesso(), formatoUtente());
             elemento_.sPubDate(utc.GetDataUtc(dataOra_, true));

@@ -29,6 +29,27 @@ std::optional<std::uint64_t> numero(std::string_view byte) noexcept {
     return risultato;
 }
 
+// A text with its %NAMES% replaced by their values; empty when that fails.
+std::wstring espandi(const std::wstring& testo) {
+    std::wstring espanso(ExpandEnvironmentStringsW(testo.c_str(), nullptr, 0), L'\0');
+    const DWORD scritti = ExpandEnvironmentStringsW(testo.c_str(), espanso.data(),
+                                                    static_cast<DWORD>(espanso.size()));
+    // The NUL at the end counts.
+    espanso.resize(scritti == 0 || scritti > espanso.size() ? 0 : scritti - 1);
+    return espanso;
+}
+
+std::wstring testoDi(DWORD tipo, std::string_view byte) {
+    switch (tipo) {
+    case REG_SZ:
+        return daAnsi(byte);
+    case REG_EXPAND_SZ:
+        return espandi(daAnsi(byte));
+    default:
+        return {};
+    }
+}
+
 std::optional<std::wstring> trovaProgramma() {
     std::wstring valore;
     if (GetKeyValue(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", L"PATH",
@@ -99,7 +120,7 @@ bool GetKeyValue(HKEY radice, const std::wstring& percorso, const std::wstring& 
         }
         valore = std::to_wstring(*risultato);
     } else {
-        valore = tipo == REG_SZ ? daAnsi(letto) : std::wstring();
+        valore = testoDi(tipo, letto);
     }
     return true;
 }

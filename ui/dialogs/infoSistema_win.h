@@ -10,7 +10,8 @@
 
 // Reads one registry value as text; false, with `valore` untouched, when the key or the value is
 // missing or the value is longer than 1024 characters of the ANSI code page.
-// A string is given as it is, without the one NUL at its end. A 32-bit number is given in decimal,
+// A string is given as it is, without the one NUL at its end; one that names environment variables
+// (REG_EXPAND_SZ) has their values in their places. A 32-bit number is given in decimal,
 // but not always the number that is stored: its bytes are put one after the other in hexadecimal,
 // each without its leading zero, so that 0x00000102 reads as 0x12 and gives "18". A value of size
 // zero and one of any other type give the empty text.

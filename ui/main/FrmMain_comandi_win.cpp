@@ -5,22 +5,36 @@
 #include "support/ClsSizerImg.h"
 #include "support/immagine_win.h"
 #include "support/koUtilita.h"
-#include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
+
+namespace {
+
+// Sets a flag for its life.
+class Alzata {
+public:
+    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno_ = true; }
+    Alzata(const Alzata&) = delete;
+    Alzata& operator=(const Alzata&) = delete;
+    ~Alzata() { segno_ = false; }
+
+private:
+    bool& segno_;
+};
+
+} // namespace
 
 template <class Azione>
 void FrmMain::occupando(Azione azione) {
     if (occupata_) {
         return;
     }
-    occupata_ = true;
+    const Alzata occupata(occupata_);
     // The boxes of a command belong to the active window. A minimised program, or one behind
     // another that is asked about the end of the session, has none.
     if (GetActiveWindow() == nullptr) {
         SetActiveWindow(hwnd());
     }
     azione();
-    occupata_ = false;
 }
 
 bool FrmMain::Form_QueryUnload() {
@@ -29,9 +43,9 @@ bool FrmMain::Form_QueryUnload() {
     occupando([&] {
         protetto(
             [&] {
-                KOInputNumerico::lasciaQuelloColFuoco();
+                campi_.conferma();
                 griglia_.abbandona();
-                chiudere = documento_.ChiediSalvataggio();
+                chiudere = ChiediSalvataggio();
             },
             [&] { MostraErrore(); });
     });
@@ -46,8 +60,9 @@ void FrmMain::esegui(int id) {
     occupando([&] {
         protetto(
             [&] {
-                // A command does not move the focus: what it saves must be within the limits.
-                KOInputNumerico::lasciaQuelloColFuoco();
+                // A command does not move the focus: what it saves is what the fields show,
+                // within their limits.
+                campi_.conferma();
                 griglia_.abbandona();
                 comando(id);
             },
@@ -58,16 +73,16 @@ void FrmMain::esegui(int id) {
 void FrmMain::comando(int id) {
     switch (id) {
     case mnNuovo:
-        documento_.mnNuovo_Click();
+        comandiDocumento_.mnNuovo_Click();
         break;
     case mnApri:
-        documento_.Apri(L"");
+        Apri(L"");
         break;
     case mnsalva:
-        documento_.Salva(false);
+        Salva(false);
         break;
     case mnSalvaCon:
-        documento_.Salva(true);
+        Salva(true);
         break;
     case mnsalvahtm:
         pagina_.EsportaHTML();
@@ -85,10 +100,16 @@ void FrmMain::comando(int id) {
         pagina_.mnvisualhtml_Click();
         break;
     case spostaSu:
-        spostaSelezionato(-1);
+        spostaSelezionato(ElementoSelezionato() - 1);
         break;
     case spostaGiu:
-        spostaSelezionato(1);
+        spostaSelezionato(ElementoSelezionato() + 1);
+        break;
+    case spostaInCima:
+        spostaSelezionato(0);
+        break;
+    case spostaInFondo:
+        spostaSelezionato(documento_.elementi().conteggio() - 1);
         break;
     case mnAggiorna:
         RiempiGriglia(false);
@@ -98,7 +119,7 @@ void FrmMain::comando(int id) {
             // A copy: the list is read anew while the file opens.
             const std::wstring percorso =
                 recenti_.voci().at(static_cast<std::size_t>(id - mnrec - 1));
-            documento_.Apri(percorso);
+            Apri(percorso);
         } else {
             aiuto_.esegui(static_cast<Comando>(id), hwnd());
         }
@@ -144,26 +165,16 @@ void FrmMain::grigliaRigaCambiata(int riga) {
 void FrmMain::grigliaSposta(int da, int a) {
     // A command at work knows its item by the index: nothing moves meanwhile.
     occupando([&] {
-        protetto(
-            [&] {
-                comandiElementi_.SpostaElemento(da, a);
-                RiempiGriglia(false);
-            },
-            [&] { MostraErrore(); });
+        protetto([&] { comandiElementi_.SpostaElemento(da, a, Causa::Trascinamento); },
+                 [&] { MostraErrore(); });
     });
 }
 
-void FrmMain::spostaSelezionato(int passo) {
+void FrmMain::spostaSelezionato(int a) {
     const int da = ElementoSelezionato();
-    const int a = da + passo;
-    if (da < 0 || a < 0 || a >= elementi_.conteggio()) {
-        return;
+    if (da >= 0 && a != da && a >= 0 && a < documento_.elementi().conteggio()) {
+        comandiElementi_.SpostaElemento(da, a, Causa::Comando);
     }
-    const int cima = griglia_.rigaInCima();
-    comandiElementi_.SpostaElemento(da, a);
-    RiempiGriglia(false);
-    griglia_.rigaInCima(cima);
-    SelezionaRiga(rigaDi(a));
 }
 
 void FrmMain::grigliaMenu(POINT punto, int riga) {

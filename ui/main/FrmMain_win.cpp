@@ -22,9 +22,9 @@ namespace {
 
 constexpr const wchar_t* classe = L"OstrelleFrmMain";
 
-// The size the window opens with, and its parts, in pixels at 96 dpi.
-constexpr int larghezzaIniziale = 1000;
-constexpr int altezzaIniziale = 700;
+// The size the window opens with, the least one, and its parts, in pixels at 96 dpi.
+constexpr SIZE misuraIniziale{1000, 700};
+constexpr SIZE misuraMinima{640, 480};
 constexpr int larghezzaPicCmd = 124;
 constexpr int altezzaPulsante = 26;
 constexpr int larghezzaPannelloDimensioni = 110;
@@ -43,6 +43,19 @@ Dpi dpiDi(HWND finestra) noexcept {
         ReleaseDC(finestra, dc);
     }
     return dpi;
+}
+
+RECT areaDiLavoro() noexcept {
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+// Pixels at 96 dpi as this system's, no more than there is room for.
+POINT scalata(SIZE misura, const RECT& area) noexcept {
+    const Dpi dpi = dpiDi(nullptr);
+    return {std::min<LONG>(MulDiv(misura.cx, dpi.x, 96), area.right - area.left),
+            std::min<LONG>(MulDiv(misura.cy, dpi.y, 96), area.bottom - area.top)};
 }
 
 // Enter presses the button that has the focus; a window that is no dialog has to see to it.
@@ -75,14 +88,16 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
     return false;
 }
 
-FrmMain::FrmMain(const Servizi& servizi)
-    : servizi_(servizi), recenti_(servizi.impostazioni), campi_(*this), griglia_(elementi_, *this),
-      ultimaData_(servizi.orologio.adesso().locale),
-      documento_(servizi, *this, stato_, campi_, elementi_, recenti_),
-      comandiElementi_(servizi.messaggi, servizi.editor, *this, elementi_, ultimaData_),
-      pagina_(servizi, *this, campi_, elementi_), aiuto_(servizi.messaggi),
+FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
+    : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
+      campi_(*this, documento), griglia_(documento.elementi(), *this), vista_(documento, griglia_),
+      comandiDocumento_(servizi, *this, documento, campi_, recenti_),
+      comandiElementi_(servizi.messaggi, servizi.editor, griglia_, documento),
+      pagina_(servizi, *this, documento, campi_, griglia_), aiuto_(servizi.messaggi),
       acceleratori_(creaAcceleratori(scorciatoie())),
-      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {}
+      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {
+    documento.ultimaData(servizi.orologio.adesso().locale);
+}
 
 void FrmMain::apri(int comeMostrare) {
     WNDCLASSEXW descrizione{};
@@ -93,14 +108,10 @@ void FrmMain::apri(int comeMostrare) {
     registra(descrizione);
 
     ManigliaMenu menu = creaBarraMenu();
-    const Dpi dpi = dpiDi(nullptr);
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const int larghezza =
-        std::min<int>(MulDiv(larghezzaIniziale, dpi.x, 96), area.right - area.left);
-    const int altezza = std::min<int>(MulDiv(altezzaIniziale, dpi.y, 96), area.bottom - area.top);
-    const int sinistra = area.left + (area.right - area.left - larghezza) / 2;
-    const int alto = area.top + (area.bottom - area.top - altezza) / 2;
+    const RECT area = areaDiLavoro();
+    const auto [larghezza, altezza] = scalata(misuraIniziale, area);
+    const LONG sinistra = area.left + (area.right - area.left - larghezza) / 2;
+    const LONG alto = area.top + (area.bottom - area.top - altezza) / 2;
     crea(classe, std::wstring(prodotto::titolo).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
          WS_EX_CONTROLPARENT, RECT{sinistra, alto, larghezza, altezza}, nullptr, menu.get());
     static_cast<void>(menu.cedi()); // the window's from here on
@@ -127,11 +138,21 @@ bool FrmMain::anticipa(MSG& msg) {
         // While a row is dragged the keys are the grid's.
         return false;
     }
-    return premeConInvio(msg) ||
-           (GetFocus() == griglia_.lista() &&
-            TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) != 0) ||
+    return premeConInvio(msg) || acceleraGriglia(msg) ||
            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
            IsDialogMessageW(hwnd(), &msg) != FALSE;
+}
+
+bool FrmMain::acceleraGriglia(MSG& msg) {
+    if (GetFocus() != griglia_.lista() ||
+        TranslateAcceleratorW(hwnd(), acceleratoriGriglia_.get(), &msg) == 0) {
+        return false;
+    }
+    if (msg.message == WM_SYSKEYDOWN) {
+        // Windows opens the menu when Alt goes up after no other key, as far as it has seen.
+        DefWindowProcW(msg.hwnd, msg.message, msg.wParam, msg.lParam);
+    }
+    return true;
 }
 
 LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
@@ -147,8 +168,14 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         SendMessageW(StatusBar1_, WM_SIZE, w, l);
         DisponiFinestra();
         return 0;
+    case WM_GETMINMAXINFO:
+        reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = scalata(misuraMinima, areaDiLavoro());
+        return 0;
     case WM_COMMAND:
-        esegui(LOWORD(w));
+        // Enter and Esc in a field come as a dialog's answers; this window has no such commands.
+        if (LOWORD(w) != IDOK && LOWORD(w) != IDCANCEL) {
+            esegui(LOWORD(w));
+        }
         return 0;
     case WM_NOTIFY:
         if (auto* const avviso = reinterpret_cast<NMHDR*>(l); avviso->code == TTN_GETDISPINFOW) {
@@ -246,7 +273,7 @@ void FrmMain::Form_Unload() noexcept {
 }
 
 void FrmMain::ImpostaTitolo(std::wstring_view nome) {
-    SetWindowTextW(hwnd(), stato_.ImpostaTitolo(nome).c_str());
+    SetWindowTextW(hwnd(), documento_.ImpostaTitolo(nome).c_str());
 }
 
 void FrmMain::ImpostaStato(std::wstring_view testo) {
@@ -256,11 +283,10 @@ void FrmMain::ImpostaStato(std::wstring_view testo) {
 
 void FrmMain::NuovoDocumento() {
     campi_.Svuota(servizi_.orologio.adesso().locale);
-    elementi_.svuota();
-    ImpostaTitolo(StatoDocumento::nuovoDocumento);
-    RiempiGriglia(true);
+    ImpostaTitolo(Documento::nuovoDocumento);
+    documento_.sostituisci({});
     // Last: the changes made above are not the user's.
-    stato_.modificato(false);
+    documento_.modificato(false);
 }
 
 void FrmMain::RiempiGriglia(bool soloIntestazioni) {
@@ -290,7 +316,9 @@ void FrmMain::DisponiFinestra() {
     RECT interno{};
     RECT stato{};
     RECT esterno{};
+    RECT griglia{};
     GetClientRect(hwnd(), &interno);
+    GetClientRect(griglia_.hwnd(), &griglia);
     GetClientRect(StatusBar1_, &stato);
     GetWindowRect(hwnd(), &esterno);
 
@@ -298,6 +326,7 @@ void FrmMain::DisponiFinestra() {
     misure.larghezzaInterna = interno.right * twipsX;
     misure.altezzaInterna = interno.bottom * twipsY;
     misure.altezzaStato = stato.bottom * twipsY;
+    misure.altezzaGriglia = griglia.bottom * twipsY;
     misure.altoDati = Toolbar1_.disponi() * twipsY + margineTwips;
     misure.larghezzaPicCmd = MulDiv(larghezzaPicCmd, dpi.x, 96) * twipsX;
     campi_.misura(misure, twipsX, twipsY);
@@ -308,7 +337,7 @@ void FrmMain::DisponiFinestra() {
         if (r) {
             SetWindowPos(controllo, nullptr, aPixel(r->sinistra, twipsX), aPixel(r->alto, twipsY),
                          aPixel(r->larghezza, twipsX), aPixel(r->altezza, twipsY),
-                         SWP_NOZORDER | SWP_NOACTIVATE);
+                         SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
         }
     };
     sposta(griglia_.hwnd(), disposizione.griglia);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/tabellaElementi.h"
+#include "document/documento.h"
 #include "support/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
@@ -12,29 +12,26 @@
 #include "ui/main/comandiDocumento_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/comandiPagina_win.h"
+#include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/menu_win.h"
 #include "ui/main/recenti.h"
 #include "ui/main/servizi.h"
-#include "ui/main/statoDocumento.h"
 #include "ui/main/strisciaComandi_win.h"
+#include "ui/main/vistaElementi_win.h"
 
 #include <string>
 #include <string_view>
 
-// The program's only main window and the owner of the document. Composes what the fields, the grid
-// and the commands do; holds no rule of theirs.
-class FrmMain final : public Finestra,
-                      private ProprietarioCampi,
-                      private FinestraDocumento,
-                      private FinestraElementi,
-                      private FinestraPagina,
-                      private OsservatoreGriglia {
+// The program's only main window. Composes what the fields, the grid and the commands do; holds no
+// rule of theirs.
+class FrmMain final : public Finestra, private FinestraPrincipale, private OsservatoreGriglia {
 public:
     // False, after a message, when the system has no XML parser: the program then ends without
     // ever showing a window.
     [[nodiscard]] static bool Form_Initialize(Messaggi& messaggi);
 
-    explicit FrmMain(const Servizi& servizi);
+    // All outlive the window. The document's last item date becomes now.
+    FrmMain(const Servizi& servizi, Documento& documento);
     FrmMain(const FrmMain&) = delete;
     FrmMain& operator=(const FrmMain&) = delete;
     ~FrmMain() override { distruggi(); }
@@ -51,34 +48,33 @@ public:
 
     void ImpostaTitolo(std::wstring_view nome) override;
     void ImpostaStato(std::wstring_view testo);
-    void ImpostaModificato() noexcept override { stato_.modificato(true); }
+    void ImpostaModificato() noexcept { documento_.modificato(true); }
     void NuovoDocumento() override;
-    void RiempiGriglia(bool soloIntestazioni) override;
-    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
-    [[nodiscard]] int ElementoSelezionato() const override {
+    void RiempiGriglia(bool soloIntestazioni);
+    // A row of the grid: row r shows item r - 1.
+    void SelezionaRiga(int riga) { GUI::SelezionaRiga(griglia_, riga); }
+    // The item of the grid's current row, -1 when the row shows none.
+    [[nodiscard]] int ElementoSelezionato() const noexcept {
         return griglia_.ElementoSelezionato();
     }
     void CaricaRecenti() override;
     void MostraErrore() override;
 
+    // See ComandiDocumento.
+    [[nodiscard]] bool ChiediSalvataggio() { return comandiDocumento_.ChiediSalvataggio(); }
+    bool Apri(const std::wstring& percorso) { return comandiDocumento_.Apri(percorso); }
+    bool Salva(bool conNome) { return comandiDocumento_.Salva(conNome); }
+
     // Runs a command as menu, toolbar and keys do. Ignored while another one is at work: a message
     // box or a file dialog runs messages of its own.
     void esegui(int comando);
-
-    [[nodiscard]] StatoDocumento& stato() noexcept { return stato_; }
-    [[nodiscard]] CampiCanale& campi() noexcept { return campi_; }
-    [[nodiscard]] TabellaElementi& elementi() noexcept { return elementi_; }
-    [[nodiscard]] Griglia& griglia() noexcept { return griglia_; }
-    [[nodiscard]] ComandiDocumento& documento() noexcept { return documento_; }
-    // The date a new item is proposed with.
-    [[nodiscard]] DataOra ultimaData() const noexcept { return ultimaData_; }
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
     void onEccezione() noexcept override { riportaErrore(); }
     void riportaErrore() noexcept override;
     void cmdGetSize_Click() override;
-    [[nodiscard]] HWND finestra() const noexcept override { return hwnd(); }
+    [[nodiscard]] HWND proprietaria() const noexcept override { return hwnd(); }
 
     void grigliaDoppioClic(int riga) override;
     void grigliaRigaCambiata(int riga) override;
@@ -91,30 +87,31 @@ private:
     [[nodiscard]] bool Form_QueryUnload();
     void Form_Unload() noexcept;
 
-    // Runs an action that may show a dialog; nothing while another one is at work. The action
-    // raises nothing.
+    // Runs an action that may show a dialog; nothing while another one is at work. An action raises
+    // only what befell the report of its failure.
     template <class Azione>
     void occupando(Azione azione);
 
     void creaControlli();
+    // Runs the command of a key of the grid, when it is one and the grid has the focus.
+    [[nodiscard]] bool acceleraGriglia(MSG& messaggio);
     void comando(int id);
     // What a command of an item says where the mouse found none, whichever row is the current one.
     void avvisaNessunaRiga();
-    // A drag by one row, with the keyboard.
-    void spostaSelezionato(int passo);
+    // The selected item goes to index `a`, where the table has one; counts as a modification.
+    void spostaSelezionato(int a);
     void DisponiFinestra();
 
     Servizi servizi_;
-    StatoDocumento stato_;
-    TabellaElementi elementi_;
+    Documento& documento_;
     ElencoRecenti recenti_;
     CampiCanale campi_;
     Griglia griglia_;
     Sfondo sfondo_;
     StrisciaComandi striscia_;
     BarraStrumenti Toolbar1_;
-    DataOra ultimaData_;
-    ComandiDocumento documento_;
+    VistaElementi vista_;
+    ComandiDocumento comandiDocumento_;
     ComandiElementi comandiElementi_;
     ComandiPagina pagina_;
     ComandiAiuto aiuto_;

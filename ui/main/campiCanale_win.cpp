@@ -12,11 +12,6 @@
 
 namespace {
 
-// In the order of CampoCanale.
-constexpr std::array<int, CampiCanale::numeroTesti> controlliTesto{
-    IDC_TXTTITOLO,    IDC_TXTLINKHOME, IDC_TXTDESCRIZIONE, IDC_CBOLINGUA, IDC_TXTCOPYRIGHT,
-    IDC_TXTWEBMASTER, IDC_TXTLOGO,     IDC_TXTURL,         IDC_TXTLINKIMG};
-
 constexpr std::array<int, 3> campiImmagine{IDC_TXTLOGO, IDC_TXTURL, IDC_TXTLINKIMG};
 
 constexpr double massimoPixel = 10000;
@@ -33,8 +28,10 @@ void ignorando(Azione azione) noexcept {
 } // namespace
 
 bool CampiCanale::inizializza() {
-    for (std::size_t i = 0; i < numeroTesti; ++i) {
-        testi_[i] = CampoTesto(controllo(controlliTesto[i]));
+    for (std::size_t i = 0; i < testi_.size(); ++i) {
+        if (controlliCanale[i].testo()) {
+            testi_[i] = CampoTesto(controllo(controlliCanale[i].id));
+        }
     }
     // The user may type any other code.
     ComboBox_AddString(controllo(IDC_CBOLINGUA), L"it");
@@ -72,18 +69,18 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
         const int id = LOWORD(wParam);
         const UINT codice = HIWORD(wParam);
         if (id == IDC_CMDGETSIZE && codice == BN_CLICKED) {
-            proprietario_.cmdGetSize_Click();
+            finestra_.cmdGetSize_Click();
             return TRUE;
         }
-        const auto* const campo = std::ranges::find(controlliTesto, id);
-        if (campo == controlliTesto.end()) {
+        const std::size_t quale = posto(id);
+        if (quale == testi_.size()) {
             return FALSE;
         }
-        CampoTesto& testo = testi_[static_cast<std::size_t>(campo - controlliTesto.begin())];
+        CampoTesto& testo = testi_[quale];
         const bool combo = id == IDC_CBOLINGUA;
         if ((codice == (combo ? CBN_EDITCHANGE : EN_CHANGE) && testo.cambiato()) ||
             (combo && codice == CBN_SELCHANGE && testo.sceltoDiverso())) {
-            proprietario_.ImpostaModificato();
+            documento_.modificato(true);
         }
         return TRUE;
     }
@@ -92,7 +89,7 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
         if (notifica->code == DTN_DATETIMECHANGE) {
             SelettoreData& selettore = notifica->idFrom == IDC_TXTDATA ? txtData_ : txtOrario_;
             if (selettore.cambiato()) {
-                proprietario_.ImpostaModificato();
+                documento_.modificato(true);
             }
             return TRUE;
         }
@@ -101,16 +98,21 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
 }
 
 void CampiCanale::CambioValore(KOInputNumerico& /*controllo*/, double /*valore*/) {
-    proprietario_.ImpostaModificato();
+    documento_.modificato(true);
 }
 
-std::wstring CampiCanale::testo(CampoCanale campo) const {
-    return testi_[static_cast<std::size_t>(campo)].testo();
+std::size_t CampiCanale::posto(int id) noexcept {
+    const auto* const trovato = std::ranges::find(controlliCanale, id, &ControlloCanale::id);
+    return static_cast<std::size_t>(trovato - controlliCanale.begin());
 }
 
-void CampiCanale::testo(CampoCanale campo, std::wstring_view valore) {
-    if (testi_[static_cast<std::size_t>(campo)].testo(valore)) {
-        proprietario_.ImpostaModificato();
+std::wstring CampiCanale::testo(int id) const {
+    return testi_[posto(id)].testo();
+}
+
+void CampiCanale::testo(int id, std::wstring_view valore) {
+    if (testi_[posto(id)].testo(valore)) {
+        documento_.modificato(true);
     }
 }
 
@@ -121,9 +123,15 @@ DataOra CampiCanale::dataOra() const {
 void CampiCanale::dataOra(DataOra valore) {
     for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
         if (selettore->valore(valore)) {
-            proprietario_.ImpostaModificato();
+            documento_.modificato(true);
         }
     }
+}
+
+void CampiCanale::conferma() {
+    KOInputNumerico::lasciaQuelloColFuoco();
+    txtData_.conferma();
+    txtOrario_.conferma();
 }
 
 KOInputNumerico& CampiCanale::txtLarghezza() const {
@@ -143,19 +151,22 @@ void CampiCanale::dimensioni(std::int32_t larghezza, std::int32_t altezza) {
 }
 
 bool CampiCanale::vuoti() const {
-    return std::ranges::all_of(
-        testi_, [](const CampoTesto& campo) { return rifila(campo.testo()).empty(); });
+    return std::ranges::all_of(controlliCanale, [this](const ControlloCanale& controllo) {
+        return !controllo.testo() || rifila(testo(controllo.id)).empty();
+    });
 }
 
 void CampiCanale::Svuota(DataOra adesso) noexcept {
-    for (std::size_t i = 0; i < numeroTesti; ++i) {
-        ignorando([&] { testo(static_cast<CampoCanale>(i), L""); });
+    for (const ControlloCanale& controllo : controlliCanale) {
+        if (controllo.testo()) {
+            ignorando([&] { testo(controllo.id, L""); });
+        }
     }
-    tag_.clear();
+    Tag(L"");
     for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
         ignorando([&] {
             if (selettore->valore(adesso)) {
-                proprietario_.ImpostaModificato();
+                documento_.modificato(true);
             }
         });
     }
@@ -179,7 +190,6 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
     GetClientRect(hwnd(), &dati);
     misure.sinistraLogo = logo.left * twipsX;
     misure.larghezzaTitolo = (titolo.right - titolo.left) * twipsX;
-    misure.larghezzaLogo = (logo.right - logo.left) * twipsX;
     misure.altoLarghezza = numero.top * twipsY;
     misure.altezzaGetSize = (pulsante.bottom - pulsante.top) * twipsY;
     misure.altezzaDati = dati.bottom * twipsY;
@@ -189,7 +199,7 @@ void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) c
 void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, double twipsY) {
     const auto pixelX = [&](double twips) { return aPixel(twips, twipsX); };
     const auto pixelY = [&](double twips) { return aPixel(twips, twipsY); };
-    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     if (const auto& r = disposizione.fraDati) {
         SetWindowPos(hwnd(), nullptr, pixelX(r->sinistra), pixelY(r->alto), pixelX(r->larghezza),
                      pixelY(r->altezza), fermo);
@@ -204,7 +214,10 @@ void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, doubl
         }
     }
     if (const auto& r = disposizione.cmdGetSize) {
-        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, pixelX(r->sinistra), pixelY(r->alto),
+        // From the window's pixels to the frame's: twips would be rounded once more.
+        POINT sinistra{pixelX(r->sinistra), 0};
+        MapWindowPoints(GetParent(hwnd()), hwnd(), &sinistra, 1);
+        SetWindowPos(controllo(IDC_CMDGETSIZE), nullptr, sinistra.x, pixelY(r->alto),
                      pixelX(r->larghezza), pixelY(r->altezza), fermo);
     }
 }

@@ -1,61 +1,63 @@
 #pragma once
 
+#include "document/canale.h"
+#include "document/documento.h"
+#include "res/risorse.h"
+#include "support/dataora.h"
 #include "ui/controls/KOInputNumerico_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
 #include "ui/controls/selettoreData_win.h"
 #include "ui/main/disposizione.h"
-
-#include "support/dataora.h"
+#include "ui/main/finestraPrincipale_win.h"
 
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
-// Who owns the channel fields.
-class ProprietarioCampi {
-public:
-    ProprietarioCampi() = default;
-    ProprietarioCampi(const ProprietarioCampi&) = delete;
-    ProprietarioCampi& operator=(const ProprietarioCampi&) = delete;
+// A control of the frame and the value that it carries: of the channel, or of its image.
+struct ControlloCanale {
+    int id;
+    std::wstring Canale::*membro = nullptr;
+    const std::wstring& (clsImgRss::*immagine)() const noexcept = nullptr;
 
-    // The value of a field really changed, by the user or by code.
-    virtual void ImpostaModificato() noexcept = 0;
-    virtual void cmdGetSize_Click() = 0;
-    // Reports the exception being handled.
-    virtual void riportaErrore() noexcept = 0;
-
-protected:
-    ~ProprietarioCampi() = default;
+    // txtData stands for both pickers; all the others are texts.
+    [[nodiscard]] constexpr bool testo() const noexcept { return id != IDC_TXTDATA; }
 };
 
-// The texts of the channel's frame, in the order of the form.
-enum class CampoCanale : std::uint8_t {
-    Titolo,
-    LinkHome,
-    Descrizione,
-    Lingua,
-    Copyright,
-    WebMaster,
-    Logo,
-    Url,
-    LinkImg
+// In the order of the form, in which they are filled and read. Width and height are apart.
+inline constexpr std::array controlliCanale{
+    ControlloCanale{IDC_TXTTITOLO, &Canale::title},
+    ControlloCanale{IDC_TXTLINKHOME, &Canale::link},
+    ControlloCanale{IDC_TXTDESCRIZIONE, &Canale::description},
+    ControlloCanale{IDC_CBOLINGUA, &Canale::language},
+    ControlloCanale{IDC_TXTCOPYRIGHT, &Canale::copyright},
+    ControlloCanale{IDC_TXTDATA, &Canale::lastBuildDate},
+    ControlloCanale{IDC_TXTWEBMASTER, &Canale::webMaster},
+    ControlloCanale{IDC_TXTLOGO, nullptr, &clsImgRss::sTitle},
+    ControlloCanale{IDC_TXTURL, nullptr, &clsImgRss::sUrl},
+    ControlloCanale{IDC_TXTLINKIMG, nullptr, &clsImgRss::sLink},
 };
 
 // The frame fraDati with the channel's fields. The values live in the controls.
 class CampiCanale final : public Dialogo, private EventiNumerico {
 public:
-    static constexpr std::size_t numeroTesti = 9;
+    // A value that really changed, by the user or by code, makes the document modified.
+    CampiCanale(FinestraPrincipale& finestra, Documento& documento) noexcept
+        : finestra_(finestra), documento_(documento) {}
 
-    explicit CampiCanale(ProprietarioCampi& proprietario) noexcept : proprietario_(proprietario) {}
-
-    [[nodiscard]] std::wstring testo(CampoCanale campo) const;
-    void testo(CampoCanale campo, std::wstring_view valore);
+    // The text of a control of the table.
+    [[nodiscard]] std::wstring testo(int id) const;
+    void testo(int id, std::wstring_view valore);
 
     // The date of txtData with the time of txtOrario.
     [[nodiscard]] DataOra dataOra() const;
     // Gives both pickers the same date and time; raises 380 for what they cannot hold.
     void dataOra(DataOra valore);
+
+    // What leaving the field that has the focus would do, for a command, which leaves it there.
+    void conferma();
 
     // Pixels, 0 to 10000. Assigning beyond that raises 380 and changes nothing.
     [[nodiscard]] KOInputNumerico& txtLarghezza() const;
@@ -65,8 +67,8 @@ public:
     void dimensioni(std::int32_t larghezza, std::int32_t altezza);
 
     // Path of the document's file; empty for a new document.
-    [[nodiscard]] const std::wstring& Tag() const noexcept { return tag_; }
-    void Tag(std::wstring valore) { tag_ = std::move(valore); }
+    [[nodiscard]] const std::wstring& Tag() const noexcept { return documento_.percorso(); }
+    void Tag(std::wstring valore) noexcept { documento_.percorso(std::move(valore)); }
 
     // All nine texts are blank.
     [[nodiscard]] bool vuoti() const;
@@ -82,20 +84,24 @@ public:
 private:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
-    void eccezione() noexcept override { proprietario_.riportaErrore(); }
+    void eccezione() noexcept override { finestra_.riportaErrore(); }
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;
     void onEccezione(KOInputNumerico& /*controllo*/) noexcept override {
-        proprietario_.riportaErrore();
+        finestra_.riportaErrore();
     }
 
     void suggerimento(int etichetta, const wchar_t* testo);
     [[nodiscard]] RECT rettangolo(int id) const noexcept;
 
-    ProprietarioCampi& proprietario_;
-    std::array<CampoTesto, numeroTesti> testi_;
+    // Which of the controls it is.
+    [[nodiscard]] static std::size_t posto(int id) noexcept;
+
+    FinestraPrincipale& finestra_;
+    Documento& documento_;
+    // Empty for the pickers.
+    std::array<CampoTesto, controlliCanale.size()> testi_;
     SelettoreData txtData_;
     SelettoreData txtOrario_;
-    std::wstring tag_;
     HWND suggerimenti_ = nullptr;
 };

@@ -62,6 +62,8 @@ constexpr std::array barra{
 
 // Virtual key codes, the same numbers wherever this is built.
 constexpr std::uint16_t invio = 0x0D;
+constexpr std::uint16_t fine = 0x23;
+constexpr std::uint16_t home = 0x24;
 constexpr std::uint16_t su = 0x26;
 constexpr std::uint16_t giu = 0x28;
 constexpr std::uint16_t ins = 0x2D;
@@ -81,6 +83,8 @@ constexpr std::array tastiGriglia{
     Scorciatoia{canc, Scorciatoia::Nessuno, mnDelFeed},
     Scorciatoia{su, Scorciatoia::Alt, spostaSu},
     Scorciatoia{giu, Scorciatoia::Alt, spostaGiu},
+    Scorciatoia{home, Scorciatoia::Alt, spostaInCima},
+    Scorciatoia{fine, Scorciatoia::Alt, spostaInFondo},
 };
 
 } // namespace

@@ -28,9 +28,11 @@ enum Comando : std::uint16_t {
     mnVerificaUpgrade,
     mnBug,
     mninfo,
-    // Keys only: the selected item one place up or down.
+    // Keys only: the selected item one place up or down, to the first place, to the last.
     spostaSu,
     spostaGiu,
+    spostaInCima,
+    spostaInFondo,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
 };

@@ -2,6 +2,8 @@
 
 #include "datetime/ClsUTC.h"
 #include "document/clsFeedRss.h"
+#include "document/documento.h"
+#include "document/elementi.h"
 #include "support/dialoghiFile.h"
 #include "support/file_win.h"
 #include "support/messaggi.h"
@@ -9,9 +11,11 @@
 #include "support/testo.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
+#include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/guardia_win.h"
 #include "ui/main/recenti.h"
-#include "ui/main/statoDocumento.h"
+
+#include <utility>
 
 namespace {
 
@@ -25,7 +29,7 @@ const RichiestaFile richiestaSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti 
 } // namespace
 
 bool ComandiDocumento::ChiediSalvataggio() {
-    if (stato_.scartabile(campi_.vuoti() && elementi_.conteggio() == 0)) {
+    if (documento_.scartabile(campi_.vuoti())) {
         return true;
     }
     switch (servizi_.messaggi.mostra(
@@ -57,63 +61,64 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
                 throw Errore(fileRecenteMancante,
                              maiuscolo(percorso) + L": impossibile trovare il file.");
             }
-            leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
-            aperto = true;
+            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
 }
 
-void ComandiDocumento::leggi(const std::wstring& percorso) {
+bool ComandiDocumento::leggi(const std::wstring& percorso) {
     const Clessidra clessidra;
     finestra_.NuovoDocumento();
-    Canale c;
-    clsFeedRss().LeggiDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
-                                   c.copyright, c.lastBuildDate, c.webMaster, c.image, elementi_);
-    riempiCampi(percorso, c);
-    finestra_.RiempiGriglia(false);
-    stato_.modificato(false);
+    Canale canale;
+    TabellaElementi elementi;
+    clsFeedRss().LeggiDocumentoRSS(percorso, canale, elementi);
+    // A value that its field refuses ends the filling; the items are there and are shown.
+    const bool riempiti =
+        protetto([&] { riempiCampi(percorso, canale); }, [&] { finestra_.MostraErrore(); });
+    documento_.sostituisci(std::move(elementi));
+    documento_.modificato(!riempiti);
+    return riempiti;
 }
 
 void ComandiDocumento::riempiCampi(const std::wstring& percorso, const Canale& canale) {
-    campi_.testo(CampoCanale::Titolo, canale.title);
-    campi_.Tag(percorso);
-    finestra_.ImpostaTitolo(percorso);
-    campi_.testo(CampoCanale::LinkHome, canale.link);
-    campi_.testo(CampoCanale::Descrizione, canale.description);
-    campi_.testo(CampoCanale::Lingua, canale.language);
-    campi_.testo(CampoCanale::Copyright, canale.copyright);
-    // A date that cannot be shown is told, once for both pickers, and the rest still loads.
-    protetto([&] { campi_.dataOra(ClsUTC().ToDate(canale.lastBuildDate)); },
-             [&] { finestra_.MostraErrore(); });
-    campi_.testo(CampoCanale::WebMaster, canale.webMaster);
-    if (canale.image.Modificato()) {
-        campi_.testo(CampoCanale::Logo, canale.image.sTitle());
-        campi_.testo(CampoCanale::Url, canale.image.sUrl());
-        campi_.testo(CampoCanale::LinkImg, canale.image.sLink());
-        campi_.txtLarghezza().Valore(canale.image.nWidth());
-        campi_.txtAltezza().Valore(canale.image.nHeight());
+    const clsImgRss& image = canale.image;
+    for (const ControlloCanale& controllo : controlliCanale) {
+        if (!controllo.testo()) {
+            // A date that cannot be shown is told, once for both pickers, and the rest still loads.
+            protetto([&] { campi_.dataOra(ClsUTC().ToDate(canale.*controllo.membro)); },
+                     [&] { finestra_.MostraErrore(); });
+        } else if (controllo.membro != nullptr) {
+            campi_.testo(controllo.id, canale.*controllo.membro);
+        } else if (image.Modificato()) {
+            campi_.testo(controllo.id, (image.*controllo.immagine)());
+        }
+        if (controllo.id == IDC_TXTTITOLO) {
+            campi_.Tag(percorso);
+            finestra_.ImpostaTitolo(percorso);
+        }
+    }
+    if (image.Modificato()) {
+        campi_.txtLarghezza().Valore(image.nWidth());
+        campi_.txtAltezza().Valore(image.nHeight());
     }
 }
 
 bool ComandiDocumento::Salva(bool conNome) {
     return protetto(
         [&] {
-            richiediElementi(elementi_);
+            richiediElementi(documento_.elementi());
             std::wstring percorso(rifila(campi_.Tag()));
             if (conNome || percorso.empty()) {
                 percorso = servizi_.dialoghi.salva(richiestaSalva);
             }
             const Clessidra clessidra;
-            const Canale c = raccogliCanale(campi_);
-            clsFeedRss().CreaDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
-                                          c.copyright, c.lastBuildDate, c.webMaster, c.image,
-                                          elementi_);
+            clsFeedRss().CreaDocumentoRSS(percorso, raccogliCanale(campi_), documento_.elementi());
             campi_.Tag(percorso);
             finestra_.ImpostaTitolo(percorso);
             recenti_.AggiungiRecente(percorso);
             finestra_.CaricaRecenti();
-            stato_.modificato(false);
+            documento_.modificato(false);
         },
         [&] { finestra_.MostraErrore(); });
 }

@@ -1,41 +1,21 @@
 #pragma once
 
-#include "document/tabellaElementi.h"
 #include "ui/main/servizi.h"
 
 #include <string>
-#include <string_view>
 
 class CampiCanale;
 struct Canale;
+class Documento;
 class ElencoRecenti;
-class StatoDocumento;
+class FinestraPrincipale;
 
-// What the document commands ask of the window.
-class FinestraDocumento {
-public:
-    FinestraDocumento() = default;
-    FinestraDocumento(const FinestraDocumento&) = delete;
-    FinestraDocumento& operator=(const FinestraDocumento&) = delete;
-
-    virtual void NuovoDocumento() = 0;
-    virtual void ImpostaTitolo(std::wstring_view nome) = 0;
-    virtual void RiempiGriglia(bool soloIntestazioni) = 0;
-    virtual void CaricaRecenti() = 0;
-    // Reports the exception being handled.
-    virtual void MostraErrore() = 0;
-
-protected:
-    ~FinestraDocumento() = default;
-};
-
-// New, open, save and the question before a document goes. The window is the document: channel
-// values in its fields, items in its table, the path in the title's Tag.
+// New, open, save and the question before a document goes.
 class ComandiDocumento {
 public:
-    ComandiDocumento(const Servizi& servizi, FinestraDocumento& finestra, StatoDocumento& stato,
-                     CampiCanale& campi, TabellaElementi& elementi, ElencoRecenti& recenti) noexcept
-        : servizi_(servizi), finestra_(finestra), stato_(stato), campi_(campi), elementi_(elementi),
+    ComandiDocumento(const Servizi& servizi, FinestraPrincipale& finestra, Documento& documento,
+                     CampiCanale& campi, ElencoRecenti& recenti) noexcept
+        : servizi_(servizi), finestra_(finestra), documento_(documento), campi_(campi),
           recenti_(recenti) {}
 
     // Whether the document may be discarded: unmodified, empty, saved on Yes, or given up on No.
@@ -51,13 +31,14 @@ public:
     void mnNuovo_Click();
 
 private:
-    void leggi(const std::wstring& percorso);
+    // False when a field refused what it was given, which was told; the items are there all the
+    // same. Raises what makes the file unreadable, the document then empty.
+    [[nodiscard]] bool leggi(const std::wstring& percorso);
     void riempiCampi(const std::wstring& percorso, const Canale& canale);
 
     Servizi servizi_;
-    FinestraDocumento& finestra_;
-    StatoDocumento& stato_;
+    FinestraPrincipale& finestra_;
+    Documento& documento_;
     CampiCanale& campi_;
-    TabellaElementi& elementi_;
     ElencoRecenti& recenti_;
 };

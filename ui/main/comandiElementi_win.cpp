@@ -1,10 +1,12 @@
 #include "ui/main/comandiElementi_win.h"
 
+#include "document/clsItemRss.h"
+#include "document/elementi.h"
 #include "support/ModGlobale.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
+#include "ui/controls/griglia_win.h"
 #include "ui/dialogs/editorElementi.h"
-#include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
 
 void avvisaNessunaSelezione(Messaggi& messaggi) {
@@ -20,7 +22,7 @@ void ComandiElementi::esegui(Comando comando) {
 template <class Comando>
 void ComandiElementi::conSelezionato(Comando comando) {
     esegui([&] {
-        const int selezionato = finestra_.ElementoSelezionato();
+        const int selezionato = griglia_.ElementoSelezionato();
         if (selezionato < 0) {
             avvisaNessunaSelezione(messaggi_);
             return;
@@ -32,44 +34,39 @@ void ComandiElementi::conSelezionato(Comando comando) {
 void ComandiElementi::cmdAggiungi_Click() {
     esegui([&] {
         // Told before the user has written what could not be kept.
-        richiediPosto(elementi_);
+        richiediPosto(documento_.elementi());
         clsItemRss nuovo;
-        const auto scelta = editor_.modifica(nuovo, ultimaData_);
+        const auto scelta = editor_.modifica(nuovo, documento_.ultimaData());
         if (!scelta) {
             return;
         }
-        const int indice = aggiungiElemento(
-            elementi_, nuovo, nuovo.sPubDate() + L' ' + ModGlobale().GeneraIdentificativo());
-        ultimaData_ = *scelta;
-        mostraModifica(rigaDi(indice));
+        nuovo.sGuid(nuovo.sPubDate() + L' ' + ModGlobale().GeneraIdentificativo());
+        const Modifica aggiunta = documento_.aggiunta(nuovo.elemento());
+        documento_.ultimaData(*scelta);
+        documento_.applica(aggiunta);
     });
 }
 
 void ComandiElementi::cmdModifica_Click() {
     conSelezionato([&](int selezionato) {
-        clsItemRss elemento = leggiElemento(elementi_, selezionato);
-        if (!editor_.modifica(elemento, ultimaData_)) {
+        // The editor knows nothing of the guid, which stays the table's.
+        const std::wstring guid(documento_.elementi()(CampoElemento::Guid, selezionato));
+        clsItemRss elemento;
+        elemento.riempi(*documento_.elementi().elemento(selezionato));
+        elemento.sGuid(L"");
+        if (!editor_.modifica(elemento, documento_.ultimaData())) {
             return;
         }
-        scriviElemento(elementi_, selezionato, elemento);
-        mostraModifica(rigaDi(selezionato));
+        elemento.sGuid(guid);
+        documento_.applica(documento_.cambio(selezionato, elemento.elemento()));
     });
 }
 
 void ComandiElementi::cmdCancella_Click() {
     conSelezionato([&](int selezionato) {
         if (messaggi_.mostra(L"Si desidera cancellare realmente il contenuto selezionato?",
-                             L"Attenzione", Icona::Domanda, Pulsanti::SiNo) != Risposta::Si) {
-            return;
+                             L"Attenzione", Icona::Domanda, Pulsanti::SiNo) == Risposta::Si) {
+            documento_.applica(documento_.rimozione(selezionato));
         }
-        elementi_.rimuovi(selezionato);
-        mostraModifica(rigaDopoCancellazione(selezionato));
     });
-}
-
-void ComandiElementi::mostraModifica(int riga) {
-    // First, lest a grid that fails lets the change go unsaved.
-    finestra_.ImpostaModificato();
-    finestra_.RiempiGriglia(false);
-    finestra_.SelezionaRiga(riga);
 }

@@ -2,36 +2,19 @@
 
 #include "ui/main/servizi.h"
 
-#include <windows.h>
-
 class CampiCanale;
-class TabellaElementi;
-
-// What the page commands ask of the window.
-class FinestraPagina {
-public:
-    FinestraPagina() = default;
-    FinestraPagina(const FinestraPagina&) = delete;
-    FinestraPagina& operator=(const FinestraPagina&) = delete;
-
-    // The item of the grid's current row, -1 when the row shows none.
-    [[nodiscard]] virtual int ElementoSelezionato() const = 0;
-    // Owns what the shell shows.
-    [[nodiscard]] virtual HWND finestra() const noexcept = 0;
-    // Reports the exception being handled.
-    virtual void MostraErrore() = 0;
-
-protected:
-    ~FinestraPagina() = default;
-};
+class Documento;
+class FinestraPrincipale;
+class Griglia;
 
 // The feed as a web page: export of all of it, preview of one item. Neither touches the document's
 // state.
 class ComandiPagina {
 public:
-    ComandiPagina(const Servizi& servizi, FinestraPagina& finestra, const CampiCanale& campi,
-                  const TabellaElementi& elementi) noexcept
-        : servizi_(servizi), finestra_(finestra), campi_(campi), elementi_(elementi) {}
+    ComandiPagina(const Servizi& servizi, FinestraPrincipale& finestra, const Documento& documento,
+                  const CampiCanale& campi, const Griglia& griglia) noexcept
+        : servizi_(servizi), finestra_(finestra), documento_(documento), campi_(campi),
+          griglia_(griglia) {}
 
     // Asks for the file, writes the page, offers to open it. Failures are reported.
     void EsportaHTML();
@@ -41,7 +24,8 @@ public:
 
 private:
     Servizi servizi_;
-    FinestraPagina& finestra_;
+    FinestraPrincipale& finestra_;
+    const Documento& documento_;
     const CampiCanale& campi_;
-    const TabellaElementi& elementi_;
+    const Griglia& griglia_;
 };

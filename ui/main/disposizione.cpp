@@ -27,16 +27,15 @@ Disposizione DisponiControlli(const MisureFinestra& m) noexcept {
     }
 
     const double altoGriglia = m.altoDati + m.altezzaDati + margine;
-    const double altezzaGriglia = m.altezzaInterna - m.altezzaStato - altoGriglia - dueMargini;
+    const double altezzaLibera = m.altezzaInterna - m.altezzaStato - altoGriglia - dueMargini;
+    const double altezzaGriglia = altezzaLibera > 0 ? altezzaLibera : m.altezzaGriglia;
     const double sinistraPicCmd = m.larghezzaInterna - bordoPicCmd - m.larghezzaPicCmd;
     const double larghezzaGriglia = sinistraPicCmd - dueMargini;
-    if (altezzaGriglia > 0 && larghezzaGriglia > 0) {
+    if (larghezzaGriglia > 0) {
         d.griglia = Riquadro{margine, altoGriglia, larghezzaGriglia, altezzaGriglia};
         d.picCmd = Riquadro{sinistraPicCmd, altoGriglia, m.larghezzaPicCmd, altezzaGriglia};
-    }
-    if (larghezzaGriglia > 0) {
-        d.cmdGetSize = Riquadro{sinistraPicCmd - margine, m.altoLarghezza, m.larghezzaPicCmd,
-                                m.altezzaGetSize};
+        d.cmdGetSize =
+            Riquadro{sinistraPicCmd, m.altoLarghezza, m.larghezzaPicCmd, m.altezzaGetSize};
     }
     return d;
 }

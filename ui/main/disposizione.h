@@ -16,13 +16,14 @@ struct MisureFinestra {
     double larghezzaInterna;
     double altezzaInterna;
     double altezzaStato;
-    // Left edge of txtLogo in the frame, and the present widths of txtTitolo and txtLogo.
+    // Left edge of txtLogo in the frame, and the present width of txtTitolo.
     double sinistraLogo;
     double larghezzaTitolo;
-    double larghezzaLogo;
     // Top of txtLarghezza in the frame, height of cmdGetSize.
     double altoLarghezza;
     double altezzaGetSize;
+    // Height of the grid until now.
+    double altezzaGriglia;
     // Top and height of fraDati; the frame's width in use until now.
     double altoDati;
     double altezzaDati;
@@ -31,12 +32,12 @@ struct MisureFinestra {
     double larghezzaPicCmd;
 };
 
-// Where each goes; nothing where the window is too small and the control stays as it is.
+// Where each goes; nothing where the window is too small and the control stays as it is. Edges are
+// the window's own, but for the top of cmdGetSize, which is the frame's.
 struct Disposizione {
     std::optional<Riquadro> fraDati;
     // The width that txtLogo, txtUrl and txtLinkImg share.
     std::optional<double> larghezzaImmagine;
-    // In the frame's coordinates.
     std::optional<Riquadro> cmdGetSize;
     std::optional<Riquadro> griglia;
     std::optional<Riquadro> picCmd;
@@ -45,9 +46,10 @@ struct Disposizione {
 // The design's distance from an edge.
 inline constexpr double margineTwips = 50;
 
-// Twips as whole pixels, for one direction's twips per pixel.
+// Twips as whole pixels, for one direction's twips per pixel: what begins in a pixel is cut off,
+// but for the last digits that a number of pixels loses on its way through twips.
 [[nodiscard]] constexpr int aPixel(double twips, double twipsPerPixel) noexcept {
-    return static_cast<int>(twips / twipsPerPixel);
+    return static_cast<int>(twips / twipsPerPixel + 1e-6);
 }
 
 [[nodiscard]] Disposizione DisponiControlli(const MisureFinestra& misure) noexcept;

@@ -3,6 +3,8 @@
 #include "support/impostazioni.h"
 #include "support/testo.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::wstring_view sezione = L"url";
@@ -24,19 +26,25 @@ void ElencoRecenti::CaricaRecenti() {
 }
 
 void ElencoRecenti::AggiungiRecente(std::wstring_view path) {
-    const std::wstring primo = minuscolo(path);
-    impostazioni_.scrivi(sezione, chiave(1), primo);
-    std::size_t k = 2;
+    std::vector<std::wstring> scritti;
+    const auto scritto = [&](std::wstring_view voce) {
+        return std::ranges::find(scritti, rifila(voce)) != scritti.end();
+    };
+    const auto scrivi = [&](const std::wstring& voce) {
+        impostazioni_.scrivi(sezione, chiave(scritti.size() + 1), voce);
+        scritti.emplace_back(rifila(voce));
+    };
+    scrivi(minuscolo(path));
     for (const std::wstring& voce : voci_) {
-        if (k <= massimo && rifila(voce) != rifila(primo)) {
-            impostazioni_.scrivi(sezione, chiave(k), voce);
-            ++k;
+        if (scritti.size() < massimo && !scritto(voce)) {
+            scrivi(voce);
         }
     }
-    // A store with gaps was closed up: what stood further down would stand twice.
-    for (; k <= massimo; ++k) {
-        if (!impostazioni_.leggi(sezione, chiave(k), L"").empty()) {
-            impostazioni_.scrivi(sezione, chiave(k), L"");
+    // What stands further down may be another copy of the program's, and stays; only what would be
+    // listed twice goes.
+    for (std::size_t i = scritti.size() + 1; i <= massimo; ++i) {
+        if (scritto(minuscolo(impostazioni_.leggi(sezione, chiave(i), L"")))) {
+            impostazioni_.scrivi(sezione, chiave(i), L"");
         }
     }
     CaricaRecenti();

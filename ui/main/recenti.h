@@ -17,8 +17,9 @@ public:
     // Reads the list anew; empty values are skipped.
     void CaricaRecenti();
 
-    // Puts a path at the top, stores the list and reads it again. A path stands once, whatever its
-    // case. Raises the store's failure.
+    // Puts a path at the top, stores the list as it was read and reads it again. A path stands
+    // once, whatever its case. What the store holds below that list stays. Raises the store's
+    // failure.
     void AggiungiRecente(std::wstring_view path);
 
     [[nodiscard]] const std::vector<std::wstring>& voci() const noexcept { return voci_; }

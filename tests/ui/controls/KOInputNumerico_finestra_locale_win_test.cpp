@@ -26,6 +26,15 @@ TEST_F(NumericoFinestra, IPulsantiScattanoEntroILimiti) {
     EXPECT_TRUE(registro.eventi.empty());
 }
 
+TEST_F(NumericoFinestra, UnPassoNegativoScambiaIPulsanti) {
+    numero->Incremento(-30);
+    EXPECT_EQ(numero->Incremento(), -30);
+    clicPulsante(Verso::Giu);
+    EXPECT_EQ(numero->Valore(), 30);
+    clicPulsante(Verso::Su);
+    EXPECT_EQ(numero->Valore(), 0);
+}
+
 TEST_F(NumericoFinestra, FrecceERotellaScattano) {
     entra();
     premi(VK_UP);
@@ -98,7 +107,10 @@ TEST_F(NumericoFinestra, IPulsantiStannoADestraDelTesto) {
     SetWindowPos(numero->hwnd(), nullptr, 0, 0, 1, 1, SWP_NOZORDER | SWP_NOMOVE);
     RECT testoR{};
     GetWindowRect(casella, &testoR);
+    GetWindowRect(numero->UPNum(), &pulsanti);
     EXPECT_EQ(testoR.right - testoR.left, 90 - proprio);
+    EXPECT_EQ(pulsanti.left, testoR.right);
+    EXPECT_EQ(pulsanti.right - pulsanti.left, proprio);
 }
 
 TEST_F(NumericoFinestra, TabEInvioEEscFannoIlLoroLavoro) {
@@ -178,12 +190,19 @@ TEST_F(NumericoFinestra, LaBorsaRidaLeProprieta) {
     numero->scrivi(borsa);
     EXPECT_TRUE(borsa.valori.empty());
     borsa.valori = {
-        {L"Massimo", 10000.0}, {L"CifreDecimali", std::int16_t{0}},
-        {L"Valore", 640.0},    {L"Font", FontProprieta{L"Arial", 12, 700, true, false, false}},
-        {L"Enabled", false},   {L"Locked", true}};
+        {L"Massimo", 10000.0},      {L"CifreDecimali", std::int16_t{0}},
+        {L"Valore", 640.0},         {L"Font", FontProprieta{L"Arial", 12, 700, true, false, false}},
+        {L"Minimo", -1.0},          {L"Incremento", 5.0},
+        {L"Enabled", false},        {L"Locked", true},
+        {L"VisualizzaZero", false}, {L"ForeColor", std::uint32_t{0x0000FF}}};
     numero->leggi(borsa);
     EXPECT_EQ(testo(), L"640");
     EXPECT_EQ(numero->Massimo(), 10000);
+    EXPECT_EQ(numero->Minimo(), -1);
+    EXPECT_EQ(numero->Incremento(), 5);
+    EXPECT_FALSE(numero->VisualizzaZero());
+    EXPECT_EQ(numero->CifreDecimali(), 0);
+    EXPECT_EQ(numero->ForeColor(), 0x0000FFU);
     EXPECT_FALSE(numero->Enabled());
     EXPECT_TRUE(numero->Locked());
     Borsa scritta;
@@ -196,6 +215,27 @@ TEST_F(NumericoFinestra, UnValoreConservatoSiMisuraSuiLimitiConservati) {
     borsa.valori = {{L"Massimo", 5.0}, {L"Valore", 6.0}};
     EXPECT_EQ(numeroDi([&] { numero->leggi(borsa); }), 380);
     EXPECT_EQ(testo(), locale(L"0,00"));
+}
+
+TEST_F(NumericoFinestra, ILimitiConservatiSiPrendonoComeStanno) {
+    Borsa borsa;
+    // Both below the minimum there was.
+    borsa.valori = {{L"Massimo", -10.0}, {L"Minimo", -20.0}, {L"Valore", -15.0}};
+    numero->leggi(borsa);
+    EXPECT_EQ(numero->Valore(), -15);
+    // No value lies within these, but they are the ones that were stored.
+    borsa.valori = {{L"Massimo", 5.0}, {L"Minimo", 10.0}};
+    EXPECT_EQ(numeroDi([&] { numero->leggi(borsa); }), 380);
+    EXPECT_EQ(numero->Massimo(), 5);
+    EXPECT_EQ(numero->Minimo(), 10);
+    EXPECT_EQ(numero->Valore(), -15);
+}
+
+TEST_F(NumericoFinestra, LoZeroNascostoConservatoNonSiVede) {
+    Borsa borsa;
+    borsa.valori = {{L"VisualizzaZero", false}};
+    numero->leggi(borsa);
+    EXPECT_EQ(testo(), L"");
 }
 
 TEST_F(NumericoFinestra, LaCasellaHaIlNomeDellaSuaEtichetta) {

@@ -32,6 +32,8 @@ TEST_F(NumericoVero, FuoriDaiLimitiE380ENullaCambia) {
     EXPECT_EQ(numeroDi([&] { numero->Valore(-1); }), 380);
     EXPECT_EQ(numeroDi([&] { numero->Massimo(0); }), 380);
     EXPECT_EQ(numeroDi([&] { numero->Minimo(100); }), 380);
+    EXPECT_EQ(numeroDi([&] { numero->Massimo(-1); }), 380);
+    EXPECT_EQ(numeroDi([&] { numero->Minimo(101); }), 380);
     EXPECT_EQ(numero->Valore(), 7);
     EXPECT_EQ(numero->Massimo(), 100);
     EXPECT_EQ(numero->Minimo(), 0);
@@ -67,11 +69,34 @@ TEST_F(NumericoVero, LeCifreRiscrivonoIlTesto) {
     EXPECT_EQ(testo(), locale(L"1,000"));
 }
 
+TEST_F(NumericoVero, MostrareLoZeroRiscriveAncheLaCasellaVuota) {
+    numero->Text(L"");
+    numero->VisualizzaZero(true);
+    EXPECT_EQ(testo(), locale(L"0,00"));
+    numero->VisualizzaZero(false);
+    EXPECT_EQ(testo(), L"");
+    numero->VisualizzaZero(true);
+    EXPECT_EQ(testo(), locale(L"0,00"));
+}
+
+TEST_F(NumericoVero, UnValoreDatoMentreSiScriveSiSelezionaTutto) {
+    entra();
+    scrivi(L"7");
+    numero->Valore(12);
+    EXPECT_EQ(selezione(), (std::pair<DWORD, DWORD>{0, 5}));
+    // One that changes nothing leaves the caret.
+    premi(VK_END);
+    numero->Valore(12);
+    EXPECT_EQ(selezione(), (std::pair<DWORD, DWORD>{5, 5}));
+}
+
 TEST_F(NumericoVero, QualunqueTestoSvuota) {
     numero->Valore(5);
+    EXPECT_EQ(numero->Text(), locale(L"5,00"));
     registro.azzera();
     numero->Text(L"9");
     EXPECT_EQ(testo(), L"");
+    EXPECT_EQ(numero->Text(), L"");
     EXPECT_EQ(numero->Valore(), 0);
     EXPECT_EQ(registro.cambi, std::vector<double>{0});
     numero->Text(L"");

@@ -2,7 +2,9 @@
 
 #include "document/tabellaElementi.h"
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/pixel_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/controls/sottoclasse_win.h"
 #include "ui/main/GUI_win.h"
 
@@ -11,7 +13,6 @@
 #include <commctrl.h>
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,55 +21,6 @@
 namespace {
 
 using enum CampoElemento;
-
-// Pixels from top to bottom, each line from left to right.
-struct Immagine {
-    std::ptrdiff_t larghezza;
-    std::vector<std::uint32_t> punti;
-
-    bool operator==(const Immagine&) const = default;
-
-    [[nodiscard]] COLORREF colore(std::ptrdiff_t x, std::ptrdiff_t y) const {
-        const std::uint32_t p = punti[static_cast<std::size_t>(y * larghezza + x)];
-        return RGB(p >> 16 & 0xFF, p >> 8 & 0xFF, p & 0xFF);
-    }
-    // How many pixels of a rectangle are not the background.
-    [[nodiscard]] int inchiostro(const RECT& r, COLORREF sfondo = GetSysColor(COLOR_WINDOW)) const {
-        int n = 0;
-        for (int y = r.top; y < r.bottom; ++y) {
-            for (int x = r.left; x < r.right; ++x) {
-                n += colore(x, y) != sfondo ? 1 : 0;
-            }
-        }
-        return n;
-    }
-};
-
-// What a painter leaves on a canvas of that size.
-template <class Pittore>
-Immagine dipinta(int larghezza, int altezza, Pittore pittore) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = larghezza;
-    info.bmiHeader.biHeight = -altezza;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* punti = nullptr;
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &punti, nullptr, 0);
-    const HGDIOBJ prima = SelectObject(dc, bitmap);
-    pittore(dc);
-    GdiFlush();
-    const auto* const primo = static_cast<const std::uint32_t*>(punti);
-    Immagine immagine{larghezza, {primo, primo + std::ptrdiff_t{larghezza} * altezza}};
-    for (std::uint32_t& p : immagine.punti) {
-        p &= 0xFFFFFF;
-    }
-    SelectObject(dc, prima);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-    return immagine;
-}
 
 // One row with two columns, painted.
 class AspettoDellaGriglia : public testing::Test {
@@ -80,10 +32,7 @@ protected:
                                 const std::wstring& data = L"ieri", bool selezionata = false,
                                 bool fuoco = false) const {
         TabellaElementi tabella;
-        tabella.dimensiona(1);
-        tabella(Titolo, 0) = titolo;
-        tabella(Descrizione, 0) = descrizione;
-        tabella(Data, 0) = data;
+        tabella.riempi({creaElemento({titolo, L"", descrizione, L"", data, L""})});
         RigheGriglia righe(tabella);
         righe.intesta({L"Data/Orario", L"Contenuto"}, 3);
         righe.elenca(ClsUTC(), FormatoLocale());
@@ -205,31 +154,29 @@ TEST_F(AspettoDellaGriglia, LaRigaSceltaHaIColoriDelSistema) {
     }
 }
 
-namespace {
-
-// What the list shows on the screen.
-Immagine sulloSchermo(HWND lista) {
-    UpdateWindow(lista);
-    RECT r{};
-    GetClientRect(lista, &r);
-    return dipinta(r.right, r.bottom, [&](HDC dc) {
-        const HDC da = GetDC(lista);
-        BitBlt(dc, 0, 0, r.right, r.bottom, da, 0, 0, SRCCOPY);
-        ReleaseDC(lista, da);
-    });
+TEST_F(AspettoDellaGriglia, LaRigaSceltaSiDistingueInOgniSchema) {
+    for (std::size_t i = 0; i < schemi().size(); ++i) {
+        const ColoriSistema schema(schemi()[i]);
+        for (const bool fuoco : {false, true}) {
+            const auto riga_ = [&](bool selezionata) {
+                return riga(L"titolo", L"descrizione", L"ieri", selezionata, fuoco);
+            };
+            EXPECT_EQ(riga_(false).colore(0, 0), GetSysColor(COLOR_WINDOW));
+            EXPECT_LT(distacco(riga_(false)), 1.01);
+            EXPECT_GE(distacco(riga_(true)), 3) << "scheme " << i << ", focus " << fuoco;
+        }
+    }
 }
-
-} // namespace
 
 TEST(GrigliaDipinta, RiempireMostraSubitoLaTabellaCheCE) {
     GrigliaProva p(3);
     const Immagine prima = sulloSchermo(p.lista());
     EXPECT_EQ(sulloSchermo(p.lista()), prima);
-    p.tabella(Titolo, 1) = L"un altro titolo";
+    metti(p.documento, Titolo, 1, L"un altro titolo");
     GUI::RiempiGriglia(p.griglia, false);
     const Immagine dopo = sulloSchermo(p.lista());
     EXPECT_NE(dopo, prima);
-    p.tabella(Titolo, 1) = L"titolo 1";
+    metti(p.documento, Titolo, 1, L"titolo 1");
     GUI::RiempiGriglia(p.griglia, false);
     EXPECT_EQ(sulloSchermo(p.lista()), prima);
 }

@@ -160,20 +160,42 @@ TEST(GrigliaTrascina, UnDoppioClicACavalloDiDueRigheParlaDellaSeconda) {
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
 }
 
-TEST(GrigliaTrascina, EscLoAbbandona) {
+TEST(GrigliaTrascina, EscLoAbbandonaETornaLaRigaCheEraSelezionata) {
     GrigliaProva p(4);
-    p.vai(p.punto(1));
+    p.vai(p.punto(2));
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
-    p.vai(p.punto(3));
+    p.vai(p.punto(4));
     p.premiTasto(VK_ESCAPE);
     EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
     EXPECT_EQ(p.griglia.trascinato(), -1);
     EXPECT_EQ(GetCapture(), nullptr);
-    p.vai(p.punto(2));
-    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
+    p.vai(p.punto(3));
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(p.osservatore.mosse().empty());
-    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
+}
+
+TEST(GrigliaTrascina, ConEscTornaAncheLaVista) {
+    GrigliaProva p(200);
+    RECT r{};
+    GetWindowRect(p.lista(), &r);
+    p.griglia.rigaInCima(50);
+    p.vai(p.punto(52));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    const int x = p.punto(52).x;
+    for (int i = 0; i < 10; ++i) {
+        p.vai({x + i, r.bottom - 4});
+    }
+    p.rotella(-5);
+    ASSERT_FALSE(p.griglia.visibile(52));
+    p.premiTasto(VK_ESCAPE);
+    EXPECT_EQ(p.griglia.rigaInCima(), 50);
+    EXPECT_EQ(p.griglia.rigaCorrente(), 52);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(p.griglia.rigaInCima(), 50);
+    EXPECT_TRUE(p.osservatore.mosse().empty());
 }
 
 TEST(GrigliaTrascina, EscArrivaAllaGrigliaAncheInUnDialogo) {

@@ -3,6 +3,7 @@
 #include "support/errori_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/tabella_prova.h"
 #include "ui/main/GUI_win.h"
 
 #include <windows.h>
@@ -31,9 +32,9 @@ TEST(Griglia, VuotaMostra49RigheSenzaElemento) {
 
 TEST(Griglia, LeCelleVengonoDallaTabella) {
     GrigliaProva p(2);
-    p.tabella(Titolo, 1) = L" Due ";
-    p.tabella(Descrizione, 1) = L"a\tb";
-    p.tabella(Data, 1) = L"ieri";
+    metti(p.documento, Titolo, 1, L" Due ");
+    metti(p.documento, Descrizione, 1, L"a\tb");
+    metti(p.documento, Data, 1, L"ieri");
     EXPECT_EQ(p.testo(1, 0), L"15/11/2005 10:00:00");
     EXPECT_EQ(p.testo(1, 1), L"titolo 0\r\ndescrizione 0");
     EXPECT_EQ(p.testo(1, 2), L"0");
@@ -46,7 +47,7 @@ TEST(Griglia, NumeroDiRigheAttornoA50EAlMassimo) {
     for (const auto& [elementi, righe] :
          {std::pair{1, 49}, {49, 49}, {50, 50}, {51, 51}, {32767, 32767}}) {
         GrigliaProva p(0);
-        p.tabella.dimensiona(elementi);
+        dimensiona(p.documento, elementi);
         GUI::RiempiGriglia(p.griglia, false);
         EXPECT_EQ(ListView_GetItemCount(p.lista()), righe);
         EXPECT_EQ(p.griglia.ElementoSelezionato(), 0);
@@ -164,37 +165,6 @@ TEST(Griglia, UnClicSullaRigaVisibileAMetaNonScorre) {
     EXPECT_EQ(p.griglia.rigaCorrente(), ultima);
     EXPECT_EQ(p.griglia.rigaInCima(), 1);
     EXPECT_TRUE(p.osservatore.mosse().empty());
-}
-
-TEST(Griglia, ITastiMuovonoLaRigaCorrente) {
-    GrigliaProva p(200);
-    p.premiTasto(VK_DOWN);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
-    p.premiTasto(VK_END);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 200);
-    p.premiTasto(VK_HOME);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 1);
-    EXPECT_EQ(p.griglia.rigaInCima(), 1);
-    p.premiTasto(VK_NEXT);
-    EXPECT_GT(p.griglia.rigaCorrente(), 5);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{p.griglia.rigaCorrente()});
-    // One row further than what is in sight scrolls by one row.
-    while (p.griglia.rigaInCima() == 1 && p.griglia.rigaCorrente() < 199) {
-        p.premiTasto(VK_DOWN);
-    }
-    EXPECT_EQ(p.griglia.rigaInCima(), 2);
-}
-
-TEST(Griglia, NemmenoConCtrlUnaRigaRestaSenzaSelezione) {
-    GrigliaProva p(20);
-    p.premiTasto(VK_SPACE, VK_CONTROL);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{1});
-    p.premiTasto(VK_DOWN, VK_CONTROL);
-    EXPECT_EQ(p.griglia.rigaCorrente(), 2);
-    EXPECT_EQ(p.selezionate(), std::vector<int>{2});
-    p.premiTasto(VK_ADD, VK_CONTROL);
-    EXPECT_EQ(ListView_GetColumnWidth(p.lista(), 0), 133);
 }
 
 TEST(Griglia, ChiSelezionaDaFuoriCambiaLaRigaCorrente) {

@@ -172,13 +172,7 @@ protected:
         }
         return t;
     }
-    [[nodiscard]] std::pair<DWORD, DWORD> selezione() const {
-        DWORD inizio = 0;
-        DWORD fine = 0;
-        SendMessageW(casella, EM_GETSEL, reinterpret_cast<WPARAM>(&inizio),
-                     reinterpret_cast<LPARAM>(&fine));
-        return {inizio, fine};
-    }
+    [[nodiscard]] std::pair<DWORD, DWORD> selezione() const { return selezioneDi(casella); }
     void clicPulsante(Verso verso) const {
         RECT r{};
         GetClientRect(numero->UPNum(), &r);

@@ -1,6 +1,6 @@
 #include "ui/controls/proprietaNumerico.h"
 
-#include <algorithm>
+#include <array>
 #include <map>
 #include <vector>
 
@@ -113,24 +113,47 @@ TEST(ProprietaNumericoBorsa, UnTipoSbagliatoEErrore13) {
 }
 
 TEST(ProprietaNumericoBorsa, LeDescrizioniPubblicate) {
-    const auto d = descrizioniNumerico();
-    std::vector<std::pair<std::wstring_view, std::wstring_view>> categorie;
-    for (const auto& voce : d) {
-        categorie.emplace_back(voce.nome, voce.categoria);
+    using Voce = std::array<std::wstring_view, 3>;
+    std::vector<Voce> pubblicate;
+    for (const auto& voce : descrizioniNumerico()) {
+        pubblicate.push_back({voce.nome, voce.descrizione, voce.categoria});
     }
-    EXPECT_EQ(categorie, (decltype(categorie){{L"Valore", L"Dati"},
-                                              {L"Massimo", L""},
-                                              {L"Minimo", L""},
-                                              {L"Incremento", L"Azioni"},
-                                              {L"Font", L"Carattere"},
-                                              {L"VisualizzaZero", L"Aspetto"},
-                                              {L"Text", L""},
-                                              {L"ForeColor", L""},
-                                              {L"Enabled", L""},
-                                              {L"Locked", L""},
-                                              {L"CifreDecimali", L""}}));
-    EXPECT_EQ(std::ranges::count_if(d, [](auto& voce) { return voce.descrizione.empty(); }), 1);
-    // Doubled blanks that belong to the texts.
-    EXPECT_NE(d[1].descrizione.find(L"superiore  a tale limite"), std::wstring_view::npos);
-    EXPECT_NE(d[7].descrizione.find(L"il colore  utilizzato"), std::wstring_view::npos);
+    // The doubled blanks belong to the texts.
+    EXPECT_EQ(
+        pubblicate,
+        (std::vector<Voce>{
+            {L"Valore", L"Proprietà che restituisce o imposta il valore contenuto nel controllo.",
+             L"Dati"},
+            {L"Massimo",
+             L"Imposta il valore massimo che il controllo può contenere. Se l'utente inserisce un "
+             L"valore superiore  a tale limite verrà generato l'evento MassimoSuperato e il valore "
+             L"sarà automaticamente impostato al valore massimo.",
+             L""},
+            {L"Minimo",
+             L"Restituisce o imposta il valore minimo che il controllo può contenere. Se l'utente "
+             L"tenta di immettere un valore inferiore a tale limite verrà generato l'evento "
+             L"MinimoSuperato e il valore sarà automaticamente impostato al valore minimo.",
+             L""},
+            {L"Incremento",
+             L"Imposta o restituisce l'unità di incremento/decremento usata quando vengono premuti "
+             L"i pulsanti di scorrimento a lato del controllo.",
+             L"Azioni"},
+            {L"Font",
+             L"Imposta o restituisce il font utilizzato dal controllo per visualizzare il testo.",
+             L"Carattere"},
+            {L"VisualizzaZero",
+             L"Proprietà booleana che consente di indicare se il controllo debba visualizzare o "
+             L"meno il valore zero.",
+             L"Aspetto"},
+            {L"Text", L"Proprietà che restituisce o imposta il testo contenuto nel controllo.",
+             L""},
+            {L"ForeColor",
+             L"Restituisce o imposta il colore  utilizzato per la visualizzazione del testo.", L""},
+            {L"Enabled",
+             L"Restituisce o imposta un valore che determina se un oggetto è in grado di "
+             L"rispondere "
+             L"agli eventi generati dall'utente.",
+             L""},
+            {L"Locked", L"Determina se un controllo può essere modificato.", L""},
+            {L"CifreDecimali", L"", L""}}));
 }

@@ -1,6 +1,7 @@
 #include "ui/controls/righeGriglia.h"
 
 #include "support/errore.h"
+#include "tests/aiuti/tabella_prova.h"
 
 #include <string>
 
@@ -23,10 +24,8 @@ struct Prova {
 
     void aggiungi(const std::wstring& titolo, const std::wstring& descrizione,
                   const std::wstring& data = L"Tue, 15 Nov 2005 10:00:00 +0100") {
-        const int i = tabella.aggiungi();
-        tabella(Titolo, i) = titolo;
-        tabella(Descrizione, i) = descrizione;
-        tabella(Data, i) = data;
+        tabella.inserisci(tabella.conteggio(),
+                          creaElemento({titolo, L"", descrizione, L"", data, L""}));
     }
     void elenca() {
         righe.intesta({L"Data/Orario", L"Contenuto"}, 3);
@@ -60,13 +59,14 @@ TEST(RigheGriglia, NumeroDiRigheAttornoA50) {
     for (const auto& [elementi, righe] :
          {std::pair{1, 50}, {48, 50}, {49, 50}, {50, 51}, {32767, 32768}}) {
         Prova p;
-        p.tabella.dimensiona(elementi);
+        dimensiona(p.tabella, elementi);
         p.elenca();
         EXPECT_EQ(p.righe.righe(), righe);
         EXPECT_EQ(p.righe.elemento(0), -1);
         EXPECT_EQ(p.righe.elemento(1), 0);
         EXPECT_EQ(p.righe.elemento(elementi), elementi - 1);
         EXPECT_EQ(p.righe.elemento(elementi + 1), -1);
+        EXPECT_EQ(p.righe.ultima(), elementi);
         EXPECT_EQ(p.righe.cella(elementi, 2), std::to_wstring(elementi - 1));
     }
 }
@@ -80,6 +80,7 @@ TEST(RigheGriglia, SoloIntestazioniEPoiRigheVuote) {
     EXPECT_EQ(p.righe.righe(), 50);
     EXPECT_EQ(p.righe.cella(1, 2), L"-1");
     EXPECT_EQ(p.righe.elemento(1), -1);
+    EXPECT_EQ(p.righe.ultima(), 0);
 }
 
 TEST(RigheGriglia, CelleDiUnElemento) {
@@ -129,7 +130,7 @@ TEST(RigheGriglia, LeRigheSonoQuelleDellUltimoElenco) {
     p.aggiungi(L"c", L"");
     EXPECT_EQ(p.righe.elemento(3), -1);
     EXPECT_EQ(p.righe.cella(3, 1), L" ");
-    p.tabella(Titolo, 0) = L"nuovo";
+    metti(p.tabella, Titolo, 0, L"nuovo");
     EXPECT_EQ(p.righe.cella(1, 1), L"nuovo\r\n");
     // Items that are gone show as rows without item, whatever was listed.
     p.tabella.svuota();

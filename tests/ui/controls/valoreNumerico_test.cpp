@@ -1,6 +1,7 @@
 #include "ui/controls/valoreNumerico.h"
 
 #include "support/errore.h"
+#include "tests/aiuti/formati.h"
 
 #include <limits>
 #include <string>
@@ -11,8 +12,6 @@
 
 namespace {
 
-const FormatoLocale italiano{L',', L'.', L"/", L":"};
-const FormatoLocale inglese{L'.', L',', L"/", L":"};
 constexpr Separatori virgola{',', '.'};
 constexpr Separatori punto{'.', ','};
 
@@ -200,6 +199,21 @@ TEST(UscitaDalCampo, UnTestoIllegibileSottoIlMinimoAvvisa) {
     EXPECT_EQ(registro.visti, (decltype(registro.visti){{L"minimo", 10}}));
 }
 
+// Stored limits are taken as they are: no value lies within these.
+TEST(UscitaDalCampo, UnMassimoSottoIlMinimoSiTieneEAvvisaDueVolte) {
+    ValoreNumerico regole;
+    regole.limiti(5, 10);
+    EXPECT_EQ(regole.Massimo(), 5);
+    EXPECT_EQ(regole.Minimo(), 10);
+    Registro registro;
+    EXPECT_EQ(regole.esci(L"7", italiano, registro), 10);
+    EXPECT_EQ(registro.visti, (decltype(registro.visti){{L"massimo", 5}, {L"minimo", 10}}));
+    for (const double valore : {4.0, 5.0, 7.0, 10.0, 11.0}) {
+        EXPECT_EQ(numeroDi([&] { static_cast<void>(regole.scrivi(valore, italiano)); }), 380)
+            << valore;
+    }
+}
+
 TEST(ScattoDeiPulsanti, RestaEntroILimiti) {
     ValoreNumerico regole;
     regole.Incremento(30);
@@ -210,4 +224,14 @@ TEST(ScattoDeiPulsanti, RestaEntroILimiti) {
     EXPECT_EQ(regole.scatta(L"20", Verso::Giu, italiano), 0);
     EXPECT_EQ(regole.scatta(L"500", Verso::Su, italiano), 100);
     EXPECT_EQ(regole.scatta(L"", Verso::Su, italiano), 30);
+}
+
+TEST(ScattoDeiPulsanti, UnPassoNegativoScambiaIVersi) {
+    ValoreNumerico regole;
+    regole.Incremento(-30);
+    EXPECT_EQ(regole.Incremento(), -30);
+    EXPECT_EQ(regole.scatta(L"50", Verso::Su, italiano), 20);
+    EXPECT_EQ(regole.scatta(L"20", Verso::Su, italiano), 0);
+    EXPECT_EQ(regole.scatta(L"50", Verso::Giu, italiano), 80);
+    EXPECT_EQ(regole.scatta(L"80", Verso::Giu, italiano), 100);
 }

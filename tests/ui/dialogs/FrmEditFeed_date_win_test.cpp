@@ -64,6 +64,21 @@ TEST_F(FrmEditFeedDate, ISelettoriSiCambianoConLaTastiera) {
     EXPECT_EQ(editor.DataOra(), DataOra::daParti(2005, 11, 16, 11, 0, 0));
 }
 
+TEST_F(FrmEditFeedDate, LeCifreScritteValgonoAncheSenzaUscireDalSelettore) {
+    for (const auto& [id, atteso] :
+         {std::pair{IDC_EDITDATA, DataOra::daParti(2005, 11, 1, 10, 0, 0)},
+          {IDC_EDITORARIO, DataOra::daParti(2005, 11, 15, 1, 0, 0)}}) {
+        usa([&] {
+            compila();
+            clic(controllo(id), POINT{8, 8});
+            scrivi(L"1");
+            premi(VK_RETURN);
+        });
+        EXPECT_EQ(editor.DataOra(), atteso);
+        editor.Elemento() = clsItemRss();
+    }
+}
+
 TEST_F(FrmEditFeedDate, IlSelettoreDellOraMostraLeVentiquattro) {
     editor.Elemento().sPubDate(L"Tue, 15 Nov 2005 23:04:05 +0100");
     usa([&] {

@@ -5,6 +5,8 @@
 #include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/pixel_win.h"
+#include "tests/aiuti/proprietariaShell_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
 
@@ -71,21 +73,6 @@ protected:
     frmAbout about{messaggi};
     const ConFiltro filtro{
         [this](MSG& msg) { return IsDialogMessageW(about.hwnd(), &msg) != FALSE; }};
-};
-
-// A colour of the system, for the life of the object.
-class ColoreSistema {
-public:
-    ColoreSistema(int indice, COLORREF colore) : indice_(indice), prima_(GetSysColor(indice)) {
-        SetSysColors(1, &indice_, &colore);
-    }
-    ColoreSistema(const ColoreSistema&) = delete;
-    ColoreSistema& operator=(const ColoreSistema&) = delete;
-    ~ColoreSistema() { SetSysColors(1, &indice_, &prima_); }
-
-private:
-    int indice_;
-    COLORREF prima_;
 };
 
 // The first column with a pixel that is not of the background.
@@ -192,13 +179,15 @@ TEST_F(frmAboutAperta, UnClicSuOkChiude) {
 TEST_F(frmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
     Registratore registratore;
     registratore.protocollo(L"https");
+    const ProprietariaShell proprietarie;
     clic(controllo(IDC_LBLSITO));
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
     premi(VK_RETURN);
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
     premi(VK_SPACE);
     EXPECT_EQ(registratore.attendi().obiettivo, prodotto::sito);
-    EXPECT_NE(about.hwnd(), nullptr);
+    ASSERT_NE(about.hwnd(), nullptr);
+    EXPECT_EQ(ProprietariaShell::viste(), std::vector<HWND>(3, about.hwnd()));
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
 }
 
@@ -230,12 +219,12 @@ TEST_F(frmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
 }
 
 TEST_F(frmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
-    const ColoreSistema blu(COLOR_HOTLIGHT, RGB(0, 0, 200));
+    const ColoriSistema blu(COLOR_HOTLIGHT, RGB(0, 0, 200));
     EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, RGB(0, 0, 200)), 80);
 }
 
 TEST_F(frmAboutAperta, UnColoreCheNonSiLeggeLasciaIlPostoAQuelloDelTesto) {
-    const ColoreSistema sfondo(COLOR_HOTLIGHT, GetSysColor(COLOR_3DFACE));
+    const ColoriSistema sfondo(COLOR_HOTLIGHT, GetSysColor(COLOR_3DFACE));
     EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, GetSysColor(COLOR_BTNTEXT)), 80);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/dialogs/infoSistema_win.h"
 
+#include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
@@ -31,6 +32,7 @@ protected:
         chiave.grezzo(nome, REG_DWORD, byte);
         return leggi();
     }
+    void daEspandere(const std::wstring& testo) const { chiave.testo(nome, testo, REG_EXPAND_SZ); }
     // A string value of these characters with no NUL at its end. What follows it in memory is not
     // NUL either, or Windows would count that one in.
     void senzaNul(const std::wstring& testo) const {
@@ -161,8 +163,37 @@ TEST_F(GetKeyValueRegistro, UnNumeroDiDimensioneSbagliataSiLeggeFincheSiPuo) {
 TEST_F(GetKeyValueRegistro, UnAltroTipoEIlTestoVuoto) {
     chiave.grezzo(nome, REG_BINARY, "abc");
     EXPECT_EQ(leggi(), L"");
-    chiave.grezzo(nome, REG_EXPAND_SZ, "a\0\0\0"sv);
+    chiave.grezzo(nome, REG_MULTI_SZ, "a\0\0\0"sv);
     EXPECT_EQ(leggi(), L"");
+}
+
+TEST_F(GetKeyValueRegistro, UnTestoDaEspandereSiLeggeEspanso) {
+    const VariabileAmbiente variabile(L"OSTRELLE_PROVA_ESPANDI", L"C:\\Città");
+    daEspandere(L"%OSTRELLE_PROVA_ESPANDI%\\x.exe");
+    EXPECT_EQ(leggi(), L"C:\\Città\\x.exe");
+    daEspandere(L"%OSTRELLE_PROVA_MANCA%\\100%");
+    EXPECT_EQ(leggi(), L"%OSTRELLE_PROVA_MANCA%\\100%");
+    daEspandere(L"");
+    EXPECT_EQ(leggi(), L"");
+    // A plain text stays as it is.
+    chiave.testo(nome, L"%OSTRELLE_PROVA_ESPANDI%");
+    EXPECT_EQ(leggi(), L"%OSTRELLE_PROVA_ESPANDI%");
+}
+
+TEST_F(GetKeyValueRegistro, UnValoreCheEspansoELungoSiLeggeIntero) {
+    const std::wstring lungo(5000, L'x');
+    const VariabileAmbiente variabile(L"OSTRELLE_PROVA_ESPANDI", lungo);
+    daEspandere(L"%OSTRELLE_PROVA_ESPANDI%!");
+    EXPECT_TRUE(leggi() == lungo + L'!');
+}
+
+TEST_F(GetKeyValueRegistro, LaChiaveSiApreConIDirittiDiLetturaENonAltri) {
+    chiave.testo(nome, L"x");
+    chiave.nega();
+    EXPECT_EQ(leggi(), L"x");
+    // One of the rights to read is not enough.
+    chiave.permetti(L"D:P(A;;0x1;;;WD)");
+    EXPECT_EQ(leggi(), std::nullopt);
 }
 
 TEST_F(StartSysInfoRegistro, IlPrimoValoreEIlProgramma) {
@@ -185,6 +216,13 @@ TEST_F(StartSysInfoRegistro, BlanksEAccentiNelPercorsoNonConfondono) {
 TEST_F(StartSysInfoRegistro, UnPercorsoGiaTraVirgoletteVaBene) {
     const std::wstring programma = registratoreIn(L"MS Info.exe");
     msinfo.testo(L"PATH", L'"' + programma + L'"');
+    EXPECT_EQ(deveAvviare(programma).programma, programma);
+}
+
+TEST_F(StartSysInfoRegistro, UnPercorsoDaEspandereTrovaIlProgramma) {
+    const std::wstring programma = registratoreIn(L"MSINFO32.EXE");
+    const VariabileAmbiente variabile(L"OSTRELLE_PROVA_ESPANDI", cartella.percorso());
+    msinfo.testo(L"PATH", L"%OSTRELLE_PROVA_ESPANDI%\\MSINFO32.EXE", REG_EXPAND_SZ);
     EXPECT_EQ(deveAvviare(programma).programma, programma);
 }
 

@@ -3,11 +3,11 @@
 #include "res/risorse.h"
 #include "support/file_win.h"
 #include "support/maniglie_win.h"
-#include "support/prodotto.h"
+#include "support/testo.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/comandi.h"
 
@@ -198,6 +198,15 @@ private:
     DWORD id_ = 0;
 };
 
+// The first of the recent files as the registry holds it, below the program's settings.
+std::wstring primoRecente(const ChiaveSalvata& impostazioni) {
+    std::array<wchar_t, 1024> valore{};
+    DWORD byte = sizeof(valore);
+    const LSTATUS esito = RegGetValueW(HKEY_CURRENT_USER, (impostazioni.nome() + L"\\url").c_str(),
+                                       L"murl1", RRF_RT_REG_SZ, nullptr, valore.data(), &byte);
+    return esito == ERROR_SUCCESS ? valore.data() : L"(no value)";
+}
+
 constexpr std::array<std::pair<int, const wchar_t*>, 9> canale{{
     {IDC_TXTTITOLO, L"Notizie dal circolo"},
     {IDC_TXTLINKHOME, L"https://circolo.example/"},
@@ -214,8 +223,8 @@ constexpr std::array<std::pair<int, const wchar_t*>, 9> canale{{
 
 TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
     const CartellaProva cartella;
-    const ChiaveSalvata recenti(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\" +
-                                                       std::wstring(prodotto::titolo));
+    const ChiaveSalvata impostazioni(HKEY_CURRENT_USER,
+                                     L"Software\\VB and VBA Program Settings\\Ostrelle");
     const std::wstring feed = cartella.file(L"Il mio feed.xml");
     {
         Programma programma;
@@ -263,7 +272,8 @@ TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
         programma.attendiTitolo(L"Ostrelle  [" + feed + L"]");
         EXPECT_EQ(programma.chiudi(), 0U);
     }
-    Documento documento;
+    EXPECT_EQ(primoRecente(impostazioni), minuscolo(feed));
+    FeedDiProva documento;
     documento.leggi(feed);
     EXPECT_EQ(documento.title, canale[0].second);
     EXPECT_EQ(documento.description, canale[2].second);

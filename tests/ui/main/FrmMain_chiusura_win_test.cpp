@@ -1,7 +1,5 @@
+#include "tests/aiuti/frmMainVera_win.h"
 #include "tests/aiuti/frmMain_win.h"
-
-#include "support/messaggi_win.h"
-#include "ui/dialogs/FrmEditFeed_win.h"
 
 #include <commctrl.h>
 
@@ -12,20 +10,13 @@ namespace {
 
 using FrmMainChiusura = ProvaFrmMain;
 
-constexpr const wchar_t* boxWindows = L"#32770";
-
-// The main window with the boxes and the editor that the program has.
-class FrmMainVera : public testing::Test {
+class FrmMainVera : public ProvaFrmMainVera {
 protected:
-    FrmMainVera() {
-        finestra.apri(SW_SHOWNORMAL);
-        portaAvanti(finestra.hwnd());
-    }
     void modifica() {
-        finestra.campi().testo(CampoCanale::Titolo, L"scritto");
-        ASSERT_TRUE(finestra.stato().modificato());
+        campi.testo(IDC_TXTTITOLO, L"scritto");
+        ASSERT_TRUE(documento.modificato());
     }
-    [[nodiscard]] std::wstring scritto() { return finestra.campi().testo(CampoCanale::Titolo); }
+    [[nodiscard]] std::wstring scritto() { return campi.testo(IDC_TXTTITOLO); }
     // Neither a close nor the end of the session gets past the box that is up.
     void insisti() {
         SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
@@ -35,15 +26,6 @@ protected:
         ASSERT_NE(finestra.hwnd(), nullptr);
         EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
     }
-
-    MessaggiWindows messaggi;
-    DialoghiFinti dialoghi;
-    OrologioFermo orologio{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
-    ImpostazioniFinte impostazioni;
-    ClsCodaEliminazione coda;
-    EditorElementiWindows editor{messaggi, orologio};
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}};
-    ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };
 
 // A window of another thread, in front as another program's would be, for the life of the object.
@@ -87,7 +69,7 @@ TEST_F(FrmMainVera, MentreLaDomandaEApertaNonSiChiude) {
     SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
     ASSERT_NE(finestra.hwnd(), nullptr);
     EXPECT_EQ(scritto(), L"scritto");
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(FrmMainVera, MentreLEditorEApertoNonSiChiudeEIlTestoResta) {
@@ -100,13 +82,13 @@ TEST_F(FrmMainVera, MentreLEditorEApertoNonSiChiudeEIlTestoResta) {
         PostMessageW(box, WM_COMMAND, IDC_CMDSALVA, 0);
     });
     finestra.esegui(mnaddFeed);
-    ASSERT_EQ(finestra.elementi().conteggio(), 1);
-    EXPECT_EQ(finestra.elementi()(CampoElemento::Titolo, 0), L"elemento");
+    ASSERT_EQ(documento.elementi().conteggio(), 1);
+    EXPECT_EQ(documento.elementi()(CampoElemento::Titolo, 0), L"elemento");
     EXPECT_EQ(scritto(), L"scritto");
 }
 
 TEST_F(FrmMainVera, ChiusoLEditorIlFuocoTornaAllaGriglia) {
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = Finestra::da<Griglia>(GetDlgItem(finestra.hwnd(), IDC_GRIGLIA))->lista();
     SetFocus(lista);
     for (const int come : {IDC_CMDSALVA, IDC_CMDANNULLA}) {
         const QuandoAppare dialogo(boxWindows, L"Edit", [&](HWND box) {
@@ -117,7 +99,7 @@ TEST_F(FrmMainVera, ChiusoLEditorIlFuocoTornaAllaGriglia) {
         premi(VK_INSERT);
         EXPECT_TRUE(attendi([&] { return GetFocus() == lista; })) << come;
     }
-    EXPECT_EQ(finestra.elementi().conteggio(), 1);
+    EXPECT_EQ(documento.elementi().conteggio(), 1);
 }
 
 TEST_F(FrmMainVera, DopoUnaDomandaAnnullataLaProssimaSiFaAncora) {
@@ -148,7 +130,7 @@ TEST_F(FrmMainVera, AncheDaSfondoLaDomandaTieneFermaLaFinestra) {
 
 TEST_F(FrmMainChiusura, ConUnMessaggioApertoNullaSiComandaENullaSiPerde) {
     metti(L"uno");
-    finestra.campi().testo(CampoCanale::Titolo, L"resta");
+    campi.testo(IDC_TXTTITOLO, L"resta");
     messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
                      Icona::Domanda, Pulsanti::SiNo, Risposta::No, [&] {
                          SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
@@ -161,8 +143,8 @@ TEST_F(FrmMainChiusura, ConUnMessaggioApertoNullaSiComandaENullaSiPerde) {
     finestra.esegui(mnDelFeed);
     ASSERT_NE(finestra.hwnd(), nullptr);
     EXPECT_EQ(titoliElementi(), L"uno;");
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"resta");
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_EQ(campi.testo(IDC_TXTTITOLO), L"resta");
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(FrmMainChiusura, ConLEditorApertoUnSecondoComandoLasciaLaTabellaComEra) {
@@ -170,7 +152,7 @@ TEST_F(FrmMainChiusura, ConLEditorApertoUnSecondoComandoLasciaLaTabellaComEra) {
         metti(t);
     }
     finestra.SelezionaRiga(2);
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto centro = [&](int riga) {
         RECT r{};
         ListView_GetItemRect(lista, riga - 1, &r, LVIR_BOUNDS);
@@ -199,14 +181,14 @@ TEST_F(FrmMainChiusura, ConLEditorApertoUnSecondoComandoLasciaLaTabellaComEra) {
     finestra.esegui(mnEditFeed);
     EXPECT_EQ(aperture, 1);
     EXPECT_EQ(titoliElementi(), L"a;x;c;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
+    EXPECT_EQ(griglia().rigaCorrente(), 2);
 }
 
 TEST_F(FrmMainChiusura, UnComandoOUnaChiusuraAbbandonanoIlTrascinamento) {
     for (const wchar_t* const t : {L"a", L"b", L"c"}) {
         metti(t);
     }
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto centro = [&](int riga) {
         RECT r{};
         ListView_GetItemRect(lista, riga - 1, &r, LVIR_BOUNDS);
@@ -219,11 +201,11 @@ TEST_F(FrmMainChiusura, UnComandoOUnaChiusuraAbbandonanoIlTrascinamento) {
         clic(campo(IDC_TXTTITOLO));
         premiMouse(lista, centro(1));
         muoviMouse(lista, centro(3));
-        ASSERT_EQ(finestra.griglia().trascinato(), 0);
+        ASSERT_EQ(griglia().trascinato(), 0);
         // The box is up, and the button goes up over another row.
         const auto intanto = [&] {
-            EXPECT_EQ(finestra.griglia().trascinato(), -1);
-            EXPECT_EQ(finestra.griglia().puntatore(), Puntatore::Predefinito);
+            EXPECT_EQ(griglia().trascinato(), -1);
+            EXPECT_EQ(griglia().puntatore(), Puntatore::Predefinito);
             EXPECT_EQ(GetCapture(), nullptr);
             lasciaMouse();
         };
@@ -262,11 +244,11 @@ TEST_F(FrmMainChiusura, AllaFineDellaSessioneLAnteprimaSiCancella) {
 }
 
 TEST_F(FrmMainChiusura, UnCambioDelleImpostazioniRinnovaIlCarattereDellaGriglia) {
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     const auto prima = reinterpret_cast<HFONT>(SendMessageW(lista, WM_GETFONT, 0, 0));
     SendMessageW(finestra.hwnd(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
     const auto dopo = reinterpret_cast<HFONT>(SendMessageW(lista, WM_GETFONT, 0, 0));
     EXPECT_NE(dopo, nullptr);
     EXPECT_NE(dopo, prima);
-    EXPECT_EQ(finestra.griglia().righe().righe(), 50);
+    EXPECT_EQ(griglia().righe().righe(), 50);
 }

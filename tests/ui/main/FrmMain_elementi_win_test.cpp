@@ -3,6 +3,8 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -11,24 +13,22 @@ class FrmMainElementi : public ProvaFrmMain {
 protected:
     void riempi(int quanti) {
         finestra.NuovoDocumento();
-        if (quanti > 0) {
-            finestra.elementi().dimensiona(quanti);
-        }
+        std::vector<ElementoCondiviso> elementi;
         for (int i = 0; i < quanti; ++i) {
-            finestra.elementi()(CampoElemento::Titolo, i) = std::to_wstring(i);
+            elementi.push_back(
+                conTesto(*elementoVuoto(), CampoElemento::Titolo, std::to_wstring(i)));
         }
-        finestra.RiempiGriglia(false);
-        finestra.stato().modificato(false);
+        TabellaElementi tabella;
+        tabella.riempi(std::move(elementi));
+        documento.sostituisci(std::move(tabella));
+        documento.modificato(false);
     }
-    [[nodiscard]] const std::wstring& titoloDi(int indice) {
-        return finestra.elementi()(CampoElemento::Titolo, indice);
-    }
-    [[nodiscard]] int righe() { return ListView_GetItemCount(finestra.griglia().lista()); }
-    [[nodiscard]] int corrente() { return finestra.griglia().rigaCorrente(); }
+    [[nodiscard]] int righe() { return ListView_GetItemCount(griglia().lista()); }
+    [[nodiscard]] int corrente() { return griglia().rigaCorrente(); }
     // A point of a row in sight.
     [[nodiscard]] POINT punto(int riga) {
         RECT r{};
-        ListView_GetItemRect(finestra.griglia().lista(), riga - 1, &r, LVIR_BOUNDS);
+        ListView_GetItemRect(griglia().lista(), riga - 1, &r, LVIR_BOUNDS);
         return {200, (r.top + r.bottom) / 2};
     }
     void attendiNessunaSelezione() {
@@ -58,12 +58,13 @@ TEST_F(FrmMainElementi, UnaTabellaVuotaHaSoloRigheSenzaElemento) {
             attendiNessunaSelezione();
             finestra.esegui(comando);
         }
-        finestra.esegui(spostaSu);
-        finestra.esegui(spostaGiu);
-        EXPECT_EQ(corrente(), riga);
+        for (const int comando : {spostaSu, spostaGiu, spostaInCima, spostaInFondo}) {
+            finestra.esegui(comando);
+            EXPECT_EQ(corrente(), riga);
+        }
     }
-    EXPECT_EQ(finestra.elementi().conteggio(), 0);
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(documento.elementi().conteggio(), 0);
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura) {
@@ -76,25 +77,25 @@ TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura
         finestra.esegui(mnEditFeed);
         EXPECT_EQ(titoloDi(quanti - 1), L"x");
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_TRUE(finestra.griglia().visibile(quanti));
+        EXPECT_TRUE(griglia().visibile(quanti));
 
-        finestra.stato().modificato(false);
+        documento.modificato(false);
         attendiCancellazione();
         finestra.esegui(mnDelFeed);
-        EXPECT_EQ(finestra.elementi().conteggio(), quanti - 1);
+        EXPECT_EQ(documento.elementi().conteggio(), quanti - 1);
         EXPECT_EQ(righe(), std::max(49, quanti - 1));
         EXPECT_EQ(corrente(), std::max(1, quanti - 1));
-        EXPECT_TRUE(finestra.stato().modificato());
+        EXPECT_TRUE(documento.modificato());
 
-        finestra.stato().modificato(false);
+        documento.modificato(false);
         attendiTitolo(L"y");
         finestra.esegui(mnaddFeed);
-        EXPECT_EQ(finestra.elementi().conteggio(), quanti);
+        EXPECT_EQ(documento.elementi().conteggio(), quanti);
         EXPECT_EQ(titoloDi(quanti - 1), L"y");
         EXPECT_EQ(righe(), std::max(49, quanti));
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_TRUE(finestra.griglia().visibile(quanti));
-        EXPECT_TRUE(finestra.stato().modificato());
+        EXPECT_TRUE(griglia().visibile(quanti));
+        EXPECT_TRUE(documento.modificato());
         if (quanti < 49) {
             finestra.SelezionaRiga(quanti + 1);
             attendiNessunaSelezione();
@@ -102,28 +103,28 @@ TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura
         }
     }
     // Full: nothing more, and the table is as it was.
-    finestra.stato().modificato(false);
+    documento.modificato(false);
     messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
     finestra.esegui(mnaddFeed);
-    EXPECT_EQ(finestra.elementi().conteggio(), 32767);
+    EXPECT_EQ(documento.elementi().conteggio(), 32767);
     EXPECT_EQ(corrente(), 32767);
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(FrmMainElementi, TrascinareInFondoATabelleDiOgniMisura) {
-    const HWND lista = finestra.griglia().lista();
+    const HWND lista = griglia().lista();
     for (const int quanti : {2, 49, 50, 32767}) {
         SCOPED_TRACE(quanti);
         riempi(quanti);
         // The last but one on the last, as far down as there are rows.
-        finestra.griglia().rigaInCima(std::max(1, quanti - 2));
-        const int cima = finestra.griglia().rigaInCima();
+        griglia().rigaInCima(std::max(1, quanti - 2));
+        const int cima = griglia().rigaInCima();
         trascina(lista, punto(quanti - 1), punto(quanti));
         EXPECT_EQ(titoloDi(quanti - 1), std::to_wstring(quanti - 2));
         EXPECT_EQ(titoloDi(quanti - 2), std::to_wstring(quanti - 1));
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_EQ(finestra.griglia().rigaInCima(), cima);
-        EXPECT_FALSE(finestra.stato().modificato());
+        EXPECT_EQ(griglia().rigaInCima(), cima);
+        EXPECT_FALSE(documento.modificato());
         // Elsewhere, so that the next press is not the second of a pair.
         clic(campo(IDC_TXTTITOLO));
     }
@@ -131,17 +132,40 @@ TEST_F(FrmMainElementi, TrascinareInFondoATabelleDiOgniMisura) {
 
 TEST_F(FrmMainElementi, SpostareColTastoTieneLaRigaInCimaEControllaIConfini) {
     riempi(200);
-    finestra.griglia().rigaInCima(100);
+    griglia().rigaInCima(100);
     finestra.SelezionaRiga(101);
     finestra.esegui(spostaGiu);
     EXPECT_EQ(titoloDi(101), L"100");
     EXPECT_EQ(corrente(), 102);
-    EXPECT_EQ(finestra.griglia().rigaInCima(), 100);
+    EXPECT_EQ(griglia().rigaInCima(), 100);
+    EXPECT_TRUE(documento.modificato());
+    documento.modificato(false);
     finestra.SelezionaRiga(1);
     finestra.esegui(spostaSu);
+    finestra.esegui(spostaInCima);
     EXPECT_EQ(titoloDi(0), L"0");
     finestra.SelezionaRiga(200);
     finestra.esegui(spostaGiu);
+    finestra.esegui(spostaInFondo);
     EXPECT_EQ(titoloDi(199), L"199");
     EXPECT_EQ(corrente(), 200);
+    EXPECT_FALSE(documento.modificato());
+}
+
+TEST_F(FrmMainElementi, SpostareInCimaEInFondoPortaLiAncheLaVista) {
+    for (const int quanti : {2, 49, 50, 32767}) {
+        SCOPED_TRACE(quanti);
+        riempi(quanti);
+        finestra.SelezionaRiga(1);
+        finestra.esegui(spostaInFondo);
+        EXPECT_EQ(titoloDi(0), L"1");
+        EXPECT_EQ(titoloDi(quanti - 1), L"0");
+        EXPECT_EQ(corrente(), quanti);
+        EXPECT_TRUE(griglia().visibile(quanti));
+        finestra.esegui(spostaInCima);
+        EXPECT_EQ(titoloDi(0), L"0");
+        EXPECT_EQ(titoloDi(quanti - 1), std::to_wstring(quanti - 1));
+        EXPECT_EQ(corrente(), 1);
+        EXPECT_EQ(griglia().rigaInCima(), 1);
+    }
 }

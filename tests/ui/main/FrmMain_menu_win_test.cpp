@@ -150,7 +150,7 @@ TEST_F(FrmMainMenu, IlMenuDellaGrigliaEQuelloDelContenuto) {
         confronta(menuDi(popup), contenuto);
         EndMenu();
     });
-    clicDestro(finestra.griglia().lista(), {40, 60});
+    clicDestro(griglia().lista(), {40, 60});
     EXPECT_TRUE(menu.apparsa());
 }
 
@@ -158,23 +158,23 @@ TEST_F(FrmMainMenu, IlPulsanteDestroParlaDellaRigaCliccata) {
     for (const wchar_t* const t : {L"a", L"b", L"c"}) {
         metti(t);
     }
-    ASSERT_EQ(finestra.griglia().rigaCorrente(), 1);
+    ASSERT_EQ(griglia().rigaCorrente(), 1);
     RECT r{};
-    ListView_GetItemRect(finestra.griglia().lista(), 2, &r, LVIR_BOUNDS);
+    ListView_GetItemRect(griglia().lista(), 2, &r, LVIR_BOUNDS);
     messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
                      Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
     const QuandoAppare menu(L"#32768", L"", [&](HWND) {
-        EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+        EXPECT_EQ(griglia().rigaCorrente(), 3);
         PostMessageW(finestra.hwnd(), WM_CHAR, L'c', 0);
     });
-    clicDestro(finestra.griglia().lista(), {40, meta(r).y});
+    clicDestro(griglia().lista(), {40, meta(r).y});
     EXPECT_TRUE(attendi([&] { return titoliElementi() == L"a;b;"; }));
 }
 
 TEST_F(FrmMainMenu, DallIntestazioneSiAggiungeMaNonSiToccaLaRigaCorrente) {
     metti(L"a");
     metti(L"b");
-    const HWND testata = ListView_GetHeader(finestra.griglia().lista());
+    const HWND testata = ListView_GetHeader(griglia().lista());
     // Modify, delete, preview: their places in the menu, from the top.
     for (const int posto : {2, 3, 4}) {
         messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
@@ -198,10 +198,10 @@ TEST_F(FrmMainMenu, IlTastoMenuApreAllaRigaCorrente) {
         metti(t);
     }
     finestra.SelezionaRiga(3);
-    SetFocus(finestra.griglia().lista());
+    SetFocus(griglia().lista());
     RECT riga{};
-    ListView_GetItemRect(finestra.griglia().lista(), 2, &riga, LVIR_BOUNDS);
-    MapWindowPoints(finestra.griglia().lista(), nullptr, reinterpret_cast<POINT*>(&riga), 2);
+    ListView_GetItemRect(griglia().lista(), 2, &riga, LVIR_BOUNDS);
+    MapWindowPoints(griglia().lista(), nullptr, reinterpret_cast<POINT*>(&riga), 2);
     const QuandoAppare menu(L"#32768", L"", [&](HWND popup) {
         RECT r{};
         GetWindowRect(popup, &r);
@@ -213,7 +213,7 @@ TEST_F(FrmMainMenu, IlTastoMenuApreAllaRigaCorrente) {
     });
     premi(VK_APPS);
     EXPECT_TRUE(menu.apparsa());
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+    EXPECT_EQ(griglia().rigaCorrente(), 3);
 }
 
 TEST_F(FrmMainMenu, OgniPulsanteDellaBarraDiceCheCosaFa) {
@@ -248,7 +248,7 @@ TEST_F(FrmMainMenu, LaBarraEsegueQuelCheDice) {
     const std::wstring percorso = cartella.file(L"barra.xml");
     dialoghi.attendiSalva(richiestaSalva, percorso);
     preme(2);
-    EXPECT_EQ(finestra.campi().Tag(), percorso);
+    EXPECT_EQ(documento.percorso(), percorso);
     preme(0);
     EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
     dialoghi.attendiApri(richiestaApri, percorso);
@@ -278,10 +278,10 @@ TEST_F(FrmMainMenu, OgniCampoHaUnNomePerChiLoLegge) {
         {campo(IDC_TXTLOGO), L"Titolo Logo:"},
         {campo(IDC_TXTURL), L"Url:"},
         {campo(IDC_TXTLINKIMG), L"Click Link:"},
-        {finestra.campi().txtLarghezza().txtnumero(), L"Larghezza:"},
-        {finestra.campi().txtAltezza().txtnumero(), L"Altezza:"},
+        {campi.txtLarghezza().txtnumero(), L"Larghezza:"},
+        {campi.txtAltezza().txtnumero(), L"Altezza:"},
         {campo(IDC_CMDGETSIZE), L"Determina dimensioni"},
-        {finestra.griglia().lista(), L"Elementi"},
+        {griglia().lista(), L"Elementi"},
         {finestra.hwnd(), L"Ostrelle  [Nuovo Documento]"},
         {GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed),
          L"Aggiungi Feed"},
@@ -305,11 +305,24 @@ TEST_F(FrmMainMenu, AggiornaListaRileggeLaTabellaETornaAllaPrimaRiga) {
     metti(L"a");
     metti(L"b");
     finestra.SelezionaRiga(2);
-    const int nuovo = finestra.elementi().aggiungi();
-    finestra.elementi()(CampoElemento::Titolo, nuovo) = L"c";
-    EXPECT_EQ(finestra.griglia().righe().elemento(3), -1);
+    finestra.RiempiGriglia(true);
+    finestra.SelezionaRiga(2);
+    EXPECT_EQ(griglia().righe().elemento(2), -1);
     finestra.esegui(mnAggiorna);
-    EXPECT_EQ(finestra.griglia().righe().elemento(3), 2);
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 1);
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(griglia().righe().elemento(2), 1);
+    EXPECT_EQ(griglia().rigaCorrente(), 1);
+    EXPECT_FALSE(documento.modificato());
+}
+
+TEST_F(FrmMainMenu, SenzaRecentiTornaLaVoceCheLoDice) {
+    const HMENU recenti = GetSubMenu(GetSubMenu(GetMenu(finestra.hwnd()), 0), 8);
+    for (const wchar_t* const salvato : {L"c:\\feed.xml", L""}) {
+        impostazioni.scrivi(L"url", L"murl1", salvato);
+        finestra.CaricaRecenti();
+        ASSERT_EQ(GetMenuItemCount(recenti), 1);
+        const bool vuoto = *salvato == L'\0';
+        EXPECT_EQ(didascalia(recenti, 0), vuoto ? L"nessuna voce in elenco" : salvato);
+        EXPECT_EQ(GetMenuItemID(recenti, 0) == mnrec, vuoto);
+        EXPECT_EQ((GetMenuState(recenti, 0, MF_BYPOSITION) & MF_GRAYED) != 0, vuoto);
+    }
 }

@@ -1,7 +1,7 @@
 // The pointer while the document's commands work, and after.
 
 #include "tests/aiuti/comandi_prova_win.h"
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/spia_win.h"
 
 #include <set>
@@ -15,8 +15,8 @@ protected:
         SetCursorPos(0, 0);
         pompa();
         metti(L"uno");
-        finestra.campi().testo(CampoCanale::Titolo, L"titolo");
-        finestra.stato().modificato(false);
+        campi.testo(IDC_TXTTITOLO, L"titolo");
+        documento.modificato(false);
         SetCursor(normale);
     }
 

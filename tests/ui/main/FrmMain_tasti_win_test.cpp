@@ -1,5 +1,6 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
+#include "tests/aiuti/spia_win.h"
 
 #include "support/file_win.h"
 
@@ -13,9 +14,9 @@ protected:
         for (const wchar_t* const t : {L"a", L"b", L"c"}) {
             metti(t);
         }
-        SetFocus(finestra.griglia().lista());
+        SetFocus(griglia().lista());
     }
-    [[nodiscard]] HWND lista() { return finestra.griglia().lista(); }
+    [[nodiscard]] HWND lista() { return griglia().lista(); }
     [[nodiscard]] HWND pulsante(int id) {
         return GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), id);
     }
@@ -50,7 +51,7 @@ TEST_F(FrmMainTasti, InsInvioECancNellaGriglia) {
     attendiEditor(L"", L"d");
     premi(VK_INSERT);
     EXPECT_EQ(titoliElementi(), L"a;b;c;d;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 4);
+    EXPECT_EQ(griglia().rigaCorrente(), 4);
     attendiEditor(L"d", L"e");
     premi(VK_RETURN);
     EXPECT_EQ(titoliElementi(), L"a;b;c;e;");
@@ -60,21 +61,59 @@ TEST_F(FrmMainTasti, InsInvioECancNellaGriglia) {
     attendiCancellazione(Risposta::Si);
     premi(VK_DELETE);
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+    EXPECT_EQ(griglia().rigaCorrente(), 3);
 }
 
-TEST_F(FrmMainTasti, AltConLeFrecceSpostaSenzaSegnareLaModifica) {
+TEST_F(FrmMainTasti, AltConFrecceHomeEFineSpostaESegnaLaModifica) {
+    struct Mossa {
+        WORD tasto;
+        const wchar_t* dopo;
+        int riga;
+        bool modifica;
+    };
     riempi();
-    premi(VK_DOWN, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;a;c;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
-    premi(VK_DOWN, {VK_MENU});
-    premi(VK_DOWN, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;c;a;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
-    premi(VK_UP, {VK_MENU});
-    EXPECT_EQ(titoliElementi(), L"b;a;c;");
-    EXPECT_FALSE(finestra.stato().modificato());
+    metti(L"d");
+    for (const Mossa& mossa : {Mossa{VK_DOWN, L"b;a;c;d;", 2, true},
+                               {VK_END, L"b;c;d;a;", 4, true},
+                               {VK_DOWN, L"b;c;d;a;", 4, false},
+                               {VK_END, L"b;c;d;a;", 4, false},
+                               {VK_UP, L"b;c;a;d;", 3, true},
+                               {VK_HOME, L"a;b;c;d;", 1, true},
+                               {VK_HOME, L"a;b;c;d;", 1, false},
+                               {VK_UP, L"a;b;c;d;", 1, false}}) {
+        SCOPED_TRACE(inUtf8(mossa.dopo) + " " + std::to_string(mossa.tasto));
+        documento.modificato(false);
+        premi(mossa.tasto, {VK_MENU});
+        EXPECT_EQ(titoliElementi(), mossa.dopo);
+        EXPECT_EQ(griglia().rigaCorrente(), mossa.riga);
+        EXPECT_EQ(documento.modificato(), mossa.modifica);
+    }
+}
+
+TEST_F(FrmMainTasti, LasciareAltPrimaDellAltroTastoNonApreIlMenu) {
+    riempi();
+    int menuAperti = 0;
+    const Spia spia([&](const CWPSTRUCT& messaggio) {
+        if (messaggio.message == WM_ENTERMENULOOP) {
+            ++menuAperti;
+            PostMessageW(finestra.hwnd(), WM_KEYDOWN, VK_ESCAPE, 0);
+        }
+    });
+    for (const WORD tasto : {WORD{VK_DOWN}, WORD{VK_UP}, WORD{VK_END}, WORD{VK_HOME}}) {
+        SCOPED_TRACE(tasto);
+        menuAperti = 0;
+        premiGiu(VK_MENU);
+        premiGiu(tasto);
+        lascia(VK_MENU);
+        lascia(tasto);
+        EXPECT_EQ(menuAperti, 0);
+        // Alt alone still does.
+        premiGiu(VK_MENU);
+        lascia(VK_MENU);
+        EXPECT_EQ(menuAperti, 1);
+    }
+    EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(GetFocus(), lista());
 }
 
 TEST_F(FrmMainTasti, FuoriDallaGrigliaITastiSonoDelCampo) {
@@ -97,7 +136,7 @@ TEST_F(FrmMainTasti, CtrlNOESOvunqueStiaIlFuoco) {
         const std::wstring percorso = cartella.file(L"tasti.xml");
         dialoghi.attendiSalva(richiestaSalva, percorso);
         premi(L'S', {VK_CONTROL});
-        EXPECT_EQ(finestra.campi().Tag(), percorso);
+        EXPECT_EQ(documento.percorso(), percorso);
         premi(L'N', {VK_CONTROL});
         EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
         dialoghi.attendiApri(richiestaApri, percorso);
@@ -108,17 +147,25 @@ TEST_F(FrmMainTasti, CtrlNOESOvunqueStiaIlFuoco) {
 
 TEST_F(FrmMainTasti, SalvareDaTastieraPortaPrimaLeMisureNeiLimiti) {
     metti(L"uno");
-    SetFocus(finestra.campi().txtLarghezza().txtnumero());
+    SetFocus(campi.txtLarghezza().txtnumero());
     scrivi(L"25000");
     dialoghi.attendiSalva(richiestaSalva, std::nullopt);
     premi(L'S', {VK_CONTROL});
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 10000);
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 10000);
 }
 
 TEST_F(FrmMainTasti, F1ApreLaGuidaEDiceSeManca) {
     std::wstring guida = cartellaProgramma() + L'\\' + nomeProgramma();
     guida.replace(guida.rfind(L'.'), std::wstring::npos, L".htm");
     messaggi.attendi(guida + L": file non trovato!", L"Errore", Icona::Critica);
+    premi(VK_F1);
+}
+
+TEST_F(FrmMainTasti, UnErroreDellaGuidaSiDiceComeQuelliDegliElementi) {
+    // The message about the missing file cannot be shown: for the guide that is an error.
+    messaggi.attendi(fileGuida() + L": file non trovato!", L"Errore", Icona::Critica, Pulsanti::Ok,
+                     Risposta::Ok, [] { solleva(errori::memoriaEsaurita); });
+    messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
     premi(VK_F1);
 }
 
@@ -138,14 +185,14 @@ TEST_F(FrmMainTasti, IlDoppioClicSullIntestazioneOSuUnaRigaVuotaNonModificaNulla
     attendiNessunaSelezione();
     doppioClic(lista(), punto(4));
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(FrmMainTasti, ITastiDuranteUnTrascinamentoNonContano) {
     riempi();
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(2));
-    ASSERT_EQ(finestra.griglia().trascinato(), 0);
+    ASSERT_EQ(griglia().trascinato(), 0);
     premi(VK_DELETE);
     premi(VK_RETURN);
     premi(VK_INSERT);
@@ -153,8 +200,8 @@ TEST_F(FrmMainTasti, ITastiDuranteUnTrascinamentoNonContano) {
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"b;a;c;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 2);
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(griglia().rigaCorrente(), 2);
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
@@ -162,9 +209,11 @@ TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     premi(VK_ESCAPE);
-    EXPECT_EQ(finestra.griglia().trascinato(), -1);
+    EXPECT_EQ(griglia().trascinato(), -1);
+    EXPECT_EQ(griglia().rigaCorrente(), 1);
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
+    EXPECT_EQ(griglia().rigaCorrente(), 1);
 }
 
 TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
@@ -172,14 +221,14 @@ TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     const QuandoAppare menu(L"#32768", L"", [&](HWND) {
-        EXPECT_EQ(finestra.griglia().trascinato(), -1);
-        EXPECT_EQ(finestra.griglia().puntatore(), Puntatore::Predefinito);
+        EXPECT_EQ(griglia().trascinato(), -1);
+        EXPECT_EQ(griglia().puntatore(), Puntatore::Predefinito);
         EndMenu();
     });
     premi(VK_APPS);
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
-    EXPECT_EQ(finestra.griglia().rigaCorrente(), 3);
+    EXPECT_EQ(griglia().rigaCorrente(), 3);
 }
 
 TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
@@ -198,13 +247,13 @@ TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
 }
 
 TEST_F(FrmMainTasti, UnImmagineTroppoLargaEErrore380ELasciaLeMisure) {
-    finestra.campi().dimensioni(7, 8);
+    campi.dimensioni(7, 8);
     dialoghi.attendiApri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
                           L"Tutti i file (*.*)|*.*",
                           4100, L""},
                          cartella.scrivi(L"larga.bmp", immagini::bmp(20000, 1)));
     messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380", Icona::Informazione);
     clic(campo(IDC_CMDGETSIZE));
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 7);
-    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 8);
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 7);
+    EXPECT_EQ(campi.txtAltezza().Valore(), 8);
 }

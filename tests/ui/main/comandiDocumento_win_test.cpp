@@ -1,4 +1,4 @@
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/frmMain_win.h"
 
 #include <array>
@@ -19,9 +19,9 @@ protected:
     }
     // The document as it would be told apart from another one.
     [[nodiscard]] std::wstring impronta() {
-        std::wstring tutto = titolo() + L'|' + finestra.campi().Tag() + L'|' + titoliElementi();
-        for (std::size_t i = 0; i < CampiCanale::numeroTesti; ++i) {
-            tutto += L'|' + finestra.campi().testo(static_cast<CampoCanale>(i));
+        std::wstring tutto = titolo() + L'|' + documento.percorso() + L'|' + titoliElementi();
+        for (const int id : campiTesto) {
+            tutto += L'|' + campi.testo(id);
         }
         return tutto;
     }
@@ -40,35 +40,35 @@ TEST_F(Documenti, ApreChiedendoIlFileERiempieOgniCampo) {
                        "</lastBuildDate><webMaster>w</webMaster><image><title>t</title><url>u</url>"
                        "<link>k</link><width>120px</width><height>60</height></image>");
     dialoghi.attendiApri(richiestaApri, percorso);
-    EXPECT_TRUE(finestra.documento().Apri(L""));
+    EXPECT_TRUE(finestra.Apri(L""));
     EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
-    EXPECT_EQ(finestra.campi().Tag(), percorso);
+    EXPECT_EQ(documento.percorso(), percorso);
     const std::array attesi{L"Canale", L"l", L"a\r\nb", L"it", L"c", L"w", L"t", L"u", L"k"};
     for (std::size_t i = 0; i < attesi.size(); ++i) {
-        EXPECT_EQ(finestra.campi().testo(static_cast<CampoCanale>(i)), attesi[i]);
+        EXPECT_EQ(campi.testo(campiTesto[i]), attesi[i]);
     }
-    EXPECT_EQ(finestra.campi().dataOra(), DataOra::daParti(2005, 3, 5, 21, 22, 23));
-    EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 120);
-    EXPECT_EQ(finestra.campi().txtAltezza().Valore(), 60);
+    EXPECT_EQ(campi.dataOra(), DataOra::daParti(2005, 3, 5, 21, 22, 23));
+    EXPECT_EQ(campi.txtLarghezza().Valore(), 120);
+    EXPECT_EQ(campi.txtAltezza().Valore(), 60);
     EXPECT_EQ(titoliElementi(), L"uno;");
-    EXPECT_EQ(finestra.griglia().righe().elemento(1), 0);
-    EXPECT_FALSE(finestra.stato().modificato());
-    EXPECT_FALSE(finestra.stato().nuovo());
+    EXPECT_EQ(griglia().righe().elemento(1), 0);
+    EXPECT_FALSE(documento.modificato());
+    EXPECT_FALSE(documento.nuovo());
     // Only a save adds to the recent files.
     EXPECT_TRUE(impostazioni.valori.empty());
 }
 
 TEST_F(Documenti, AnnullareIDialoghiNonCambiaNulla) {
     metti(L"uno");
-    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    campi.testo(IDC_TXTTITOLO, L"t");
     const std::wstring prima = impronta();
     attendiDomanda(Risposta::No);
     dialoghi.attendiApri(richiestaApri, std::nullopt);
-    EXPECT_FALSE(finestra.documento().Apri(L""));
+    EXPECT_FALSE(finestra.Apri(L""));
     dialoghi.attendiSalva(richiestaSalva, std::nullopt);
-    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_FALSE(finestra.Salva(false));
     EXPECT_EQ(impronta(), prima);
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(Documenti, UnFileRecenteCheMancaEErrore8292ELasciaIlDocumento) {
@@ -76,89 +76,99 @@ TEST_F(Documenti, UnFileRecenteCheMancaEErrore8292ELasciaIlDocumento) {
     const std::wstring prima = impronta();
     const std::wstring percorso = cartella.file(L"città.xml");
     attendiErrore(8292, inMaiuscolo(percorso) + L": impossibile trovare il file.");
-    EXPECT_FALSE(finestra.documento().Apri(percorso));
+    EXPECT_FALSE(finestra.Apri(percorso));
     EXPECT_EQ(impronta(), prima);
 }
 
 TEST_F(Documenti, UnaCartellaOUnFileNascostoNonSiTrovano) {
     attendiErrore(8292, inMaiuscolo(cartella.percorso()) + L": impossibile trovare il file.");
-    EXPECT_FALSE(finestra.documento().Apri(cartella.percorso()));
+    EXPECT_FALSE(finestra.Apri(cartella.percorso()));
     const std::wstring nascosto = feed(L"n.xml");
     SetFileAttributesW(nascosto.c_str(), FILE_ATTRIBUTE_HIDDEN);
     attendiErrore(8292, inMaiuscolo(nascosto) + L": impossibile trovare il file.");
-    EXPECT_FALSE(finestra.documento().Apri(nascosto));
+    EXPECT_FALSE(finestra.Apri(nascosto));
 }
 
 TEST_F(Documenti, LaDomandaVienePrimaDelControlloDelFile) {
     metti(L"uno");
     finestra.ImpostaModificato();
     attendiDomanda(Risposta::Annulla);
-    EXPECT_FALSE(finestra.documento().Apri(cartella.file(L"manca.xml")));
+    EXPECT_FALSE(finestra.Apri(cartella.file(L"manca.xml")));
 }
 
 TEST_F(Documenti, UnFileIllegibileLasciaLaFinestraVuotaEPulita) {
     metti(L"uno");
-    finestra.campi().testo(CampoCanale::Titolo, L"t");
-    finestra.campi().Tag(L"C:\\vecchio.xml");
+    campi.testo(IDC_TXTTITOLO, L"t");
+    documento.percorso(L"C:\\vecchio.xml");
     const std::wstring percorso = cartella.scrivi(L"rotto.xml", "<rss>");
     attendiDomanda(Risposta::No);
     attendiErrore(18343, inMaiuscolo(percorso) + L": impossibile caricare il documento.");
-    EXPECT_FALSE(finestra.documento().Apri(percorso));
+    EXPECT_FALSE(finestra.Apri(percorso));
     EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
     EXPECT_EQ(titoliElementi(), L"");
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"");
-    EXPECT_EQ(finestra.campi().Tag(), L"");
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_EQ(campi.testo(IDC_TXTTITOLO), L"");
+    EXPECT_EQ(documento.percorso(), L"");
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(Documenti, UnaDataIllegibileSiDiceUnaVoltaEIlRestoSiCarica) {
     attendiErrore(4453, L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
-    EXPECT_TRUE(finestra.documento().Apri(
+    EXPECT_TRUE(finestra.Apri(
         feed(L"d.xml", "<lastBuildDate>ieri</lastBuildDate><webMaster>w</webMaster>")));
-    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::WebMaster), L"w");
+    EXPECT_EQ(campi.dataOra(), orologio.locale());
+    EXPECT_EQ(campi.testo(IDC_TXTWEBMASTER), L"w");
     EXPECT_EQ(titoliElementi(), L"uno;");
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(Documenti, UnaDataCheISelettoriNonTengonoSiDiceUnaVolta) {
     attendiErrore(380, L"Valore di proprietà non valido");
-    EXPECT_TRUE(finestra.documento().Apri(
+    EXPECT_TRUE(finestra.Apri(
         feed(L"d.xml", "<lastBuildDate>Sat, 01 Jan 1600 00:00:00 +0000</lastBuildDate>")));
-    EXPECT_EQ(finestra.campi().dataOra(), orologio.locale());
+    EXPECT_EQ(campi.dataOra(), orologio.locale());
 }
 
-TEST_F(Documenti, UnaMisuraFuoriDaiLimitiFinisceLAperturaELasciaIlRiempito) {
-    for (const char* const misura : {"<width>10001</width>", "<width>-1</width>"}) {
-        attendiErrore(380, L"Valore di proprietà non valido");
+TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
+    for (const char* const misura :
+         {"<width>10001</width>", "<width>-1</width>", "<height>10001</height>"}) {
+        messaggi.attendi(L"Valore di proprietà non valido", L"Errore n° 380", Icona::Critica,
+                         Pulsanti::Ok, Risposta::Ok,
+                         [&] { EXPECT_EQ(griglia().righe().elemento(1), -1); });
         const std::wstring percorso =
             feed(L"m.xml", "<image><title>t</title>" + std::string(misura) + "</image>");
-        EXPECT_FALSE(finestra.documento().Apri(percorso));
-        EXPECT_EQ(finestra.campi().Tag(), percorso);
-        EXPECT_EQ(finestra.campi().testo(CampoCanale::Logo), L"t");
-        EXPECT_EQ(finestra.campi().txtLarghezza().Valore(), 0);
+        EXPECT_FALSE(finestra.Apri(percorso));
+        EXPECT_EQ(documento.percorso(), percorso);
+        EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
+        EXPECT_EQ(campi.testo(IDC_TXTLOGO), L"t");
+        EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
+        EXPECT_EQ(campi.txtAltezza().Valore(), 0);
+        EXPECT_EQ(titoliElementi(), L"uno;");
+        EXPECT_EQ(griglia().righe().elemento(1), 0);
+        EXPECT_EQ(griglia().righe().cella(1, 1), L"uno\r\n");
+        EXPECT_TRUE(documento.modificato());
+        EXPECT_FALSE(documento.nuovo());
         finestra.NuovoDocumento();
     }
 }
 
 TEST_F(Documenti, SalvareSenzaElementiEErrore12883) {
-    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    campi.testo(IDC_TXTTITOLO, L"t");
     attendiErrore(12883, nessunContenuto);
-    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_FALSE(finestra.Salva(false));
     attendiErrore(12883, nessunContenuto);
-    EXPECT_FALSE(finestra.documento().Salva(true));
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_FALSE(finestra.Salva(true));
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(Documenti, RispondereSiSenzaElementiAbbandonaLAzione) {
-    finestra.campi().testo(CampoCanale::Titolo, L"t");
+    campi.testo(IDC_TXTTITOLO, L"t");
     attendiDomanda(Risposta::Si);
     attendiErrore(12883, nessunContenuto);
-    EXPECT_FALSE(finestra.documento().ChiediSalvataggio());
+    EXPECT_FALSE(finestra.ChiediSalvataggio());
     attendiDomanda(Risposta::Si);
     attendiErrore(12883, nessunContenuto);
     finestra.esegui(mnNuovo);
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"t");
+    EXPECT_EQ(campi.testo(IDC_TXTTITOLO), L"t");
 }
 
 TEST_F(Documenti, SalvaRifilaICampiETieneGliSpaziInizialiDellaDescrizione) {
@@ -166,13 +176,13 @@ TEST_F(Documenti, SalvaRifilaICampiETieneGliSpaziInizialiDellaDescrizione) {
     const std::array scritti{L"  t ", L" l  ", L"  d  ", L" it ", L" c ",
                              L" w ",  L" i ",  L" u ",   L" k "};
     for (std::size_t i = 0; i < scritti.size(); ++i) {
-        finestra.campi().testo(static_cast<CampoCanale>(i), scritti[i]);
+        campi.testo(campiTesto[i], scritti[i]);
     }
-    finestra.campi().dimensioni(12, 34);
+    campi.dimensioni(12, 34);
     const std::wstring percorso = cartella.file(L"s.xml");
     dialoghi.attendiSalva(richiestaSalva, percorso);
-    EXPECT_TRUE(finestra.documento().Salva(false));
-    Documento d;
+    EXPECT_TRUE(finestra.Salva(false));
+    FeedDiProva d;
     d.leggi(percorso);
     EXPECT_EQ(d.title, L"t");
     EXPECT_EQ(d.link, L"l");
@@ -187,18 +197,18 @@ TEST_F(Documenti, SalvaRifilaICampiETieneGliSpaziInizialiDellaDescrizione) {
     EXPECT_EQ(d.image.nHeight(), 34);
     EXPECT_EQ(d.lastBuildDate.substr(0, 25), L"Tue, 15 Nov 2005 10:00:00");
     EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_FALSE(documento.modificato());
 }
 
 TEST_F(Documenti, UnImmagineSenzaTitoloSiScriveSenzaMisure) {
     metti(L"uno");
-    finestra.campi().testo(CampoCanale::Logo, L"   ");
-    finestra.campi().testo(CampoCanale::Url, L"u");
-    finestra.campi().dimensioni(12, 34);
+    campi.testo(IDC_TXTLOGO, L"   ");
+    campi.testo(IDC_TXTURL, L"u");
+    campi.dimensioni(12, 34);
     const std::wstring percorso = cartella.file(L"i.xml");
     dialoghi.attendiSalva(richiestaSalva, percorso);
-    ASSERT_TRUE(finestra.documento().Salva(false));
-    Documento d;
+    ASSERT_TRUE(finestra.Salva(false));
+    FeedDiProva d;
     d.leggi(percorso);
     EXPECT_EQ(d.image.sTitle(), L"");
     EXPECT_EQ(d.image.sUrl(), L"u");
@@ -207,30 +217,30 @@ TEST_F(Documenti, UnImmagineSenzaTitoloSiScriveSenzaMisure) {
 }
 
 TEST_F(Documenti, SalvaSuUnDocumentoConNomeNonChiedeConNomeChiedeSempre) {
-    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
-    finestra.campi().testo(CampoCanale::Titolo, L"altro");
-    EXPECT_TRUE(finestra.documento().Salva(false));
+    ASSERT_TRUE(finestra.Apri(feed(L"a.xml")));
+    campi.testo(IDC_TXTTITOLO, L"altro");
+    EXPECT_TRUE(finestra.Salva(false));
     const std::wstring nuovo = cartella.file(L"b.xml");
     dialoghi.attendiSalva(richiestaSalva, nuovo);
-    EXPECT_TRUE(finestra.documento().Salva(true));
-    EXPECT_EQ(finestra.campi().Tag(), nuovo);
-    Documento d;
+    EXPECT_TRUE(finestra.Salva(true));
+    EXPECT_EQ(documento.percorso(), nuovo);
+    FeedDiProva d;
     d.leggi(nuovo);
     EXPECT_EQ(d.title, L"altro");
 }
 
 TEST_F(Documenti, UnSalvataggioFallitoLasciaPercorsoTitoloElencoEModifica) {
-    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
-    finestra.campi().testo(CampoCanale::Titolo, L"altro");
+    ASSERT_TRUE(finestra.Apri(feed(L"a.xml")));
+    campi.testo(IDC_TXTTITOLO, L"altro");
     const std::wstring prima = impronta();
     const std::wstring protetto = feed(L"p.xml");
     SetFileAttributesW(protetto.c_str(), FILE_ATTRIBUTE_READONLY);
     dialoghi.attendiSalva(richiestaSalva, protetto);
     attendiErrore(75, L"Errore di accesso al percorso/file");
-    EXPECT_FALSE(finestra.documento().Salva(true));
+    EXPECT_FALSE(finestra.Salva(true));
     EXPECT_NE(leggiTutto(protetto).find("Canale"), std::string::npos);
     EXPECT_EQ(impronta(), prima);
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(documento.modificato());
     EXPECT_TRUE(impostazioni.valori.empty());
 }
 
@@ -241,36 +251,36 @@ TEST_F(Documenti, UnElencoCheNonSiScriveSiDiceAFileGiaSalvatoECheRestaModificato
     const std::wstring percorso = cartella.file(L"r.xml");
     dialoghi.attendiSalva(richiestaSalva, percorso);
     attendiErrore(75, L"Errore di accesso al percorso/file");
-    EXPECT_FALSE(finestra.documento().Salva(false));
+    EXPECT_FALSE(finestra.Salva(false));
     EXPECT_NE(leggiTutto(percorso).find("uno"), std::string::npos);
     EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_TRUE(documento.modificato());
     // Once the store lets itself be written, the same file without asking.
     impostazioni.rifiuta = false;
-    EXPECT_TRUE(finestra.documento().Salva(false));
-    EXPECT_FALSE(finestra.stato().modificato());
+    EXPECT_TRUE(finestra.Salva(false));
+    EXPECT_FALSE(documento.modificato());
     EXPECT_EQ(impostazioni.valori.size(), 1U);
 }
 
 TEST_F(Documenti, UnFileTenutoDaUnAltroProgrammaNonSiSalva) {
-    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
-    const ManigliaFile tenuto(CreateFileW(finestra.campi().Tag().c_str(), GENERIC_READ, 0, nullptr,
+    ASSERT_TRUE(finestra.Apri(feed(L"a.xml")));
+    const ManigliaFile tenuto(CreateFileW(documento.percorso().c_str(), GENERIC_READ, 0, nullptr,
                                           OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(tenuto);
-    finestra.campi().testo(CampoCanale::Titolo, L"altro");
+    campi.testo(IDC_TXTTITOLO, L"altro");
     attendiErrore(70, L"Autorizzazione negata");
-    EXPECT_FALSE(finestra.documento().Salva(false));
-    EXPECT_TRUE(finestra.stato().modificato());
+    EXPECT_FALSE(finestra.Salva(false));
+    EXPECT_TRUE(documento.modificato());
 }
 
 TEST_F(Documenti, UnCarattereCheLXmlNonTieneNonToccaIlFile) {
-    ASSERT_TRUE(finestra.documento().Apri(feed(L"a.xml")));
-    const std::string prima = leggiTutto(finestra.campi().Tag());
-    finestra.elementi()(CampoElemento::Descrizione, 0) = L"a]]>b";
-    attendiErrore(5, inMaiuscolo(finestra.campi().Tag()) +
+    ASSERT_TRUE(finestra.Apri(feed(L"a.xml")));
+    const std::string prima = leggiTutto(documento.percorso());
+    ::metti(documento, CampoElemento::Descrizione, 0, L"a]]>b");
+    attendiErrore(5, inMaiuscolo(documento.percorso()) +
                          L": sequenza ]]> non ammessa in descrizione dell'elemento 1.");
-    EXPECT_FALSE(finestra.documento().Salva(false));
-    EXPECT_EQ(leggiTutto(finestra.campi().Tag()), prima);
+    EXPECT_FALSE(finestra.Salva(false));
+    EXPECT_EQ(leggiTutto(documento.percorso()), prima);
 }
 
 TEST_F(Documenti, NomiDifficiliSiSalvanoESiRiapronoUguali) {
@@ -280,9 +290,9 @@ TEST_F(Documenti, NomiDifficiliSiSalvanoESiRiapronoUguali) {
         metti(nome);
         const std::wstring percorso = cartella.file(nome);
         dialoghi.attendiSalva(richiestaSalva, percorso);
-        ASSERT_TRUE(finestra.documento().Salva(false));
+        ASSERT_TRUE(finestra.Salva(false));
         finestra.NuovoDocumento();
-        ASSERT_TRUE(finestra.documento().Apri(percorso));
+        ASSERT_TRUE(finestra.Apri(percorso));
         EXPECT_EQ(titoliElementi(), std::wstring(nome) + L';');
     }
 }
@@ -306,7 +316,7 @@ TEST_F(Documenti, IRecentiStannoNelMenuESiAprono) {
     metti(L"uno");
     const std::wstring percorso = cartella.file(L"A&B.XML");
     dialoghi.attendiSalva(richiestaSalva, percorso);
-    ASSERT_TRUE(finestra.documento().Salva(false));
+    ASSERT_TRUE(finestra.Salva(false));
     ASSERT_EQ(GetMenuItemCount(recenti), 1);
     EXPECT_NE(voce(0).find(L"a&&b.xml"), std::wstring::npos);
 
@@ -314,7 +324,7 @@ TEST_F(Documenti, IRecentiStannoNelMenuESiAprono) {
     SendMessageW(finestra.hwnd(), WM_COMMAND, GetMenuItemID(recenti, 0), 0);
     EXPECT_EQ(titoliElementi(), L"uno;");
     // Opened from the list, under the path as the list has it.
-    EXPECT_NE(finestra.campi().Tag().find(L"a&b.xml"), std::wstring::npos);
+    EXPECT_NE(documento.percorso().find(L"a&b.xml"), std::wstring::npos);
 }
 
 TEST_F(Documenti, AncheIlDecimoRecenteSiApre) {
@@ -329,11 +339,11 @@ TEST_F(Documenti, AncheIlDecimoRecenteSiApre) {
 }
 
 TEST_F(Documenti, UnDocumentoNuovoDiSoliSpaziVaSenzaDomanda) {
-    finestra.campi().testo(CampoCanale::Titolo, L"   ");
-    EXPECT_TRUE(finestra.stato().modificato());
-    EXPECT_TRUE(finestra.documento().ChiediSalvataggio());
+    campi.testo(IDC_TXTTITOLO, L"   ");
+    EXPECT_TRUE(documento.modificato());
+    EXPECT_TRUE(finestra.ChiediSalvataggio());
     finestra.esegui(mnNuovo);
-    EXPECT_EQ(finestra.campi().testo(CampoCanale::Titolo), L"");
+    EXPECT_EQ(campi.testo(IDC_TXTTITOLO), L"");
 }
 
 // Every state of the document against every command that throws it away, and every answer.
@@ -355,15 +365,15 @@ TEST_F(Documenti, OgniStatoOgniComandoOgniRisposta) {
                         finestra.NuovoDocumento();
                         if (conNome) {
                             const std::wstring mio = feed(L"mio.xml");
-                            ASSERT_TRUE(finestra.documento().Apri(mio));
+                            ASSERT_TRUE(finestra.Apri(mio));
                         }
                         if (vuoto) {
-                            finestra.elementi().svuota();
-                            finestra.campi().testo(CampoCanale::Titolo, L"");
+                            documento.sostituisci({});
+                            campi.testo(IDC_TXTTITOLO, L"");
                         } else if (!conNome) {
                             metti(L"uno");
                         }
-                        finestra.stato().modificato(modificato);
+                        documento.modificato(modificato);
                         const std::wstring prima = impronta();
 
                         const bool chiede = modificato && (conNome || !vuoto);
@@ -390,14 +400,14 @@ TEST_F(Documenti, OgniStatoOgniComandoOgniRisposta) {
                         finestra.esegui(comando);
                         if (!prosegue) {
                             EXPECT_EQ(impronta(), prima);
-                            EXPECT_TRUE(finestra.stato().modificato());
+                            EXPECT_TRUE(documento.modificato());
                         } else if (comando == mnNuovo) {
                             EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
                             EXPECT_EQ(titoliElementi(), L"");
                         } else {
-                            EXPECT_EQ(finestra.campi().Tag(), altro);
+                            EXPECT_EQ(documento.percorso(), altro);
                         }
-                        EXPECT_EQ(finestra.stato().modificato(), !prosegue);
+                        EXPECT_EQ(documento.modificato(), !prosegue);
                     }
                 }
             }

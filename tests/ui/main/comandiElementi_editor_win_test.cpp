@@ -46,13 +46,13 @@ TEST_F(ComandiConEditorVero, IlProssimoNuovoParteDallaDataDellUltimo) {
 }
 
 TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato) {
-    TabellaElementi& tabella = banco.griglia.tabella;
-    tabella(CampoElemento::Titolo, 1) = L"  titolo  ";
-    tabella(CampoElemento::Link, 1) = L"link";
-    tabella(CampoElemento::Descrizione, 1) = L"riga\r\n\tseconda ";
-    tabella(CampoElemento::Autore, 1) = L" autore ";
-    tabella(CampoElemento::Guid, 1) = L" guid ";
-    banco.finestra.SelezionaRiga(2);
+    Documento& documento = banco.griglia.documento;
+    metti(documento, CampoElemento::Titolo, 1, L"  titolo  ");
+    metti(documento, CampoElemento::Link, 1, L"link");
+    metti(documento, CampoElemento::Descrizione, 1, L"riga\r\n\tseconda ");
+    metti(documento, CampoElemento::Autore, 1, L" autore ");
+    metti(documento, CampoElemento::Guid, 1, L" guid ");
+    banco.seleziona(2);
     usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_RETURN); });
     EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"titolo");
     EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"riga\r\n\tseconda");
@@ -62,10 +62,10 @@ TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato)
 }
 
 TEST_F(ComandiConEditorVero, LaDataIlleggibileDiUnElementoRestaSeSiAnnulla) {
-    banco.griglia.tabella(CampoElemento::Data, 1) = L"domani";
-    banco.finestra.SelezionaRiga(2);
+    metti(banco.griglia.documento, CampoElemento::Data, 1, L"domani");
+    banco.seleziona(2);
     messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione);
     usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_ESCAPE); });
     EXPECT_EQ(banco.campo(CampoElemento::Data, 1), L"domani");
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }

@@ -68,8 +68,8 @@ TEST_F(ComandiElementiGriglia, AggiungiMetteInFondoConGuidESeleziona) {
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 61);
     EXPECT_TRUE(banco.griglia.griglia.visibile(61));
     EXPECT_EQ(banco.griglia.testo(61, 1), L"t nuovo\r\nd nuovo");
-    EXPECT_EQ(banco.ultima, ieri);
-    EXPECT_TRUE(banco.finestra.modificato);
+    EXPECT_EQ(banco.griglia.documento.ultimaData(), ieri);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, IlPrimoElementoDiUnDocumentoVuoto) {
@@ -79,7 +79,7 @@ TEST_F(ComandiElementiGriglia, IlPrimoElementoDiUnDocumentoVuoto) {
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 1);
     EXPECT_EQ(banco.griglia.testo(1, 2), L"0");
     EXPECT_EQ(banco.griglia.testo(2, 2), L"-1");
-    EXPECT_EQ(banco.finestra.ElementoSelezionato(), 0);
+    EXPECT_EQ(banco.selezionato(), 0);
 }
 
 TEST_F(ComandiElementiGriglia, LEditorRiceveUnElementoVuotoELaDataDellUltimoAggiunto) {
@@ -100,12 +100,12 @@ TEST_F(ComandiElementiGriglia, LEditorRiceveUnElementoVuotoELaDataDellUltimoAggi
     });
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 4);
-    EXPECT_EQ(banco.ultima, ieri);
+    EXPECT_EQ(banco.griglia.documento.ultimaData(), ieri);
 }
 
 TEST_F(ComandiElementiGriglia, AnnullareNonCambiaNulla) {
     Banco banco(3, editor);
-    banco.finestra.SelezionaRiga(2);
+    banco.seleziona(2);
     editor.attendi([](clsItemRss& elemento, DataOra) {
         elemento.sTitle(L"buttato");
         return std::nullopt;
@@ -121,18 +121,18 @@ TEST_F(ComandiElementiGriglia, AnnullareNonCambiaNulla) {
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
-    EXPECT_EQ(banco.ultima, inizio);
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_EQ(banco.griglia.documento.ultimaData(), inizio);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, ModificaRiscriveLaColonnaETieneIlGuid) {
     Banco banco(3, editor);
-    TabellaElementi& tabella = banco.griglia.tabella;
-    tabella(CampoElemento::Link, 1) = L"link";
-    tabella(CampoElemento::Autore, 1) = L"autore";
-    tabella(CampoElemento::Descrizione, 1) = L"a\tb";
-    tabella(CampoElemento::Guid, 1) = L"il guid";
-    banco.finestra.SelezionaRiga(2);
+    Documento& documento = banco.griglia.documento;
+    metti(documento, CampoElemento::Link, 1, L"link");
+    metti(documento, CampoElemento::Autore, 1, L"autore");
+    metti(documento, CampoElemento::Descrizione, 1, L"a\tb");
+    metti(documento, CampoElemento::Guid, 1, L"il guid");
+    banco.seleziona(2);
     editor.attendi([](clsItemRss& elemento, DataOra) {
         EXPECT_EQ(elemento.sTitle(), L"titolo 1");
         EXPECT_EQ(elemento.sLink(), L"link");
@@ -151,9 +151,19 @@ TEST_F(ComandiElementiGriglia, ModificaRiscriveLaColonnaETieneIlGuid) {
     EXPECT_EQ(banco.campo(CampoElemento::Guid, 1), L"il guid");
     EXPECT_EQ(banco.griglia.testo(2, 1), L"altro\r\na    b");
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
-    EXPECT_TRUE(banco.finestra.modificato);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
     // Only an added item leaves its date.
-    EXPECT_EQ(banco.ultima, inizio);
+    EXPECT_EQ(banco.griglia.documento.ultimaData(), inizio);
+}
+
+TEST_F(ComandiElementiGriglia, ConfermareSenzaCambiareNullaEUnaModifica) {
+    Banco banco(3, editor);
+    banco.seleziona(2);
+    editor.attendi([](clsItemRss&, DataOra ultima) { return ultima; });
+    banco.comandi.cmdModifica_Click();
+    EXPECT_EQ(banco.griglia.titoli(),
+              (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, SenzaElementoModificaECancellaLoDicono) {
@@ -164,30 +174,30 @@ TEST_F(ComandiElementiGriglia, SenzaElementoModificaECancellaLoDicono) {
     vuoto.comandi.cmdCancella_Click();
 
     Banco banco(2, editor);
-    banco.finestra.SelezionaRiga(3); // a filler row
+    banco.seleziona(3); // a filler row
     banco.attendiSelezione();
     banco.comandi.cmdModifica_Click();
     banco.attendiSelezione();
     banco.comandi.cmdCancella_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, CancellaSelezionaLaRigaSopra) {
     Banco banco(5, editor);
-    banco.finestra.SelezionaRiga(4); // item 3
+    banco.seleziona(4); // item 3
     banco.attendiDomanda(Risposta::Si);
     banco.comandi.cmdCancella_Click();
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2", L"titolo 4"}));
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 3);
-    EXPECT_EQ(banco.finestra.ElementoSelezionato(), 2);
-    EXPECT_TRUE(banco.finestra.modificato);
+    EXPECT_EQ(banco.selezionato(), 2);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, CancellatoIlPrimoSiSelezionaIlNuovoPrimo) {
     Banco banco(3, editor);
-    banco.finestra.SelezionaRiga(1);
+    banco.seleziona(1);
     banco.attendiDomanda(Risposta::Si);
     banco.comandi.cmdCancella_Click();
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 1);
@@ -202,35 +212,35 @@ TEST_F(ComandiElementiGriglia, CancellatoLUnicoRestaLaTabellaVuota) {
     EXPECT_EQ(banco.griglia.tabella.limiteSuperiore(), 0);
     EXPECT_EQ(banco.campo(CampoElemento::Titolo, 0), L"");
     EXPECT_EQ(banco.griglia.testo(1, 2), L"-1");
-    EXPECT_EQ(banco.finestra.ElementoSelezionato(), -1);
-    EXPECT_TRUE(banco.finestra.modificato);
+    EXPECT_EQ(banco.selezionato(), -1);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, SpostaElementoNonToccaIlSegnoDiModifica) {
     Banco banco(4, editor);
-    banco.comandi.SpostaElemento(0, 2);
+    banco.comandi.SpostaElemento(0, 2, Causa::Trascinamento);
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 1", L"titolo 2", L"titolo 0", L"titolo 3"}));
-    banco.comandi.SpostaElemento(2, 0);
-    banco.comandi.SpostaElemento(3, 1);
+    banco.comandi.SpostaElemento(2, 0, Causa::Trascinamento);
+    banco.comandi.SpostaElemento(3, 1, Causa::Trascinamento);
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 3", L"titolo 1", L"titolo 2"}));
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, ATabellaPienaSiDiceErrore6PrimaDiAprireLEditor) {
     Banco banco(0, editor);
-    banco.griglia.tabella.dimensiona(32767);
+    dimensiona(banco.griglia.documento, 32767);
     banco.messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 32767);
-    EXPECT_EQ(banco.ultima, inizio);
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_EQ(banco.griglia.documento.ultimaData(), inizio);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, LUltimoPostoSiRiempie) {
     Banco banco(0, editor);
-    banco.griglia.tabella.dimensiona(32766);
+    dimensiona(banco.griglia.documento, 32766);
     attendiCompilato(L"ultimo");
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 32767);
@@ -253,14 +263,14 @@ TEST_F(ComandiElementiGriglia, UnFallimentoSiDiceELasciaLaTabellaComEra) {
                            Icona::Informazione);
     banco.comandi.cmdModifica_Click();
     EXPECT_EQ(banco.griglia.titoli(), (std::vector<std::wstring>{L"titolo 0", L"titolo 1"}));
-    EXPECT_FALSE(banco.finestra.modificato);
+    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, UnElementoSparitoSottoLEditorEErrore9) {
     Banco banco(2, editor);
-    banco.finestra.SelezionaRiga(2);
+    banco.seleziona(2);
     editor.attendi([&](clsItemRss&, DataOra) {
-        banco.griglia.tabella.svuota();
+        banco.griglia.documento.sostituisci({});
         return inizio;
     });
     banco.messaggi.attendi(L"Indice non incluso nell'intervallo", L"Errore  9",
@@ -272,11 +282,11 @@ TEST_F(ComandiElementiGriglia, UnElementoSparitoSottoLEditorEErrore9) {
 TEST_F(ComandiElementiGriglia, SeLaGrigliaFallisceLaModificaEComunqueSegnata) {
     Banco banco(1, editor);
     attendiCompilato(L"nuovo");
-    banco.finestra.fallisce = true;
+    banco.fallita.fallisce = true;
     banco.messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
-    EXPECT_TRUE(banco.finestra.modificato);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
@@ -294,17 +304,17 @@ TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
             attendiCompilato(nome);
             banco.comandi.cmdAggiungi_Click();
             modello.push_back(nome);
-            ASSERT_EQ(banco.finestra.ElementoSelezionato(), static_cast<int>(modello.size()) - 1);
+            ASSERT_EQ(banco.selezionato(), static_cast<int>(modello.size()) - 1);
         } else if (azione < 5) {
             const int i = scelto();
-            banco.finestra.SelezionaRiga(i + 1);
+            banco.seleziona(i + 1);
             attendiCompilato(nome);
             banco.comandi.cmdModifica_Click();
             modello[static_cast<std::size_t>(i)] = nome;
-            ASSERT_EQ(banco.finestra.ElementoSelezionato(), i);
+            ASSERT_EQ(banco.selezionato(), i);
         } else if (azione < (cala ? 7U : 6U)) {
             const int i = scelto();
-            banco.finestra.SelezionaRiga(i + 1);
+            banco.seleziona(i + 1);
             banco.attendiDomanda(Risposta::Si);
             banco.comandi.cmdCancella_Click();
             modello.erase(modello.begin() + i);
@@ -312,8 +322,7 @@ TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
         } else {
             const int da = scelto();
             const int a = scelto();
-            banco.comandi.SpostaElemento(da, a);
-            banco.finestra.RiempiGriglia(false);
+            banco.comandi.SpostaElemento(da, a, Causa::Trascinamento);
             const std::wstring mosso = modello[static_cast<std::size_t>(da)];
             modello.erase(modello.begin() + da);
             modello.insert(modello.begin() + a, mosso);

@@ -18,10 +18,10 @@ protected:
 
     // What an export or a preview must leave as it is.
     [[nodiscard]] std::wstring stato() {
-        return titolo() + L'|' + finestra.campi().Tag() + L'|' + titoliElementi() +
-               std::to_wstring(finestra.stato().modificato()) +
+        return titolo() + L'|' + documento.percorso() + L'|' + titoliElementi() +
+               std::to_wstring(documento.modificato()) +
                std::to_wstring(impostazioni.valori.size()) + L'|' +
-               std::to_wstring(finestra.griglia().rigaCorrente());
+               std::to_wstring(griglia().rigaCorrente());
     }
     void attendiSelezione() {
         messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
@@ -54,7 +54,7 @@ TEST_F(Pagina, AnnullareLEsportazioneNonDiceNulla) {
 
 TEST_F(Pagina, RispondereNoLasciaLaPaginaENonApreNulla) {
     for (const bool modificato : {false, true}) {
-        finestra.stato().modificato(modificato);
+        documento.modificato(modificato);
         const std::wstring prima = stato();
         dialoghi.attendiSalva(richiestaPagina, cartella.file(L"no.htm"));
         attendiDomandaPagina(Risposta::No);
@@ -71,9 +71,9 @@ TEST_F(Pagina, LaPaginaEsportataHaIlCanaleComeSiSalverebbeEOgniElemento) {
     const std::array scritti{L"  t ", L" l  ", L"  d  ", L" it ", L" c ",
                              L" w ",  L" i ",  L" u ",   L" k "};
     for (std::size_t i = 0; i < scritti.size(); ++i) {
-        finestra.campi().testo(static_cast<CampoCanale>(i), scritti[i]);
+        campi.testo(campiTesto[i], scritti[i]);
     }
-    finestra.campi().dimensioni(12, 34);
+    campi.dimensioni(12, 34);
     clsImgRss immagine;
     immagine.sTitle(L"i");
     immagine.sUrl(L"u");
@@ -84,12 +84,12 @@ TEST_F(Pagina, LaPaginaEsportataHaIlCanaleComeSiSalverebbeEOgniElemento) {
     const auto scriviAttesa = [&] {
         clsFeedRss().CreaDocumentoHTML(attesa, L"t", L"l", L"  d", L"it", L"c",
                                        L"Tue, 15 Nov 2005 10:00:00 +0100", L"w", immagine,
-                                       finestra.elementi());
+                                       documento.elementi());
         return leggiTutto(attesa);
     };
     EXPECT_EQ(esporta(cartella.file(L"p.htm")), scriviAttesa());
     // Without a title the image loses its size.
-    finestra.campi().testo(CampoCanale::Logo, L" ");
+    campi.testo(IDC_TXTLOGO, L" ");
     immagine = clsImgRss();
     immagine.sUrl(L"u");
     immagine.sLink(L"k");
@@ -192,17 +192,13 @@ TEST_F(Pagina, LAnteprimaMostraSoloLElementoSceltoESparisceConLaCoda) {
 }
 
 TEST_F(Pagina, LAnteprimaHaOgniCampoDellElementoTranneIlGuid) {
+    const ElementoCondiviso elemento =
+        creaElemento({L" titolo ", L"https://e.example/?a=1&b=2", L"<b>testo</b>", L" autore",
+                      L"Sat, 05 Mar 2005 21:22:23 +0100", L"identificativo"});
     TabellaElementi solo;
-    static_cast<void>(solo.aggiungi());
-    for (TabellaElementi* const tabella : {&finestra.elementi(), &solo}) {
-        const int i = tabella == &solo ? 0 : 1;
-        (*tabella)(CampoElemento::Titolo, i) = L" titolo ";
-        (*tabella)(CampoElemento::Link, i) = L"https://e.example/?a=1&b=2";
-        (*tabella)(CampoElemento::Descrizione, i) = L"<b>testo</b>";
-        (*tabella)(CampoElemento::Autore, i) = L" autore";
-        (*tabella)(CampoElemento::Data, i) = L"Sat, 05 Mar 2005 21:22:23 +0100";
-        (*tabella)(CampoElemento::Guid, i) = L"identificativo";
-    }
+    solo.riempi({elemento});
+    documento.applica(documento.cambio(1, elemento), Causa::Trascinamento);
+    finestra.SelezionaRiga(2);
     finestra.esegui(mnvisualhtml);
     const std::string pagina = leggiTutto(registratore.attendi().obiettivo);
     EXPECT_EQ(pagina, leggiTutto(clsFeedRss().VisualizzaItemHTML(solo, coda)));

@@ -3,6 +3,7 @@
 #include "support/file_win.h"
 #include "support/prodotto.h"
 #include "tests/aiuti/comandi_prova_win.h"
+#include "tests/aiuti/proprietariaShell_win.h"
 
 #include <commctrl.h>
 
@@ -63,7 +64,7 @@ protected:
         attendiDomanda(Risposta::No);
         esegui_();
         EXPECT_EQ(titoliElementi(), L"");
-        EXPECT_FALSE(finestra.stato().modificato());
+        EXPECT_FALSE(documento.modificato());
     }
     void apre() {
         const std::wstring feed =
@@ -79,7 +80,7 @@ protected:
         dialoghi.attendiSalva(richiestaSalva, primo);
         esegui_();
         ASSERT_TRUE(fileEsiste(primo));
-        EXPECT_EQ(finestra.campi().Tag(), primo);
+        EXPECT_EQ(documento.percorso(), primo);
         // The second time only "save as" asks.
         DeleteFileW(primo.c_str());
         const std::wstring secondo = conNome ? cartella.file(L"secondo.xml") : primo;
@@ -88,7 +89,7 @@ protected:
         }
         esegui_();
         EXPECT_TRUE(fileEsiste(secondo));
-        EXPECT_EQ(finestra.campi().Tag(), secondo);
+        EXPECT_EQ(documento.percorso(), secondo);
     }
 
     // Runs a case for each name found; all cases must have been found.
@@ -177,7 +178,7 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
              finestra.CaricaRecenti();
              esegui_();
              EXPECT_EQ(titoliElementi(), L"recente;");
-             EXPECT_EQ(finestra.campi().Tag(), voceRecente);
+             EXPECT_EQ(documento.percorso(), voceRecente);
          }},
         {L"&File > &Chiudi",
          [&] {
@@ -219,10 +220,10 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
          }},
         {L"&Contenuto > &Aggiorna Lista",
          [&] {
-             static_cast<void>(finestra.elementi().aggiungi());
-             EXPECT_EQ(finestra.griglia().righe().elemento(4), -1);
+             finestra.RiempiGriglia(true);
+             EXPECT_EQ(griglia().righe().elemento(3), -1);
              esegui_();
-             EXPECT_EQ(finestra.griglia().righe().elemento(4), 3);
+             EXPECT_EQ(griglia().righe().elemento(3), 2);
          }},
         {L"? > &Guida",
          [&] {
@@ -244,6 +245,22 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
         {L"? > &Informazione sul prodotto...", [&] { mostraInformazioni(); }},
     };
     prova(voci, casi);
+}
+
+TEST_F(Comandi, CioCheSiApreAppartieneAllaFinestra) {
+    const std::wstring base = fileGuida().substr(0, fileGuida().rfind(L'.'));
+    const FilePassante htm(base + L".htm");
+    riparti();
+    const ProprietariaShell proprietarie;
+    dialoghi.attendiSalva(richiestaPagina, cartella.file(L"p.htm"));
+    attendiDomandaPagina(Risposta::Si);
+    constexpr std::array comandi{mnGuida,           mniaco, mnguidaonline, mnautore,
+                                 mnVerificaUpgrade, mnBug,  mnvisualhtml,  mnsalvahtm};
+    for (const int comando : comandi) {
+        finestra.esegui(comando);
+        EXPECT_NE(registratore.attendi().obiettivo, L"") << comando;
+    }
+    EXPECT_EQ(ProprietariaShell::viste(), std::vector<HWND>(comandi.size(), finestra.hwnd()));
 }
 
 TEST_F(Comandi, OgniPulsanteDellaBarraFaIlSuoLavoro) {

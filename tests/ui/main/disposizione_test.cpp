@@ -13,9 +13,9 @@ MisureFinestra misure(double larghezza, double altezza) {
     m.altezzaStato = 330;
     m.sinistraLogo = 7200;
     m.larghezzaTitolo = 4950;
-    m.larghezzaLogo = 3000;
     m.altoLarghezza = 1830;
     m.altezzaGetSize = 360;
+    m.altezzaGriglia = 1500;
     m.altoDati = 600;
     m.altezzaDati = 2700;
     m.larghezzaDati = 9000;
@@ -57,7 +57,21 @@ TEST(Disposizione, LaGrigliaPrendeLAltezzaCheResta) {
     const auto d = DisponiControlli(misure(15000, 9000));
     EXPECT_EQ(posto(d.griglia).alto + posto(d.griglia).altezza + 330 + 100, 9000);
     EXPECT_GE(posto(d.griglia).alto, 600 + 2700);
-    EXPECT_FALSE(DisponiControlli(misure(15000, 600 + 2700)).griglia);
+}
+
+TEST(Disposizione, SenzaAltezzaLaGrigliaTieneLaSuaMaSegueLaLarghezza) {
+    // Just above, and just below.
+    EXPECT_EQ(posto(DisponiControlli(misure(15000, 600 + 2700 + 50 + 330 + 101)).griglia).altezza,
+              1);
+    for (const double altezza : {0.0, 600.0 + 2700, 600.0 + 2700 + 50 + 330 + 100}) {
+        const auto d = DisponiControlli(misure(15000, altezza));
+        EXPECT_EQ(posto(d.griglia).altezza, 1500);
+        EXPECT_EQ(posto(d.griglia).larghezza,
+                  posto(DisponiControlli(misure(15000, 9000)).griglia).larghezza);
+        EXPECT_EQ(posto(d.picCmd).altezza, 1500);
+        EXPECT_EQ(posto(d.picCmd).sinistra,
+                  posto(DisponiControlli(misure(15000, 9000)).picCmd).sinistra);
+    }
 }
 
 TEST(Disposizione, LaStrisciaStaAlBordoDestroConLaStessaAltezza) {
@@ -71,9 +85,35 @@ TEST(Disposizione, LaStrisciaStaAlBordoDestroConLaStessaAltezza) {
 TEST(Disposizione, GetSizeEAllineatoAllaStrisciaEALarghezza) {
     const auto d = DisponiControlli(misure(15000, 9000));
     EXPECT_EQ(posto(d.cmdGetSize).larghezza, posto(d.picCmd).larghezza);
+    EXPECT_EQ(posto(d.cmdGetSize).sinistra, posto(d.picCmd).sinistra);
     EXPECT_EQ(posto(d.cmdGetSize).alto, 1830);
-    // In the frame's coordinates, which begin at the frame's left edge.
-    EXPECT_EQ(posto(d.cmdGetSize).sinistra + posto(d.fraDati).sinistra, posto(d.picCmd).sinistra);
+    EXPECT_EQ(posto(d.cmdGetSize).altezza, 360);
+}
+
+TEST(Disposizione, ATutteLeMisureIlPulsanteELaStrisciaSonoInsieme) {
+    for (double larghezza = 0; larghezza <= 30000; larghezza += 75) {
+        for (double altezza = 0; altezza <= 15000; altezza += 750) {
+            const auto d = DisponiControlli(misure(larghezza, altezza));
+            ASSERT_EQ(d.cmdGetSize.has_value(), d.picCmd.has_value());
+            ASSERT_EQ(d.griglia.has_value(), d.picCmd.has_value());
+            if (d.picCmd) {
+                const Riquadro griglia = posto(d.griglia);
+                const double striscia = posto(d.picCmd).sinistra;
+                ASSERT_EQ(posto(d.cmdGetSize).sinistra, striscia) << larghezza;
+                ASSERT_GT(griglia.larghezza, 0);
+                ASSERT_GT(griglia.altezza, 0);
+                ASSERT_EQ(griglia.sinistra + griglia.larghezza + 50, striscia);
+            }
+            if (d.fraDati) {
+                ASSERT_GT(d.fraDati->larghezza, 0);
+            }
+            if (d.larghezzaImmagine) {
+                ASSERT_GE(*d.larghezzaImmagine, 400);
+            }
+        }
+    }
+    EXPECT_FALSE(DisponiControlli(misure(150 + 1800 + 100, 9000)).picCmd);
+    EXPECT_TRUE(DisponiControlli(misure(150 + 1800 + 101, 9000)).picCmd);
 }
 
 TEST(Disposizione, UnaFinestraMinimaNonMuoveNulla) {
@@ -82,4 +122,15 @@ TEST(Disposizione, UnaFinestraMinimaNonMuoveNulla) {
     EXPECT_FALSE(d.griglia);
     EXPECT_FALSE(d.picCmd);
     EXPECT_FALSE(d.cmdGetSize);
+}
+
+TEST(Disposizione, UnNumeroInteroDiPixelTornaDaiTwipsComEra) {
+    for (const int dpi : {96, 120, 144, 168, 192, 216, 240, 288}) {
+        const double twipsPerPixel = 1440.0 / dpi;
+        for (int pixel = 0; pixel < 4000; ++pixel) {
+            ASSERT_EQ(aPixel(pixel * twipsPerPixel, twipsPerPixel), pixel) << dpi;
+        }
+    }
+    EXPECT_EQ(aPixel(50, 15), 3);
+    EXPECT_EQ(aPixel(59, 15), 3);
 }

@@ -65,6 +65,43 @@ TEST(Recenti, ValoriVuotiESpaziIntornoSiSaltanoOSiTolgono) {
     // Adding closes the gaps up, and nothing is left to stand twice.
     elenco.AggiungiRecente(L"c:\\n.xml");
     EXPECT_EQ(elenco.voci(), (Voci{L"c:\\n.xml", L"c:\\città\\è.xml", L"c:\\b.xml"}));
+    EXPECT_EQ(archivio.leggi(L"url", L"murl7", L"-"), L"");
+}
+
+TEST(Recenti, CioCheUnAltroHaScrittoRestaOveNonSiScriveSopra) {
+    ImpostazioniFinte archivio;
+    ElencoRecenti mio(archivio);
+    mio.CaricaRecenti();
+    ElencoRecenti altro(archivio);
+    for (const wchar_t* const path : {L"c:\\z", L"c:\\y", L"c:\\x"}) {
+        altro.AggiungiRecente(path);
+    }
+    // Only the first place is written: the list was empty when it was read.
+    mio.AggiungiRecente(L"c:\\a");
+    EXPECT_EQ(mio.voci(), (Voci{L"c:\\a", L"c:\\y", L"c:\\z"}));
+    // Below the written ones stays what is none of them, whoever wrote it and in whatever case.
+    ElencoRecenti terzo(archivio);
+    terzo.CaricaRecenti();
+    archivio.scrivi(L"url", L"murl6", L" C:\\Y ");
+    archivio.scrivi(L"url", L"murl8", L"C:\\W");
+    archivio.scrivi(L"url", L"murl10", L"c:\\b");
+    terzo.AggiungiRecente(L"C:\\B");
+    EXPECT_EQ(terzo.voci(), (Voci{L"c:\\b", L"c:\\a", L"c:\\y", L"c:\\z", L"c:\\w"}));
+    EXPECT_EQ(archivio.leggi(L"url", L"murl6", L"-"), L"");
+    EXPECT_EQ(archivio.leggi(L"url", L"murl8", L"-"), L"C:\\W");
+    EXPECT_EQ(archivio.leggi(L"url", L"murl10", L"-"), L"");
+}
+
+TEST(Recenti, UnPercorsoDueVolteNellArchivioSiScriveUnaVolta) {
+    ImpostazioniFinte archivio;
+    archivio.scrivi(L"url", L"murl1", L"c:\\a");
+    archivio.scrivi(L"url", L"murl2", L"c:\\b");
+    archivio.scrivi(L"url", L"murl3", L"C:\\A");
+    archivio.scrivi(L"url", L"murl4", L"c:\\c");
+    ElencoRecenti elenco(archivio);
+    elenco.CaricaRecenti();
+    elenco.AggiungiRecente(L"c:\\n");
+    EXPECT_EQ(elenco.voci(), (Voci{L"c:\\n", L"c:\\a", L"c:\\b", L"c:\\c"}));
 }
 
 TEST(Recenti, IlPiuRecenteGiaInElencoSaleInCimaSenzaLasciareBuchi) {

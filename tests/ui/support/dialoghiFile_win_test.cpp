@@ -62,6 +62,33 @@ TEST(DialoghiFileWindows, AnnullareSolleva32755) {
     }
 }
 
+TEST(DialoghiFileWindows, EscTenutoDaPrimaNonAnnulla) {
+    const HWND sotto = CreateWindowExW(0, L"STATIC", L"sotto", WS_OVERLAPPEDWINDOW, 100, 100, 300,
+                                       200, nullptr, nullptr, nullptr, nullptr);
+    portaAvanti(sotto);
+    const CartellaProva cartella;
+    const std::wstring file = cartella.scrivi(L"a.xml", "x");
+    const QuandoAppare quando(L"#32770", L"", [&](HWND dialogo) {
+        const ConFiltro tasti(
+            [dialogo](MSG& msg) { return IsDialogMessageW(dialogo, &msg) != FALSE; });
+        for (int i = 0; i < 3; ++i) {
+            ripeti(VK_ESCAPE);
+        }
+        lascia(VK_ESCAPE);
+        scegli(file)(dialogo);
+    });
+    std::wstring scelto;
+    const ConFiltro apre([&](MSG& msg) {
+        if (msg.message == WM_KEYDOWN && scelto.empty()) {
+            scelto = DialoghiFileWindows().apri(apertura);
+        }
+        return false;
+    });
+    premiGiu(VK_ESCAPE);
+    EXPECT_EQ(scelto, file);
+    DestroyWindow(sotto);
+}
+
 TEST(DialoghiFileWindows, LEstensioneSiAggiungeUnaVolta) {
     const CartellaProva cartella;
     DialoghiFileWindows dialoghi;

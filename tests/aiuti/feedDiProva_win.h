@@ -10,7 +10,7 @@
 #include <string_view>
 
 // All that a feed file holds, as the reader fills it and the writer takes it.
-struct Documento : Canale {
+struct FeedDiProva : Canale {
     TabellaElementi items;
 
     void leggi(const std::wstring& percorso);

@@ -1,27 +1,27 @@
-#include "tests/aiuti/documento_win.h"
+#include "tests/aiuti/feedDiProva_win.h"
 
-void Documento::leggi(const std::wstring& percorso) {
+void FeedDiProva::leggi(const std::wstring& percorso) {
     clsFeedRss().LeggiDocumentoRSS(percorso, title, link, description, language, copyright,
                                    lastBuildDate, webMaster, image, items);
 }
 
-void Documento::scrivi(const std::wstring& percorso) const {
+void FeedDiProva::scrivi(const std::wstring& percorso) const {
     clsFeedRss().CreaDocumentoRSS(percorso, title, link, description, language, copyright,
                                   lastBuildDate, webMaster, image, items);
 }
 
-std::array<std::wstring*, 7> Documento::canale() {
+std::array<std::wstring*, 7> FeedDiProva::canale() {
     return {&title, &link, &description, &language, &copyright, &lastBuildDate, &webMaster};
 }
 
-Sollevato Documento::provaLeggi(const std::wstring& percorso) {
+Sollevato FeedDiProva::provaLeggi(const std::wstring& percorso) {
     return sollevatoDa([&] {
         leggi(percorso);
         return true;
     });
 }
 
-Sollevato Documento::provaScrivi(const std::wstring& percorso) const {
+Sollevato FeedDiProva::provaScrivi(const std::wstring& percorso) const {
     return sollevatoDa([&] {
         scrivi(percorso);
         return true;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "support/dataora.h"
+#include "ui/controls/KOInputNumerico_win.h"
+#include "ui/controls/finestra_win.h"
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+// The channel's frame of a main window, found as a user finds it.
+class CampiProva {
+public:
+    explicit CampiProva(const Finestra& finestra) noexcept : finestra_(finestra) {}
+
+    [[nodiscard]] HWND hwnd() const noexcept {
+        return FindWindowExW(finestra_.hwnd(), nullptr, L"#32770", nullptr);
+    }
+    [[nodiscard]] HWND controllo(int id) const noexcept { return GetDlgItem(hwnd(), id); }
+
+    // Writing tells the frame of it, as typing does.
+    [[nodiscard]] std::wstring testo(int id) const;
+    void testo(int id, std::wstring_view valore) const;
+    [[nodiscard]] bool vuoti() const;
+
+    [[nodiscard]] KOInputNumerico& txtLarghezza() const;
+    [[nodiscard]] KOInputNumerico& txtAltezza() const;
+    void dimensioni(double larghezza, double altezza) const;
+
+    // The date of one picker with the time of the other; writing fails the test when it is refused.
+    [[nodiscard]] DataOra dataOra() const;
+    void dataOra(DataOra valore) const;
+
+private:
+    const Finestra& finestra_;
+};

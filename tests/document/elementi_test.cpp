@@ -1,0 +1,41 @@
+#include "document/elementi.h"
+
+#include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/tabella_prova.h"
+
+#include <gtest/gtest.h>
+
+TEST(ElementiDeiComandi, UnaTabellaPienaEErrore6) {
+    TabellaElementi tabella;
+    dimensiona(tabella, 32766);
+    EXPECT_EQ(erroreDi([&] { richiediPosto(tabella); }), 0);
+    dimensiona(tabella, 32767);
+    EXPECT_EQ(erroreDi([&] { richiediPosto(tabella); }), 6);
+}
+
+TEST(ElementiDeiComandi, UnaTabellaVuotaNonSiScrive) {
+    TabellaElementi tabella;
+    const Sollevato vuota = sollevatoDa([&] {
+        richiediElementi(tabella);
+        return 0;
+    });
+    EXPECT_EQ(vuota.numero, 12883);
+    EXPECT_EQ(vuota.descrizione, L"Per salvare il documento è necessario immettere almeno un "
+                                 L"contenuto. Salvataggio non consentito.");
+    dimensiona(tabella, 1);
+    EXPECT_EQ(erroreDi([&] { richiediElementi(tabella); }), 0);
+}
+
+TEST(ElementiDeiComandi, DopoUnaModificaSiSceglieLElementoODopoUnaCancellazioneQuelloSopra) {
+    using enum Modifica::Tipo;
+    const auto riga = [](Modifica::Tipo tipo, int indice, int indiceDopo) {
+        return rigaDopo({tipo, indice, indiceDopo, nullptr, nullptr});
+    };
+    EXPECT_EQ(riga(Aggiunta, 5, 5), 6);
+    EXPECT_EQ(riga(Cambio, 0, 0), 1);
+    EXPECT_EQ(riga(Spostamento, 0, 2), 3);
+    EXPECT_EQ(riga(Spostamento, 3, 1), 2);
+    EXPECT_EQ(riga(Rimozione, 0, 0), 1);
+    EXPECT_EQ(riga(Rimozione, 1, 1), 1);
+    EXPECT_EQ(riga(Rimozione, 3, 3), 3);
+}
