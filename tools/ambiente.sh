@@ -3,8 +3,16 @@
 
 radice=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build="$radice/build"
-wine64=/usr/lib/wine/wine64
+wine64="$radice/tools/wine"
 wineserver=/usr/lib/wine/wineserver
+
+# One line "passed failed skipped" for each run of tests.
+conti="$build/conti"
+# totali: their sums; whether nothing failed.
+totali() {
+  awk '{p += $1; f += $2; s += $3}
+    END {printf "%d passed, %d failed, %d skipped\n", p, f, s; exit f > 0}' "$conti"
+}
 
 passo() { printf '\n== %s\n' "$*"; }
 
@@ -99,6 +107,15 @@ avvia_wine() {
   "$wine64" explorer.exe /desktop </dev/null >/dev/null 2>&1 &
   disown
   "$wine64" cmd /c ver </dev/null >/dev/null 2>&1
+}
+
+# riavvia_wine LANGUAGE: Wine anew, its background programs in another language. What they start
+# brings their own, and the separators of the whole prefix would become those.
+riavvia_wine() {
+  "$wineserver" -k || true
+  "$wineserver" -w
+  "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
+  LC_ALL=$1.UTF-8 LANG=$1.UTF-8 avvia_wine 2>/dev/null
 }
 
 # schermo WxH [DPI]: a virtual display of its own, closed when the shell ends.
