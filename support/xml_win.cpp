@@ -34,19 +34,23 @@ ComPtr<IXMLDOMNode> comeNodo(const ComPtr<Interfaccia>& origine) {
 }
 
 // Near the end of a large file whose last text is long the parser may look for more of the file
-// than there is, and give up: comments past the end are what it finds then. In 16 bits the zeros
-// that stand in their place end the document.
+// than there is, and give up: comments past the end are what it finds then.
 constexpr DWORD fileGrande = 9'000'000;
-constexpr DWORD riservaInFondo = 700;
+constexpr DWORD riservaInFondo = 1400;
 
+// Fills the end of the bytes, in the coding of the file that stands before it.
 void scriviRiserva(std::span<char> byte) {
-    constexpr std::string_view commento = "<!---->";
-    static_assert(riservaInFondo % commento.size() == 0);
-    const std::string_view file(byte.data(), byte.size() - riservaInFondo);
-    if (file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF") ||
-        file.substr(0, 2).find('\0') != std::string_view::npos) {
-        return;
+    using namespace std::string_view_literals;
+    const std::string_view inizio(byte.data(), 2);
+    const bool altoPrima = inizio == "\xFE\xFF"sv || inizio.front() == '\0';
+    const bool bassoPrima = inizio == "\xFF\xFE"sv || inizio.back() == '\0';
+    std::string commento;
+    for (const char c : "<!---->"sv) {
+        commento.append(altoPrima ? 1 : 0, '\0');
+        commento += c;
+        commento.append(bassoPrima ? 1 : 0, '\0');
     }
+    // Of either length a whole number goes in.
     for (auto resto = byte.last(riservaInFondo); !resto.empty();
          resto = resto.subspan(commento.size())) {
         std::ranges::copy(commento, resto.begin());

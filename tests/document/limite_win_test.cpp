@@ -33,16 +33,14 @@ Campo dellElemento(const char* nome, CampoElemento campo, int elemento) {
             campo == Descrizione};
 }
 
-const std::array<Campo, 8>& campi() {
-    static const std::array<Campo, 8> tutti{
+const std::array<Campo, 6>& campi() {
+    static const std::array<Campo, 6> tutti{
         delCanale("title", &Canale::title),
-        delCanale("description", &Canale::description),
         delCanale("webMaster", &Canale::webMaster),
         Campo{"image", [](Documento& d) { return d.image.sTitle(); },
               [](Documento& d, std::wstring testo) { d.image.sTitle(std::move(testo)); }},
         dellElemento("title of 0", Titolo, 0),
         dellElemento("description of 0", Descrizione, 0),
-        dellElemento("description of 1", Descrizione, 1),
         dellElemento("guid of 1", Guid, 1),
     };
     return tutti;
@@ -101,12 +99,9 @@ TEST_F(LimiteDeiTesti, IlPiuLungoCheSiSalvaSiRiapre) {
         Documento letto;
         ASSERT_EQ(letto.provaLeggi(percorso).numero, 0);
         std::wstring appoggio;
-        // White space at the ends is the DOM's; a description may hold references.
-        const auto uguale = [&](std::wstring_view uno, std::wstring_view due) {
-            return uno.size() > 1'000'000 && due.starts_with(uno.substr(0, uno.size() - 10));
-        };
-        const std::wstring scritto = campo.leggi(letto);
-        EXPECT_TRUE(uguale(scritto, testo) || uguale(scritto, conRiferimenti(testo, appoggio)));
+        const std::wstring riletto = campo.leggi(letto);
+        // A description may have come back with its references.
+        EXPECT_TRUE(riletto == testo || riletto == conRiferimenti(testo, appoggio));
 
         const std::string prima = leggiTutto(percorso);
         campo.assegna(d, testo + L'x');
@@ -121,18 +116,18 @@ TEST_F(LimiteDeiTesti, IlPiuLungoCheSiSalvaSiRiapre) {
 // Larger than ten million bytes, a long text right before its end, in every coding.
 TEST_F(LimiteDeiTesti, UnFileGrandeColTestoLungoInFondoSiApre) {
     const std::string lungo(5000, 'x');
-    for (const std::string codifica : {"UTF-8", "ISO-8859-1", "UTF-16"}) {
+    for (const std::string codifica : {"UTF-8", "ISO-8859-1", "UTF-16", "UTF-16BE"}) {
         SCOPED_TRACE(codifica);
         std::string file =
             "<?xml version=\"1.0\" encoding=\"" + codifica + "\"?><rss version=\"2.0\"><channel>";
         file += "<description>" + std::string(9'000'000, 'd') + "</description>" + "<title>" +
                 std::string(2'000'000, 'y') + "</title><item><title>t</title><author>" + lungo +
                 "</author></item></channel></rss>";
-        if (codifica == "UTF-16") {
-            std::string largo = "\xFF\xFE";
+        if (codifica.starts_with("UTF-16")) {
+            const bool altoPrima = codifica.ends_with("BE");
+            std::string largo = altoPrima ? "\xFE\xFF" : "\xFF\xFE";
             for (const char c : file) {
-                largo += c;
-                largo += '\0';
+                largo.append(altoPrima ? 1 : 0, '\0').append(1, c).append(altoPrima ? 0 : 1, '\0');
             }
             file = largo;
         }
