@@ -51,6 +51,22 @@ TEST(ClsImgRss, OgniCampoModifica) {
     EXPECT_TRUE(modifica([](clsImgRss& i) { i.nHeight(1); }));
 }
 
+TEST(ClsImgRss, ModificatoSiAssegna) {
+    clsImgRss image;
+    image.Modificato(true);
+    EXPECT_TRUE(image.Modificato());
+    image.Modificato(false);
+    EXPECT_FALSE(image.Modificato());
+}
+
+TEST(ClsItemRss, ModificatoSiAssegna) {
+    clsItemRss item;
+    item.Modificato(true);
+    EXPECT_TRUE(item.Modificato());
+    item.Modificato(false);
+    EXPECT_FALSE(item.Modificato());
+}
+
 TEST(ClsItemRss, OgniCampoModificaESiSvuota) {
     const auto prova = [](auto assegna, auto leggi) {
         clsItemRss item;
