@@ -10,6 +10,7 @@
 namespace {
 
 constexpr char32_t ultimoLatin1 = 0xFF;
+constexpr std::wstring_view inizioRiferimento = L"&#";
 
 constexpr bool ammesso(char32_t c) noexcept {
     return c == U'\t' || c == U'\n' || c == U'\r' || (c >= 0x20 && c < 0xD800) ||
@@ -52,6 +53,26 @@ std::wstring nomeCarattere(char32_t c) {
     }
     descrizione += coda;
     throw Errore(errori::chiamataNonValida, std::move(descrizione));
+}
+
+struct Riferimento {
+    char32_t carattere;
+    std::size_t lunghezza;
+};
+
+// The reference that a text begins with, if it is one that conRiferimenti writes.
+std::optional<Riferimento> riferimentoIniziale(std::wstring_view testo) noexcept {
+    // "&#1114111;" is the longest.
+    constexpr std::size_t piuLungo = 10;
+    std::size_t fine = inizioRiferimento.size();
+    char32_t c = 0;
+    while (fine < std::min(testo.size(), piuLungo) && testo[fine] >= L'0' && testo[fine] <= L'9') {
+        c = c * 10 + static_cast<char32_t>(testo[fine] - L'0');
+        ++fine;
+    }
+    const bool canonico = testo.substr(fine).starts_with(L';') &&
+                          testo[inizioRiferimento.size()] != L'0' && c > ultimoLatin1 && ammesso(c);
+    return canonico ? std::optional(Riferimento{c, fine + 1}) : std::nullopt;
 }
 
 } // namespace
@@ -97,10 +118,31 @@ std::wstring_view conRiferimenti(std::wstring_view testo, std::wstring& appoggio
     for (std::size_t posizione = 0; posizione < testo.size();) {
         const char32_t c = leggiCarattere(testo, posizione);
         if (c > ultimoLatin1) {
-            appoggio += L"&#" + std::to_wstring(static_cast<std::uint32_t>(c)) + L';';
+            appoggio.append(inizioRiferimento) +=
+                std::to_wstring(static_cast<std::uint32_t>(c)) + L';';
         } else {
             appoggio += static_cast<wchar_t>(c);
         }
     }
     return appoggio;
+}
+
+std::wstring_view conCaratteri(std::wstring_view testo, std::wstring& appoggio) {
+    auto dove = testo.find(inizioRiferimento);
+    if (dove == std::wstring_view::npos) {
+        return testo;
+    }
+    appoggio.clear();
+    for (; dove != std::wstring_view::npos; dove = testo.find(inizioRiferimento)) {
+        appoggio.append(testo.substr(0, dove));
+        testo.remove_prefix(dove);
+        if (const auto riferimento = riferimentoIniziale(testo)) {
+            aggiungiCarattere(appoggio, riferimento->carattere);
+            testo.remove_prefix(riferimento->lunghezza);
+        } else {
+            appoggio.append(inizioRiferimento);
+            testo.remove_prefix(inizioRiferimento.size());
+        }
+    }
+    return appoggio.append(testo);
 }

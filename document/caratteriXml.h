@@ -26,3 +26,9 @@ void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_
 // lacks, and only that, as decimal HTML references. What it gives lies in `testo` where nothing is
 // lacking, else in `appoggio`.
 [[nodiscard]] std::wstring_view conRiferimenti(std::wstring_view testo, std::wstring& appoggio);
+
+// The way back: each reference as conRiferimenti writes it (decimal, no leading zero, of a
+// character that ISO-8859-1 lacks and XML can hold) as its character, all else as it stands. So a
+// text of a file is, read and written again, the same to the byte; a reference that somebody typed
+// is the character from then on.
+[[nodiscard]] std::wstring_view conCaratteri(std::wstring_view testo, std::wstring& appoggio);

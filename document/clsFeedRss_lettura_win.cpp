@@ -1,10 +1,12 @@
 #include "document/clsFeedRss.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/deposito.h"
 #include "support/errore.h"
 #include "support/numeri.h"
+#include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
 
@@ -76,16 +78,28 @@ constexpr auto nomiDi(const Voci& voci) {
 constexpr auto nomiCanale = nomiDi(vociCanale);
 constexpr auto nomiElemento = nomiDi(vociElemento);
 
+// What the items of a document are read with.
+struct LetturaElementi {
+    Deposito& deposito;
+    std::wstring_view adesso;
+    // In a feed of this program the descriptions hold what its encoding lacks as references.
+    bool nostro;
+    std::wstring appoggio{};
+};
+
 // A text as the document keeps it: the link keeps its line breaks as they are.
-std::wstring_view conserva(Deposito& deposito, CampoElemento campo, std::wstring_view testo) {
-    if (campo == CampoElemento::Link || testo.find(L'\n') == testo.npos) {
-        return deposito.conserva(testo);
+std::wstring_view conserva(LetturaElementi& lettura, CampoElemento campo, std::wstring_view testo) {
+    if (lettura.nostro && campo == CampoElemento::Descrizione) {
+        testo = conCaratteri(testo, lettura.appoggio);
     }
-    return deposito.conserva(aCapoCrLf(testo));
+    if (campo == CampoElemento::Link || testo.find(L'\n') == testo.npos) {
+        return lettura.deposito.conserva(testo);
+    }
+    return lettura.deposito.conserva(aCapoCrLf(testo));
 }
 
-// A later child of the same name overwrites an earlier one. An item without a date is of `adesso`.
-TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
+// A later child of the same name overwrites an earlier one. An item without a date is of now.
+TestiElemento leggiElemento(const NodoXml& nodo, LetturaElementi& lettura) {
     TestiElemento testi;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         const auto dove = posto(nomiElemento, nome.vista());
@@ -93,12 +107,12 @@ TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito, std::wstrin
             return;
         }
         const auto campo = static_cast<CampoElemento>(*dove);
-        const NodoXml origine = campo == CampoElemento::Descrizione ? figlio.primoFiglio() : figlio;
-        testi[*dove] =
-            origine ? conserva(deposito, campo, origine.testo().vista()) : std::wstring_view();
+        const Bstr testo =
+            campo == CampoElemento::Descrizione ? figlio.testoPrimoFiglio() : figlio.testo();
+        testi[*dove] = conserva(lettura, campo, testo.vista());
     });
     if (auto& data = testi[static_cast<std::size_t>(CampoElemento::Data)]; data.empty()) {
-        data = adesso;
+        data = lettura.adesso;
     }
     return testi;
 }
@@ -110,13 +124,12 @@ struct CanaleLetto {
     std::vector<NodoXml> immagini;
 };
 
-CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
-    const std::wstring_view data = deposito.conserva(adesso);
+CanaleLetto percorriCanale(const NodoXml& nodo, LetturaElementi& lettura) {
     CanaleLetto canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
-                deposito.aggiungi(leggiElemento(figlio, deposito, data));
+                lettura.deposito.aggiungi(leggiElemento(figlio, lettura));
             }
         } else if (nome.vista() == L"image") {
             if (figlio.elemento()) {
@@ -129,7 +142,12 @@ CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito, std::wstring
     return canale;
 }
 
-NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso) {
+struct Feed {
+    NodoXml rss;
+    NodoXml channel;
+};
+
+Feed trovaFeed(const DocumentoXml& documento, const std::wstring& percorso) {
     const auto radici = documento.elementi(L"rss");
     std::vector<NodoXml> canali;
     if (radici.size() == 1) {
@@ -142,7 +160,7 @@ NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso)
     if (canali.size() != 1) {
         rifiuta(formatoNonValido, percorso, L": formato non valido.");
     }
-    return canali.front();
+    return {radici.front(), canali.front()};
 }
 
 std::int32_t misura(const NodoXml& nodo) {
@@ -164,7 +182,10 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
         if (!documento.carica(path)) {
             rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
-        const CanaleLetto letto = percorriCanale(trovaCanale(documento, path), *deposito, adesso);
+        const Feed feed = trovaFeed(documento, path);
+        LetturaElementi lettura{*deposito, deposito->conserva(adesso),
+                                feed.rss.dopoCommento(prodotto::commentoFeed())};
+        const CanaleLetto letto = percorriCanale(feed.channel, lettura);
         for (std::size_t i = 0; i < vociCanale.size(); ++i) {
             const auto membro = vociCanale[i].membro;
             if (const NodoXml& nodo = letto.campi[i]) {

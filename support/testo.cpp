@@ -61,7 +61,9 @@ std::wstring aCapoCrLf(std::wstring_view testo) {
             scritti = i;
         }
     }
-    return risultato.append(testo.substr(scritti));
+    risultato.append(testo.substr(scritti));
+    // Not what append gives: that would be a copy.
+    return risultato;
 }
 
 std::vector<std::wstring_view> dividi(std::wstring_view testo, std::wstring_view separatore) {

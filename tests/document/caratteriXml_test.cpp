@@ -91,3 +91,13 @@ TEST(CaratteriXml, SoloCioCheMancaAlLatin1DiventaRiferimento) {
               L"&#128512;" + testoDi(0xFF) + L"&#256;" + testoDi(0x85));
     EXPECT_EQ(riferito(L""), L"");
 }
+
+TEST(CaratteriXml, OgniRiferimentoScrittoTornaIlSuoCarattere) {
+    std::wstring appoggio;
+    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+        const std::wstring riferimento = L"&#" + std::to_wstring(std::uint32_t{c}) + L';';
+        const bool nostro = c > 0xFF && !primoVietato(testoDi(c));
+        ASSERT_EQ(conCaratteri(riferimento, appoggio), nostro ? testoDi(c) : riferimento)
+            << std::uint32_t{c};
+    }
+}
