@@ -1,6 +1,5 @@
 #include "document/caratteriXml.h"
 
-#include "support/errore.h"
 #include "support/testo.h"
 
 #include <algorithm>
@@ -45,13 +44,32 @@ std::wstring nomeCarattere(char32_t c) {
 [[noreturn]] void rifiuta(std::wstring_view percorso, std::wstring_view perche,
                           const NomeTesto& nome, std::wstring_view coda) {
     std::wstring descrizione = maiuscolo(percorso);
+    if (descrizione.empty()) {
+        descrizione += maiuscolo(perche.substr(0, 1));
+        perche.remove_prefix(1);
+    } else {
+        descrizione += L": ";
+    }
     descrizione += perche;
     descrizione += nome.nome;
     if (nome.elemento > 0) {
         descrizione += L" dell'elemento " + std::to_wstring(nome.elemento);
     }
     descrizione += coda;
-    throw Errore(errori::chiamataNonValida, std::move(descrizione));
+    throw TestoRifiutato(std::move(descrizione), nome.elemento);
+}
+
+void verificaCaratteri(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
+    if (const auto vietato = primoVietato(testo)) {
+        rifiuta(percorso, L"carattere non ammesso in ", nome,
+                L" (" + nomeCarattere(*vietato) + L").");
+    }
+}
+
+void verificaLunghezza(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
+    if (almenoByte(testo, byteTroppi)) {
+        rifiuta(percorso, L"testo troppo lungo in ", nome, L".");
+    }
 }
 
 } // namespace
@@ -74,17 +92,34 @@ std::optional<char32_t> primoVietato(std::wstring_view testo) noexcept {
     return std::nullopt;
 }
 
-void verificaTesto(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
-    if (const auto vietato = primoVietato(testo)) {
-        rifiuta(percorso, L": carattere non ammesso in ", nome,
-                L" (" + nomeCarattere(*vietato) + L").");
+bool almenoByte(std::wstring_view testo, std::size_t limite) noexcept {
+    // Nearly every text is far too short to be counted.
+    constexpr std::size_t massimoPerUnita = 4;
+    if (testo.size() < limite / massimoPerUnita) {
+        return false;
     }
+    std::size_t byte = 0;
+    for (std::size_t posizione = 0; posizione < testo.size() && byte < limite;) {
+        byte += byteUtf8(leggiCarattere(testo, posizione));
+    }
+    return byte >= limite;
+}
+
+void verificaTesto(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
+    verificaCaratteri(testo, nome, percorso);
+    verificaLunghezza(testo, nome, percorso);
 }
 
 void verificaCData(std::wstring_view testo, const NomeTesto& nome, std::wstring_view percorso) {
-    verificaTesto(testo, nome, percorso);
+    // What a character becomes at most: "&#1114111;".
+    constexpr std::size_t massimoRiferimento = 10;
+    verificaCaratteri(testo, nome, percorso);
     if (testo.find(L"]]>") != std::wstring_view::npos) {
-        rifiuta(percorso, L": sequenza ]]> non ammessa in ", nome, L".");
+        rifiuta(percorso, L"sequenza ]]> non ammessa in ", nome, L".");
+    }
+    if (testo.size() >= byteTroppi / massimoRiferimento) {
+        std::wstring appoggio;
+        verificaLunghezza(conRiferimenti(testo, appoggio), nome, percorso);
     }
 }
 

@@ -3,7 +3,9 @@
 #include "support/errori_win.h"
 #include "support/maniglie_win.h"
 
+#include <algorithm>
 #include <limits>
+#include <span>
 
 namespace {
 
@@ -31,6 +33,30 @@ ComPtr<IXMLDOMNode> comeNodo(const ComPtr<Interfaccia>& origine) {
     return ComPtr<IXMLDOMNode>(origine.get());
 }
 
+// Near the end of a large file whose last text is long the parser may look for more of the file
+// than there is, and give up: comments past the end are what it finds then.
+constexpr DWORD fileGrande = 9'000'000;
+constexpr DWORD riservaInFondo = 1400;
+
+// Fills the end of the bytes, in the coding of the file that stands before it.
+void scriviRiserva(std::span<char> byte) {
+    using namespace std::string_view_literals;
+    const std::string_view inizio(byte.data(), 2);
+    const bool altoPrima = inizio == "\xFE\xFF"sv || inizio.front() == '\0';
+    const bool bassoPrima = inizio == "\xFF\xFE"sv || inizio.back() == '\0';
+    std::string commento;
+    for (const char c : "<!---->"sv) {
+        commento.append(altoPrima ? 1 : 0, '\0');
+        commento += c;
+        commento.append(bassoPrima ? 1 : 0, '\0');
+    }
+    // Of either length a whole number goes in.
+    for (auto resto = byte.last(riservaInFondo); !resto.empty();
+         resto = resto.subspan(commento.size())) {
+        std::ranges::copy(commento, resto.begin());
+    }
+}
+
 // All the bytes of a file, as an array that the DOM takes; false when it cannot be read.
 bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
     const ManigliaFile file(CreateFileW(
@@ -42,8 +68,9 @@ bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
         return false;
     }
     const auto quanti = static_cast<DWORD>(lunghezza.QuadPart);
+    const DWORD riserva = quanti >= fileGrande ? riservaInFondo : 0;
     VARIANT* const variante = contenuto.riempi();
-    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti);
+    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti + riserva);
     if (variante->parray == nullptr) {
         solleva(errori::memoriaEsaurita);
     }
@@ -53,6 +80,9 @@ bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
     DWORD letti = 0;
     const bool riuscito =
         ReadFile(file.get(), dati, quanti, &letti, nullptr) != FALSE && letti == quanti;
+    if (riserva != 0) {
+        scriviRiserva({static_cast<char*>(dati), std::size_t{quanti} + riserva});
+    }
     verifica(SafeArrayUnaccessData(variante->parray));
     return riuscito;
 }

@@ -57,7 +57,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     esigi((errore(verificaCData, testo) == errori::chiamataNonValida) ==
           (vietato.has_value() || fine));
 
+    const std::size_t byte = comeUtf8(testo).size();
+    esigi(almenoByte(testo, byte) && !almenoByte(testo, byte + 1));
+    esigi(byte == 0 || almenoByte(testo, byte - 1));
+
     const std::wstring scritto = riferito(testo);
+    esigi(almenoByte(scritto, comeUtf8(scritto).size()));
+    esigi(!almenoByte(scritto, comeUtf8(scritto).size() + 1));
     for (const wchar_t c : scritto) {
         esigi(static_cast<std::uint32_t>(c) <= 0xFF);
     }
