@@ -1,6 +1,7 @@
 #include "ui/main/comandiDocumento_win.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "document/clsFeedRss.h"
 #include "support/dialoghiFile.h"
 #include "support/file_win.h"
@@ -9,6 +10,7 @@
 #include "support/testo.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
+#include "ui/main/elementi.h"
 #include "ui/main/guardia_win.h"
 #include "ui/main/recenti.h"
 #include "ui/main/statoDocumento.h"
@@ -106,9 +108,15 @@ bool ComandiDocumento::Salva(bool conNome) {
             }
             const Clessidra clessidra;
             const Canale c = raccogliCanale(campi_);
-            clsFeedRss().CreaDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
-                                          c.copyright, c.lastBuildDate, c.webMaster, c.image,
-                                          elementi_);
+            try {
+                clsFeedRss().CreaDocumentoRSS(percorso, c.title, c.link, c.description, c.language,
+                                              c.copyright, c.lastBuildDate, c.webMaster, c.image,
+                                              elementi_);
+            } catch (const TestoRifiutato& errore) {
+                // Seen behind the message. Row 0, for a text of the channel, changes nothing.
+                finestra_.SelezionaRiga(rigaDi(errore.elemento() - 1));
+                throw;
+            }
             campi_.Tag(percorso);
             finestra_.ImpostaTitolo(percorso);
             recenti_.AggiungiRecente(percorso);

@@ -21,6 +21,8 @@ public:
     virtual void NuovoDocumento() = 0;
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
     virtual void RiempiGriglia(bool soloIntestazioni) = 0;
+    // A row that the grid lacks changes nothing.
+    virtual void SelezionaRiga(int riga) = 0;
     virtual void CaricaRecenti() = 0;
     // Reports the exception being handled.
     virtual void MostraErrore() = 0;
