@@ -51,20 +51,15 @@ TEST(ClsImgRss, OgniCampoModifica) {
     EXPECT_TRUE(modifica([](clsImgRss& i) { i.nHeight(1); }));
 }
 
-TEST(ClsImgRss, ModificatoSiAssegna) {
-    clsImgRss image;
-    image.Modificato(true);
-    EXPECT_TRUE(image.Modificato());
-    image.Modificato(false);
-    EXPECT_FALSE(image.Modificato());
-}
-
-TEST(ClsItemRss, ModificatoSiAssegna) {
-    clsItemRss item;
-    item.Modificato(true);
-    EXPECT_TRUE(item.Modificato());
-    item.Modificato(false);
-    EXPECT_FALSE(item.Modificato());
+TEST(Record, ModificatoSiAssegna) {
+    const auto prova = [](auto registro) {
+        registro.Modificato(true);
+        EXPECT_TRUE(registro.Modificato());
+        registro.Modificato(false);
+        EXPECT_FALSE(registro.Modificato());
+    };
+    prova(clsImgRss());
+    prova(clsItemRss());
 }
 
 TEST(ClsItemRss, OgniCampoModificaESiSvuota) {

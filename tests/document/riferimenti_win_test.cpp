@@ -97,7 +97,7 @@ TEST_F(Riferimenti, SoloNellaDescrizioneDiUnElemento) {
     d.image.sUrl(L"&#8364;");
     d.image.sLink(L"&#8364;");
     for (int c = 0; c < numeroCampi; ++c) {
-        d.items(static_cast<CampoElemento>(c), 0) = L"&#8364;";
+        metti(d.items, static_cast<CampoElemento>(c), 0, L"&#8364;");
     }
     d.scrivi(percorso);
     EXPECT_EQ(riletto(), L"€");

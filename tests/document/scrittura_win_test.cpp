@@ -133,7 +133,7 @@ TEST_F(Scrittura, DichiarazioneCommentoEVersione) {
 
 TEST_F(Scrittura, SoloLaRadiceHaUnAttributo) {
     d.image.Modificato(true);
-    d.items(Guid, 0) = L"https://e.example/1";
+    metti(d.items, Guid, 0, L"https://e.example/1");
     d.scrivi(percorso);
     std::string testo = leggiTutto(percorso);
     EXPECT_NE(testo.find("<guid>https://e.example/1</guid>"), std::string::npos);
