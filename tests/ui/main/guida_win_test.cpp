@@ -1,14 +1,20 @@
 // The help page that stands beside the program.
 
 #include "support/errore.h"
+#include "support/errori_win.h"
 #include "support/file_win.h"
 #include "support/testo.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/sorgenti_win.h"
 #include "ui/main/comandi.h"
 
-#include <array>
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -55,54 +61,104 @@ std::vector<std::wstring> valori(std::wstring_view prima) {
     return trovati;
 }
 
-// The messages of the program's own; those of the run-time errors have numbers.
-constexpr std::array messaggi{
-    L"Per poter utilizzare il programma è necessario che sul sistema sia presente il Parser "
-    L"Microsoft XML 3.0 o versione successiva (msxml3.dll). E' possibile scaricare liberamente "
-    L"tale componente dal sito della Microsoft (",
-    L"Il documento è stato modificato. Si desidera salvare le modifiche?",
-    L"Si desidera cancellare realmente il contenuto selezionato?",
-    L"Si desidera aprire il file salvato?",
-    L"E' necessario selezionare un elemento dalla griglia.",
-    L"E' obbligatorio indicare il Titolo. Impossibile salvare.",
-    L"E' obbligatorio indicare il link. Impossibile salvare.",
-    L"Valore data/orario non valido. E' stata impostato come data/orario quella di sistema.",
-    L": impossibile trovare il file. (8292)",
-    L": impossibile caricare il documento. (18343)",
-    L": formato non valido. (18344)",
-    L": formato non supportato. (18345)",
-    L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100). (4453)",
-    L": nome mese non valido. (4454)",
-    L"Per salvare il documento è necessario immettere almeno un contenuto. Salvataggio non "
-    L"consentito. (12883)",
-    L": carattere non ammesso in titolo dell'elemento 3 (U+000B). (5)",
-    L": sequenza ]]> non ammessa in descrizione dell'elemento 3. (5)",
-    L": file non trovato. (8876)",
-    L"E' necessario valorizzare la proprietà objDlg. (8875)",
-    L"E' necessario valorizzare la proprietà objImg. (8874)",
-    L": file non trovato!",
-    L": nessun programma associato a questo tipo di file!",
-    L": accesso negato!",
-    L"Impossibile leggere l'unità specificata.",
-    L"Le informazioni sul sistema non sono attualmente disponibili.",
-    L"nessuna voce in elenco",
-};
+using Colori = std::map<std::wstring, unsigned>;
 
-// The run-time errors that a user's files, dates, disks and memory can lead to.
-constexpr std::array erroriPossibili{5,  6,  7,  9,  13, 52,  53,  57,  61,
-                                     68, 70, 71, 75, 76, 380, 429, 440, 481};
+// The colours that a style block names: "--name: #rrggbb;".
+Colori colori(std::wstring_view blocco) {
+    Colori trovati;
+    const auto inizio = pagina().find(blocco);
+    EXPECT_NE(inizio, std::wstring::npos) << inUtf8(blocco);
+    const auto fine = pagina().find(L'}', inizio);
+    auto dove = pagina().find(L"--", inizio);
+    while (dove < fine) {
+        const auto segno = pagina().find(L": #", dove);
+        trovati[pagina().substr(dove + 2, segno - dove - 2)] =
+            static_cast<unsigned>(std::stoul(pagina().substr(segno + 3, 6), nullptr, 16));
+        dove = pagina().find(L"--", segno);
+    }
+    return trovati;
+}
+
+// As the accessibility guidelines for the web compute them.
+double luminanza(unsigned colore) {
+    const auto canale = [colore](unsigned bit) {
+        const double c = ((colore >> bit) & 0xFFU) / 255.0;
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * canale(16) + 0.7152 * canale(8) + 0.0722 * canale(0);
+}
+
+double contrasto(unsigned a, unsigned b) {
+    const auto [minore, maggiore] = std::minmax(luminanza(a), luminanza(b));
+    return (maggiore + 0.05) / (minore + 0.05);
+}
+
+// The number of the error that carries them stands after a message's last word.
+std::wstring conNumero(const std::wstring& testo, int numero) {
+    return numero == 0 ? testo : testo + L" (" + std::to_wstring(numero) + L")";
+}
 
 } // namespace
 
-TEST(Guida, SpiegaOgniMessaggio) {
-    const std::wstring testo = letta();
-    for (const wchar_t* const messaggio : messaggi) {
-        EXPECT_NE(testo.find(messaggio), std::wstring::npos) << inUtf8(messaggio);
+TEST(Guida, SpiegaOgniMessaggioDelProgramma) {
+    const std::wstring guida = letta();
+    std::set<int> numeri;
+    for (const Messaggio& messaggio : messaggiDelProgramma()) {
+        const std::wstring atteso = conNumero(messaggio.testo, messaggio.numero);
+        EXPECT_NE(guida.find(atteso), std::wstring::npos) << inUtf8(atteso);
+        numeri.insert(messaggio.numero);
     }
-    for (const int numero : erroriPossibili) {
-        const std::wstring atteso =
-            std::wstring(testoErrore(numero)) + L" (" + std::to_wstring(numero) + L")";
-        EXPECT_NE(testo.find(atteso), std::wstring::npos) << inUtf8(atteso);
+    // They were looked for where they are.
+    EXPECT_EQ(numeri,
+              (std::set{0, 4453, 4454, 8292, 8874, 8875, 8876, 12883, 18343, 18344, 18345}));
+}
+
+TEST(Guida, SpiegaOgniErroreDellaTabella) {
+    const std::wstring guida = letta();
+    std::set<int> numeri = erroriSollevati();
+    for (DWORD codice = 0; codice < 20000; ++codice) {
+        numeri.insert(erroreWin32(codice).numero());
+    }
+    EXPECT_GT(numeri.size(), 15U);
+    for (const int numero : numeri) {
+        const std::wstring atteso = conNumero(std::wstring(testoErrore(numero)), numero);
+        EXPECT_NE(guida.find(atteso), std::wstring::npos) << inUtf8(atteso);
+    }
+}
+
+TEST(Guida, SiLeggeNelChiaroENelloScuro) {
+    const auto chiari = colori(L":root {");
+    const auto scuri = colori(L"@media (prefers-color-scheme: dark) { :root {");
+    ASSERT_EQ(chiari.size(), scuri.size());
+    for (const auto& [nome, colore] : chiari) {
+        ASSERT_TRUE(scuri.contains(nome)) << inUtf8(nome);
+    }
+    for (const auto& schema : {chiari, scuri}) {
+        for (const auto& [testo, fondo] : {std::pair{L"testo", L"fondo"},
+                                           {L"testo", L"riquadro"},
+                                           {L"testo", L"tasto"},
+                                           {L"testo", L"nota"},
+                                           {L"didascalia", L"fondo"},
+                                           {L"rimando", L"fondo"},
+                                           {L"rimando", L"riquadro"}}) {
+            EXPECT_GE(contrasto(schema.at(testo), schema.at(fondo)), 4.5)
+                << inUtf8(testo) << " on " << inUtf8(fondo);
+        }
+    }
+    EXPECT_LT(luminanza(scuri.at(L"fondo")), 0.05);
+    // No colour stands anywhere else.
+    const auto inizio = pagina().find(L"\nbody {");
+    const auto stile = pagina().substr(inizio, pagina().find(L"</style>") - inizio);
+    EXPECT_EQ(stile.find(L'#'), std::wstring::npos);
+}
+
+TEST(Guida, LeParoleSonoQuelleDiOggi) {
+    const std::wstring guida = letta();
+    for (const wchar_t* const parola : {L"marche", L"marca ", L"neretto", L"codice ISO"}) {
+        EXPECT_EQ(guida.find(parola), std::wstring::npos) << inUtf8(parola);
+    }
+    for (const wchar_t* const parola : {L"tag HTML", L"grassetto", L"codifica ISO-8859-1"}) {
+        EXPECT_NE(guida.find(parola), std::wstring::npos) << inUtf8(parola);
     }
 }
 
