@@ -1,5 +1,7 @@
 // The yardstick of opening, saving and memory: the XML DOM, called with nothing in between.
-//   bench_dom genera FILE ITEMS    writes the feed that the others read
+//   bench_dom genera FILE ITEMS [LENGTH]
+//                                  writes the feed that the others read; with a length every
+//                                  description has that many characters
 //   bench_dom apri FILE            loads it, asks once for `rss`, walks down reading six texts
 //   bench_dom salva FILE TO        builds the tree of that feed anew and saves it, the median of a
 //   few
@@ -216,8 +218,8 @@ int salva(const wchar_t* percorso, const wchar_t* destinazione) {
     return 0;
 }
 
-int genera(const wchar_t* percorso, int elementi) {
-    const std::string feed = feedProva(elementi);
+int genera(const wchar_t* percorso, int elementi, int lunghezza) {
+    const std::string feed = feedProva(elementi, static_cast<std::size_t>(lunghezza));
     std::ofstream file(std::filesystem::path(percorso), std::ios::binary);
     file.write(feed.data(), static_cast<std::streamsize>(feed.size()));
     file.close();
@@ -236,7 +238,10 @@ int wmain(int quanti, wchar_t** argomenti) {
     } else if (cosa == L"salva" && quanti > 3) {
         esito = salva(argomenti[2], argomenti[3]);
     } else if (cosa == L"genera" && quanti > 3) {
-        esito = genera(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
+        const auto numero = [&](int quale) {
+            return static_cast<int>(std::wcstol(argomenti[quale], nullptr, 10));
+        };
+        esito = genera(argomenti[2], numero(3), quanti > 4 ? numero(4) : 0);
     }
     OleUninitialize();
     return esito;

@@ -16,14 +16,22 @@ std::string dueCifre(int numero) {
     return {static_cast<char>('0' + numero / 10), static_cast<char>('0' + numero % 10)};
 }
 
-void aggiungiElemento(std::string& feed, int indice) {
+std::string descrizione(int indice, std::size_t lunghezza) {
+    std::string testo;
+    std::size_t i = static_cast<std::size_t>(indice);
+    const std::size_t fine = i + frasi.size();
+    while (lunghezza > 0 ? testo.size() < lunghezza : i < fine) {
+        testo += frasi[i++ % frasi.size()];
+    }
+    testo.resize(lunghezza > 0 ? lunghezza : testo.size());
+    return testo;
+}
+
+void aggiungiElemento(std::string& feed, int indice, std::size_t lunghezza) {
     const std::string numero = std::to_string(indice);
     feed += "<item><title>Notizia numero " + numero + " dalla redazione del giornale</title>";
     feed += "<link>https://giornale.example/notizie/2005/" + numero + ".html</link>";
-    feed += "<description><![CDATA[";
-    for (std::size_t i = 0; i < frasi.size(); ++i) {
-        feed += frasi[(i + static_cast<std::size_t>(indice)) % frasi.size()];
-    }
+    feed += "<description><![CDATA[" + descrizione(indice, lunghezza);
     feed += "]]></description><author>redazione@giornale.example</author><pubDate>";
     feed += "Tue, " + dueCifre(1 + indice % 28) + " Nov 2005 " + dueCifre(indice % 24) + ":" +
             dueCifre(indice % 60) + ":00 +0100</pubDate><guid>giornale-" + numero +
@@ -32,7 +40,7 @@ void aggiungiElemento(std::string& feed, int indice) {
 
 } // namespace
 
-std::string feedProva(int elementi) {
+std::string feedProva(int elementi, std::size_t lunghezza) {
     std::string feed =
         "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<rss version=\"2.0\"><channel>"
         "<title>Il giornale</title><link>https://giornale.example/</link>"
@@ -41,7 +49,7 @@ std::string feedProva(int elementi) {
         "<lastBuildDate>Tue, 15 Nov 2005 10:00:00 +0100</lastBuildDate>"
         "<webMaster>web@giornale.example</webMaster>\n";
     for (int i = 0; i < elementi; ++i) {
-        aggiungiElemento(feed, i);
+        aggiungiElemento(feed, i, lunghezza);
     }
     feed += "</channel></rss>\n";
     return feed;
