@@ -2,6 +2,7 @@
 #include "support/com_win.h"
 #include "support/dialoghiFile_win.h"
 #include "support/errori_win.h"
+#include "support/heap_win.h"
 #include "support/impostazioni_win.h"
 #include "support/messaggi_win.h"
 #include "support/orologio.h"
@@ -37,6 +38,7 @@ int esegui(int comeMostrare) {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int comeMostrare) {
+    heapPerPiccoliBlocchi();
     // Libraries are the system's: never the current folder's or the document's.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     try {

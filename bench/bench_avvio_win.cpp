@@ -2,6 +2,7 @@
 //   bench_avvio PROGRAM YARDSTICK TIMES
 
 #include "bench/misure_win.h"
+#include "support/heap_win.h"
 
 #include <windows.h>
 
@@ -85,6 +86,7 @@ double avvia(const wchar_t* programma) {
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
+    heapPerPiccoliBlocchi();
     if (quanti < 4) {
         return 2;
     }

@@ -6,6 +6,7 @@
 
 #include "bench/feedProva.h"
 #include "bench/misure_win.h"
+#include "support/heap_win.h"
 
 #include <windows.h>
 
@@ -226,6 +227,7 @@ int genera(const wchar_t* percorso, int elementi) {
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
+    heapPerPiccoliBlocchi();
     controlla(OleInitialize(nullptr));
     const std::wstring_view cosa = quanti > 2 ? argomenti[1] : L"";
     int esito = 2;

@@ -2,6 +2,7 @@
 // program's, and one XML DOM; nothing else.
 
 #include "res/risorse.h"
+#include "support/heap_win.h"
 
 #include <windows.h>
 
@@ -145,6 +146,7 @@ bool creaDocumento() {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE modulo, HINSTANCE, LPWSTR, int comeMostrare) {
+    heapPerPiccoliBlocchi();
     if (FAILED(OleInitialize(nullptr)) || !creaDocumento()) {
         return 1;
     }

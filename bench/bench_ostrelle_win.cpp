@@ -9,6 +9,7 @@
 #include "support/ClsCodaEliminazione.h"
 #include "support/com_win.h"
 #include "support/dialoghiFile.h"
+#include "support/heap_win.h"
 #include "support/impostazioni_win.h"
 #include "support/messaggi.h"
 #include "support/orologio.h"
@@ -170,6 +171,7 @@ int modifica(const std::wstring& percorso, int volte) {
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
+    heapPerPiccoliBlocchi();
     const Apartamento apartamento;
     const std::wstring_view cosa = quanti > 2 ? argomenti[1] : L"";
     if (cosa == L"apri") {

@@ -25,7 +25,7 @@ public:
                            std::wstring& webMaster, clsImgRss& image, TabellaElementi& items) const;
 
     // Writes every item up to the table's upper bound. The file on disk is touched once the tree is
-    // complete: deleted, then saved. Raises 5 for a text that no XML document can hold, 61 when the
+    // complete: deleted, then saved. Raises 5 for a text that a feed cannot hold, 61 when the
     // disk was full, else the failure of the deletion or the DOM.
     void CreaDocumentoRSS(const std::wstring& path, const Canale& canale,
                           const TabellaElementi& items) const;
@@ -53,7 +53,6 @@ public:
 
 private:
     static void LeggiImmagine(const NodoXml& nodo, clsImgRss& image);
-
     // Every line break as CR LF: CR LF becomes LF, then each LF becomes CR LF. A lone CR stays.
     [[nodiscard]] static std::wstring NormalizzaACapo(std::wstring_view testo);
 };

@@ -1,10 +1,12 @@
 #include "document/clsFeedRss.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/deposito.h"
 #include "support/errore.h"
 #include "support/numeri.h"
+#include "support/prodotto.h"
 #include "support/testo.h"
 #include "support/xml_win.h"
 
@@ -84,24 +86,42 @@ std::wstring_view conserva(Deposito& deposito, CampoElemento campo, std::wstring
     return deposito.conserva(aCapoCrLf(testo));
 }
 
-// A later child of the same name overwrites an earlier one. An item without a date is of `adesso`.
-TestiElemento leggiElemento(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
-    TestiElemento testi;
-    perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
-        const auto dove = posto(nomiElemento, nome.vista());
-        if (!dove) {
-            return;
+// Reads items into a store. In a feed that the program wrote (`nostro`) a description says by
+// references what its code page lacked; an item without a date is of `adesso`.
+class LettoreElementi {
+public:
+    LettoreElementi(Deposito& deposito, bool nostro, std::wstring_view adesso)
+        : deposito_(deposito), adesso_(deposito.conserva(adesso)), nostro_(nostro) {}
+
+    // A later child of the same name overwrites an earlier one.
+    void leggi(const NodoXml& nodo) {
+        TestiElemento testi;
+        perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
+            if (const auto dove = posto(nomiElemento, nome.vista())) {
+                testi[*dove] = testo(figlio, static_cast<CampoElemento>(*dove));
+            }
+        });
+        if (auto& data = testi[static_cast<std::size_t>(CampoElemento::Data)]; data.empty()) {
+            data = adesso_;
         }
-        const auto campo = static_cast<CampoElemento>(*dove);
-        const NodoXml origine = campo == CampoElemento::Descrizione ? figlio.primoFiglio() : figlio;
-        testi[*dove] =
-            origine ? conserva(deposito, campo, origine.testo().vista()) : std::wstring_view();
-    });
-    if (auto& data = testi[static_cast<std::size_t>(CampoElemento::Data)]; data.empty()) {
-        data = adesso;
+        deposito_.aggiungi(testi);
     }
-    return testi;
-}
+
+private:
+    std::wstring_view testo(const NodoXml& nodo, CampoElemento campo) {
+        if (campo != CampoElemento::Descrizione) {
+            return conserva(deposito_, campo, nodo.testo().vista());
+        }
+        const Bstr letto = nodo.testoPrimoFiglio();
+        return conserva(deposito_, campo,
+                        nostro_ ? conCaratteri(letto.vista(), appoggio_) : letto.vista());
+    }
+
+    Deposito& deposito_;
+    std::wstring_view adesso_;
+    bool nostro_;
+    std::wstring appoggio_;
+};
 
 // What counts of the channel besides the items, gathered in one walk: a query for each field would
 // go through the whole document each time.
@@ -110,13 +130,12 @@ struct CanaleLetto {
     std::vector<NodoXml> immagini;
 };
 
-CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito, std::wstring_view adesso) {
-    const std::wstring_view data = deposito.conserva(adesso);
+CanaleLetto percorriCanale(const NodoXml& nodo, LettoreElementi lettore) {
     CanaleLetto canale;
     perOgniFiglio(nodo, [&](const NodoXml& figlio, const Bstr& nome) {
         if (nome.vista() == L"item") {
             if (figlio.elemento()) {
-                deposito.aggiungi(leggiElemento(figlio, deposito, data));
+                lettore.leggi(figlio);
             }
         } else if (nome.vista() == L"image") {
             if (figlio.elemento()) {
@@ -129,7 +148,12 @@ CanaleLetto percorriCanale(const NodoXml& nodo, Deposito& deposito, std::wstring
     return canale;
 }
 
-NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso) {
+struct Feed {
+    NodoXml rss;
+    NodoXml channel;
+};
+
+Feed trovaFeed(const DocumentoXml& documento, const std::wstring& percorso) {
     const auto radici = documento.elementi(L"rss");
     std::vector<NodoXml> canali;
     if (radici.size() == 1) {
@@ -142,7 +166,7 @@ NodoXml trovaCanale(const DocumentoXml& documento, const std::wstring& percorso)
     if (canali.size() != 1) {
         rifiuta(formatoNonValido, percorso, L": formato non valido.");
     }
-    return canali.front();
+    return {radici.front(), canali.front()};
 }
 
 std::int32_t misura(const NodoXml& nodo) {
@@ -164,7 +188,10 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
         if (!documento.carica(path)) {
             rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
         }
-        const CanaleLetto letto = percorriCanale(trovaCanale(documento, path), *deposito, adesso);
+        const Feed feed = trovaFeed(documento, path);
+        const bool nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
+        const CanaleLetto letto =
+            percorriCanale(feed.channel, LettoreElementi(*deposito, nostro, adesso));
         for (std::size_t i = 0; i < vociCanale.size(); ++i) {
             const auto membro = vociCanale[i].membro;
             if (const NodoXml& nodo = letto.campi[i]) {

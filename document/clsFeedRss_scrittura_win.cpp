@@ -41,10 +41,7 @@ void clsFeedRss::CreaDocumentoRSS(const std::wstring& path, const Canale& canale
     const DocumentoXml documento;
     documento.aggiungi(
         documento.creaIstruzione(L"xml", L" version=\"1.0\" encoding=\"ISO-8859-1\" "));
-    std::wstring commento(L"Feed RSS creato con ");
-    commento += prodotto::titolo;
-    commento += prodotto::creditoFeed;
-    documento.aggiungi(documento.creaCommento(commento));
+    documento.aggiungi(documento.creaCommento(prodotto::commentoFeed()));
     const ElementoXml rss = documento.creaElemento(L"rss");
     documento.creaAttributo(rss, L"version", L"2.0");
     const ElementoXml channel = documento.creaElemento(L"channel");

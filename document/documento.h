@@ -32,6 +32,7 @@ public:
     Documento() = default;
     Documento(const Documento&) = delete;
     Documento& operator=(const Documento&) = delete;
+    ~Documento() = default;
 
     [[nodiscard]] const TabellaElementi& elementi() const noexcept { return elementi_; }
 

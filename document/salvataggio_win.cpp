@@ -3,6 +3,7 @@
 #include "support/errori_win.h"
 #include "support/file_win.h"
 #include "support/maniglie_win.h"
+#include "support/scrittura_win.h"
 #include "support/xml_win.h"
 
 #include <algorithm>
@@ -36,6 +37,9 @@ std::string coda(const std::wstring& percorso) {
 void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso) {
     if (fileEsiste(percorso)) {
         cancellaFile(percorso);
+    } else {
+        // The DOM's own error for a path that cannot be written says nothing of it.
+        provaCreazione(percorso);
     }
     documento.salva(percorso);
     verificaIntero(percorso);

@@ -4,8 +4,8 @@
 
 class DocumentoXml;
 
-// Deletes the file that exists at `percorso`, then saves the finished document there. Raises the
-// failure of either; error 61 when the document saved is not whole.
+// Deletes the file that exists at `percorso`, or sees that one can be made there, then saves the
+// finished document. Raises the failure of any; error 61 when the document saved is not whole.
 void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso);
 
 // Raises error 61 when the file does not end in "</rss>", white space aside: on a full disk the

@@ -1,5 +1,7 @@
 #include "support/errore.h"
 
+#include "support/testo.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -46,11 +48,8 @@ static_assert(std::ranges::is_sorted(tabella, {}, &Voce::numero));
 } // namespace
 
 Errore::Errore(std::int32_t numero, std::wstring descrizione)
-    : numero_(numero), descrizione_(std::move(descrizione)) {}
-
-const char* Errore::what() const noexcept {
-    return "run-time error";
-}
+    : numero_(numero), descrizione_(std::move(descrizione)),
+      what_("error " + std::to_string(numero) + ": " + comeUtf8(descrizione_)) {}
 
 std::wstring_view testoErrore(std::int32_t numero) noexcept {
     const auto* const voce = std::ranges::lower_bound(tabella, numero, {}, &Voce::numero);

@@ -13,11 +13,13 @@ public:
 
     [[nodiscard]] std::int32_t numero() const noexcept { return numero_; }
     [[nodiscard]] const std::wstring& descrizione() const noexcept { return descrizione_; }
-    [[nodiscard]] const char* what() const noexcept override;
+    // Number and description in UTF-8, for whoever reports exceptions of any kind.
+    [[nodiscard]] const char* what() const noexcept override { return what_.c_str(); }
 
 private:
     std::int32_t numero_;
     std::wstring descrizione_;
+    std::string what_;
 };
 
 // The numbers that the code raises by name. Those below 1000 are the run time's.

@@ -15,11 +15,13 @@ std::int32_t numeroWin32(DWORD codice) noexcept {
     case ERROR_FILE_NOT_FOUND:
         return errori::fileNonTrovato;
     case ERROR_PATH_NOT_FOUND:
+    case ERROR_FILENAME_EXCED_RANGE:
         return errori::percorsoNonTrovato;
     case ERROR_ACCESS_DENIED:
         return errori::accessoAlPercorso;
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
+    case ERROR_WRITE_PROTECT:
         return errori::autorizzazioneNegata;
     case ERROR_INVALID_DRIVE:
     case ERROR_UNRECOGNIZED_VOLUME:

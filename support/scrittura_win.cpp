@@ -40,3 +40,20 @@ void FileNuovo::scrivi(std::string_view byte) {
 void FileNuovo::conferma() noexcept {
     const ManigliaFile chiuso = std::move(file_);
 }
+
+void provaCreazione(const std::wstring& percorso) {
+    const ManigliaFile prova(
+        CreateFileW(percorso.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+    if (prova) {
+        return;
+    }
+    const DWORD codice = GetLastError();
+    if (codice != ERROR_FILE_EXISTS) {
+        sollevaWin32(codice);
+    }
+    if ((GetFileAttributesW(percorso.c_str()) & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        // What writing to a folder is answered with.
+        sollevaWin32(ERROR_ACCESS_DENIED);
+    }
+}

@@ -24,3 +24,7 @@ private:
     std::wstring percorso_;
     ManigliaFile file_;
 };
+
+// Finds out whether a file can be made at a path where the listing shows none: one is, and goes
+// again at once. Raises the run-time error of the failure; a hidden file that stands there is none.
+void provaCreazione(const std::wstring& percorso);

@@ -1,6 +1,7 @@
 #include "support/testo.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -61,7 +62,9 @@ std::wstring aCapoCrLf(std::wstring_view testo) {
             scritti = i;
         }
     }
-    return risultato.append(testo.substr(scritti));
+    risultato.append(testo.substr(scritti));
+    // Not what append gives: that would be a copy.
+    return risultato;
 }
 
 std::vector<std::wstring_view> dividi(std::wstring_view testo, std::wstring_view separatore) {
@@ -98,4 +101,24 @@ char32_t leggiCarattere(std::wstring_view testo, std::size_t& posizione) noexcep
         }
     }
     return primo;
+}
+
+std::string comeUtf8(std::wstring_view testo) {
+    // What the first byte begins with, by the number of bytes.
+    constexpr std::array<char32_t, 4> testa{0x00, 0xC0, 0xE0, 0xF0};
+    constexpr char32_t sostituto = 0xFFFD;
+    std::string risultato;
+    for (std::size_t posizione = 0; posizione < testo.size();) {
+        char32_t c = leggiCarattere(testo, posizione);
+        if (surrogatoAlto(c) || surrogatoBasso(c)) {
+            c = sostituto;
+        }
+        std::size_t resto = byteUtf8(c) - 1;
+        risultato += static_cast<char>(testa[resto] | (c >> (6 * resto)));
+        while (resto > 0) {
+            --resto;
+            risultato += static_cast<char>(0x80 | ((c >> (6 * resto)) & 0x3F));
+        }
+    }
+    return risultato;
 }

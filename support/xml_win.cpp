@@ -1,9 +1,12 @@
 #include "support/xml_win.h"
 
+#include "support/entita.h"
 #include "support/errori_win.h"
 #include "support/maniglie_win.h"
 
+#include <algorithm>
 #include <limits>
+#include <span>
 
 namespace {
 
@@ -31,6 +34,30 @@ ComPtr<IXMLDOMNode> comeNodo(const ComPtr<Interfaccia>& origine) {
     return ComPtr<IXMLDOMNode>(origine.get());
 }
 
+// Near the end of a large file whose last text is long the parser may look for more of the file
+// than there is, and give up: comments past the end are what it finds then.
+constexpr DWORD fileGrande = 9'000'000;
+constexpr DWORD riservaInFondo = 1400;
+
+// Fills the end of the bytes, in the coding of the file that stands before it.
+void scriviRiserva(std::span<char> byte) {
+    using namespace std::string_view_literals;
+    const std::string_view inizio(byte.data(), 2);
+    const bool altoPrima = inizio == "\xFE\xFF"sv || inizio.front() == '\0';
+    const bool bassoPrima = inizio == "\xFF\xFE"sv || inizio.back() == '\0';
+    std::string commento;
+    for (const char c : "<!---->"sv) {
+        commento.append(altoPrima ? 1 : 0, '\0');
+        commento += c;
+        commento.append(bassoPrima ? 1 : 0, '\0');
+    }
+    // Of either length a whole number goes in.
+    for (auto resto = byte.last(riservaInFondo); !resto.empty();
+         resto = resto.subspan(commento.size())) {
+        std::ranges::copy(commento, resto.begin());
+    }
+}
+
 // All the bytes of a file, as an array that the DOM takes; false when it cannot be read.
 bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
     const ManigliaFile file(CreateFileW(
@@ -42,8 +69,9 @@ bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
         return false;
     }
     const auto quanti = static_cast<DWORD>(lunghezza.QuadPart);
+    const DWORD riserva = quanti >= fileGrande ? riservaInFondo : 0;
     VARIANT* const variante = contenuto.riempi();
-    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti);
+    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti + riserva);
     if (variante->parray == nullptr) {
         solleva(errori::memoriaEsaurita);
     }
@@ -53,8 +81,30 @@ bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
     DWORD letti = 0;
     const bool riuscito =
         ReadFile(file.get(), dati, quanti, &letti, nullptr) != FALSE && letti == quanti;
+    if (riserva != 0) {
+        scriviRiserva({static_cast<char*>(dati), std::size_t{quanti} + riserva});
+    }
     verifica(SafeArrayUnaccessData(variante->parray));
     return riuscito;
+}
+
+// Whether an entity is referred to anywhere in an element. It may be deeper than the stack.
+bool contieneRiferimenti(NodoXml elemento) {
+    std::vector<NodoXml> daGuardare{std::move(elemento)};
+    while (!daGuardare.empty()) {
+        NodoXml figlio = daGuardare.back().primoFiglio();
+        daGuardare.pop_back();
+        for (; figlio; figlio = figlio.fratello()) {
+            const DOMNodeType tipo = figlio.tipo();
+            if (tipo == NODE_ENTITY_REFERENCE) {
+                return true;
+            }
+            if (tipo == NODE_ELEMENT) {
+                daGuardare.push_back(figlio);
+            }
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -65,15 +115,27 @@ Bstr NodoXml::nome() const {
     return nome;
 }
 
-bool NodoXml::elemento() const {
+DOMNodeType NodoXml::tipo() const {
     DOMNodeType tipo{};
     verifica(nodo_->get_nodeType(&tipo));
-    return tipo == NODE_ELEMENT;
+    return tipo;
 }
 
 Bstr NodoXml::testo() const {
     Bstr testo;
     verifica(nodo_->get_text(testo.riempi()));
+    return testo;
+}
+
+Bstr NodoXml::testoPrimoFiglio() const {
+    const NodoXml figlio = primoFiglio();
+    Bstr testo = figlio ? figlio.testo() : Bstr();
+    if (figlio && testo.vista().empty() && figlio.tipo() == NODE_ENTITY_REFERENCE) {
+        // The DOM may give a reference no text of its own, but what stands around it has it.
+        const NodoXml intorno = copia();
+        intorno.aggiungi(figlio.copia());
+        testo = intorno.testo();
+    }
     return testo;
 }
 
@@ -87,6 +149,29 @@ NodoXml NodoXml::fratello() const {
     ComPtr<IXMLDOMNode> nodo;
     verifica(nodo_->get_nextSibling(nodo.riempi()));
     return NodoXml(std::move(nodo));
+}
+
+NodoXml NodoXml::precedente() const {
+    ComPtr<IXMLDOMNode> nodo;
+    verifica(nodo_->get_previousSibling(nodo.riempi()));
+    return NodoXml(std::move(nodo));
+}
+
+bool NodoXml::dopoCommento(std::wstring_view testo) const {
+    // Not past a DOCTYPE: it may not know what stands before it.
+    for (NodoXml nodo = precedente(); nodo && nodo.tipo() != NODE_DOCUMENT_TYPE;
+         nodo = nodo.precedente()) {
+        if (nodo.tipo() == NODE_COMMENT && nodo.testo().vista() == testo) {
+            return true;
+        }
+    }
+    return false;
+}
+
+NodoXml NodoXml::copia() const {
+    ComPtr<IXMLDOMNode> copia;
+    verifica(nodo_->cloneNode(VARIANT_FALSE, copia.riempi()));
+    return NodoXml(std::move(copia));
 }
 
 void NodoXml::aggiungi(const NodoXml& figlio) const {
@@ -107,7 +192,23 @@ bool DocumentoXml::carica(const std::wstring& percorso) const {
         return false;
     }
     VARIANT_BOOL riuscito = VARIANT_FALSE;
-    return documento_->load(contenuto.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE;
+    return documento_->load(contenuto.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE &&
+           riferimentiNoti();
+}
+
+// Where there is a DOCTYPE the DOM passes over what it knows no replacement of. Its declarations it
+// shows in the text of the whole document alone, which takes longer than reading it.
+bool DocumentoXml::riferimentiNoti() const {
+    ComPtr<IXMLDOMDocumentType> tipo;
+    verifica(documento_->get_doctype(tipo.riempi()));
+    ComPtr<IXMLDOMElement> radice;
+    verifica(documento_->get_documentElement(radice.riempi()));
+    if (!tipo || !radice || !contieneRiferimenti(NodoXml(comeNodo(radice)))) {
+        return true;
+    }
+    Bstr testo;
+    verifica(documento_->get_xml(testo.riempi()));
+    return entitaNote(testo.vista());
 }
 
 void DocumentoXml::salva(const std::wstring& percorso) const {

@@ -22,16 +22,25 @@ public:
 
     // The exact name, prefix included.
     [[nodiscard]] Bstr nome() const;
-    [[nodiscard]] bool elemento() const;
+    [[nodiscard]] DOMNodeType tipo() const;
+    [[nodiscard]] bool elemento() const { return tipo() == NODE_ELEMENT; }
     // The text of the node and its descendants, as the DOM trims it.
     [[nodiscard]] Bstr testo() const;
+    // The text of the first child alone, be it a reference; none without children.
+    [[nodiscard]] Bstr testoPrimoFiglio() const;
 
     [[nodiscard]] NodoXml primoFiglio() const;
     [[nodiscard]] NodoXml fratello() const;
+    // Whether a comment of that text stands before the node, on its level.
+    [[nodiscard]] bool dopoCommento(std::wstring_view testo) const;
 
     void aggiungi(const NodoXml& figlio) const;
 
 private:
+    [[nodiscard]] NodoXml precedente() const;
+    // Without what is in it.
+    [[nodiscard]] NodoXml copia() const;
+
     ComPtr<IXMLDOMNode> nodo_;
 };
 
@@ -46,7 +55,8 @@ public:
     // Raises error 429 when the parser is not installed.
     DocumentoXml();
 
-    // Whether the file could be loaded. Any name that the file system takes will do.
+    // Whether the file could be loaded, with every reference in it replaced. Any name that the file
+    // system takes will do.
     [[nodiscard]] bool carica(const std::wstring& percorso) const;
     // Raises the failure, also where the DOM reports a part success.
     void salva(const std::wstring& percorso) const;
@@ -67,6 +77,8 @@ public:
     void aggiungi(const NodoXml& figlio) const;
 
 private:
+    [[nodiscard]] bool riferimentiNoti() const;
+
     ComPtr<IXMLDOMDocument> documento_;
 };
 

@@ -1,4 +1,5 @@
 #include "support/com_win.h"
+#include "support/heap_win.h"
 
 #include <windows.h>
 
@@ -8,6 +9,7 @@
 
 // Console output is UTF-8, so that a failure shows Italian texts as they are.
 int main(int argc, char** argv) {
+    heapPerPiccoliBlocchi();
     SetConsoleOutputCP(CP_UTF8);
     const Apartamento apartamento;
     const INITCOMMONCONTROLSEX classi{sizeof(classi),

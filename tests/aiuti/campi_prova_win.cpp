@@ -2,13 +2,9 @@
 
 #include "res/risorse.h"
 #include "support/dataora_win.h"
-#include "support/testo.h"
 #include "tests/aiuti/schermo_win.h"
-#include "ui/main/campiCanale_win.h"
 
 #include <commctrl.h>
-
-#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -31,12 +27,6 @@ void CampiProva::testo(int id, std::wstring_view valore) const {
     const int codice = id == IDC_CBOLINGUA ? CBN_EDITCHANGE : EN_CHANGE;
     SendMessageW(hwnd(), WM_COMMAND, MAKEWPARAM(id, codice),
                  reinterpret_cast<LPARAM>(controllo(id)));
-}
-
-bool CampiProva::vuoti() const {
-    return std::ranges::all_of(controlliCanale, [this](const ControlloCanale& campo) {
-        return !campo.testo() || rifila(testo(campo.id)).empty();
-    });
 }
 
 KOInputNumerico& CampiProva::txtLarghezza() const {

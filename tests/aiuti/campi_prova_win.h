@@ -22,7 +22,6 @@ public:
     // Writing tells the frame of it, as typing does.
     [[nodiscard]] std::wstring testo(int id) const;
     void testo(int id, std::wstring_view valore) const;
-    [[nodiscard]] bool vuoti() const;
 
     [[nodiscard]] KOInputNumerico& txtLarghezza() const;
     [[nodiscard]] KOInputNumerico& txtAltezza() const;

@@ -15,10 +15,11 @@ CartellaProva::CartellaProva() {
     static unsigned numero = 0;
     ++numero;
     const auto base = std::filesystem::temp_directory_path();
+    // The time too: a process of the same number that was killed may have left a folder, and one with
+    // paths too long for remove_all stays.
     const auto cartella =
-        base / (L"prova" + std::to_wstring(GetCurrentProcessId()) + L"_" + std::to_wstring(numero));
-    // A process of the same number that was killed may have left one.
-    std::filesystem::remove_all(cartella);
+        base / (L"prova" + std::to_wstring(GetCurrentProcessId()) + L"_" + std::to_wstring(numero) +
+                L"_" + std::to_wstring(GetTickCount64()));
     std::filesystem::create_directories(cartella);
     percorso_ = cartella.wstring();
 }

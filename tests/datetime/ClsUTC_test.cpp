@@ -33,6 +33,26 @@ TEST(ClsUTC, GiugnoSiScriveJulELuglioJun) {
     EXPECT_EQ(utc.GetDataUtc(luglio, true), L"Mon, 11 Jun 2005 15:00:00 +0100");
 }
 
+TEST(ClsUTC, IGiorniDellaSettimanaEIMesiSiScrivonoInInglese) {
+    const ClsUTC utc = conScarto(1);
+    // 2 January 2005 was a Sunday.
+    int giorno = 2;
+    for (const auto* const nome :
+         {L"Sun", L"Mon", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat", L"Sun"}) {
+        const std::wstring numero = std::to_wstring(giorno);
+        EXPECT_EQ(utc.GetDataUtc(DataOra::daParti(2005, 1, giorno, 4, 5, 6), true),
+                  std::wstring(nome) + L", 0" + numero + L" Jan 2005 04:05:06 +0100");
+        ++giorno;
+    }
+    int mese = 1;
+    for (const std::wstring nome : {L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jul", L"Jun", L"Aug",
+                                    L"Sep", L"Oct", L"Nov", L"Dec"}) {
+        EXPECT_EQ(utc.GetDataUtc(DataOra::daParti(2005, mese, 10), true).substr(4, 13),
+                  L" 10 " + nome + L" 2005 ");
+        ++mese;
+    }
+}
+
 TEST(ClsUTC, JunSiLeggeLuglioEGiuGiugno) {
     const ClsUTC utc = conScarto(1);
     EXPECT_EQ(utc.ToDate(L"Sat, 11 Jun 2005 15:00:00 +0100"), luglio);

@@ -23,6 +23,21 @@ Sollevato errore(std::wstring_view testo, const NomeTesto& nome = {L"titolo", 3}
     return sollevatoDa([&] { return verificaCData(testo, nome, L"c:\\città.xml"), 0; });
 }
 
+// The same of a text that stands in an element, and before there is a file.
+Sollevato erroreSenzaFile(std::wstring_view testo) {
+    return sollevatoDa([&] { return verificaTesto(testo, {L"link"}, {}), 0; });
+}
+
+std::wstring ripetuto(std::wstring_view pezzo, std::size_t volte, std::wstring_view coda = L"") {
+    std::wstring testo;
+    testo.reserve(pezzo.size() * volte + coda.size());
+    while (volte > 0) {
+        testo += pezzo;
+        --volte;
+    }
+    return testo.append(coda);
+}
+
 } // namespace
 
 TEST(CaratteriXml, OgniPuntoDelCodice) {
@@ -90,4 +105,62 @@ TEST(CaratteriXml, SoloCioCheMancaAlLatin1DiventaRiferimento) {
     EXPECT_EQ(riferito(testoDi(0x1F600) + testoDi(0xFF) + testoDi(0x100) + testoDi(0x85)),
               L"&#128512;" + testoDi(0xFF) + L"&#256;" + testoDi(0x85));
     EXPECT_EQ(riferito(L""), L"");
+}
+
+TEST(CaratteriXml, OgniRiferimentoScrittoTornaIlSuoCarattere) {
+    std::wstring appoggio;
+    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+        const std::wstring riferimento = L"&#" + std::to_wstring(std::uint32_t{c}) + L';';
+        const bool nostro = c > 0xFF && !primoVietato(testoDi(c));
+        ASSERT_EQ(conCaratteri(riferimento, appoggio), nostro ? testoDi(c) : riferimento)
+            << std::uint32_t{c};
+    }
+}
+
+TEST(CaratteriXml, SenzaFileIlMessaggioNonLoNomina) {
+    EXPECT_EQ(erroreSenzaFile(L"\v").descrizione, L"Carattere non ammesso in link (U+000B).");
+    EXPECT_EQ(
+        sollevatoDa([] { return verificaCData(L"]]>", {L"descrizione"}, {}), 0; }).descrizione,
+        L"Sequenza ]]> non ammessa in descrizione.");
+}
+
+TEST(CaratteriXml, IlRifiutoSaDiCheElementoE) {
+    const auto elemento = [](const NomeTesto& nome) {
+        try {
+            verificaTesto(L"\v", nome, L"a.xml");
+        } catch (const TestoRifiutato& e) {
+            return e.elemento();
+        }
+        return -1;
+    };
+    EXPECT_EQ(elemento({L"titolo", 3}), 3);
+    EXPECT_EQ(elemento({L"titolo del canale"}), 0);
+}
+
+TEST(CaratteriXml, DieciMilioniDiByteSonoTroppi) {
+    const std::wstring limite = ripetuto(L"x", 9'999'999);
+    EXPECT_EQ(erroreSenzaFile(limite).numero, 0);
+    const auto e = erroreSenzaFile(limite + L'x');
+    EXPECT_EQ(e.numero, 5);
+    EXPECT_EQ(e.descrizione, L"Testo troppo lungo in link.");
+    EXPECT_EQ(errore(limite).numero, 0);
+    EXPECT_EQ(errore(limite + L'x').descrizione,
+              L"C:\\CITTÀ.XML: testo troppo lungo in titolo dell'elemento 3.");
+}
+
+// As many bytes as UTF-8 has; a CDATA section counts its references.
+TEST(CaratteriXml, IlLimiteContaIByte) {
+    std::wstring testo = ripetuto(testoDi(0x1F600), 2'499'999, L"xxx");
+    EXPECT_EQ(erroreSenzaFile(testo).numero, 0);
+    EXPECT_EQ(erroreSenzaFile(testo += L'x').numero, 5);
+    testo = ripetuto(L"€", 3'333'333);
+    EXPECT_EQ(erroreSenzaFile(testo).numero, 0);
+    EXPECT_EQ(erroreSenzaFile(testo += L'x').numero, 5);
+    testo = ripetuto(L"&#8364;", 1'000'000).append(ripetuto(L"€", 428'571, L"xx"));
+    EXPECT_EQ(errore(testo).numero, 0);
+    EXPECT_EQ(errore(testo += L'x').numero, 5);
+    // The same without what it lacks: the bytes are those that are written.
+    testo = ripetuto(L"è", 4'999'999, L"x");
+    EXPECT_EQ(errore(testo).numero, 0);
+    EXPECT_EQ(errore(testo += L'x').numero, 5);
 }

@@ -31,6 +31,8 @@ std::wstring titoli(const Documento& documento) {
 class Orecchio final : public OsservatoreDocumento {
 public:
     explicit Orecchio(Documento& documento) : documento_(documento) { documento.osserva(*this); }
+    Orecchio(const Orecchio&) = delete;
+    Orecchio& operator=(const Orecchio&) = delete;
     ~Orecchio() { documento_.lascia(*this); }
 
     std::vector<std::pair<Modifica, Causa>> sentite;
@@ -55,6 +57,7 @@ class DocumentoDiProva : public testing::Test {
 protected:
     void riempi(const std::vector<std::wstring>& quali) {
         std::vector<ElementoCondiviso> elementi;
+        elementi.reserve(quali.size());
         for (const auto& titolo : quali) {
             elementi.push_back(intitolato(titolo));
         }

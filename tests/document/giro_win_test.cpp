@@ -15,12 +15,6 @@
 
 namespace {
 
-// The text as the CDATA section gets it.
-std::wstring riferito(std::wstring_view testo) {
-    std::wstring appoggio;
-    return std::wstring(conRiferimenti(testo, appoggio));
-}
-
 // What is written reads back equal, but for what the DOM and the format do to some texts.
 
 constexpr std::wstring_view spaziXml = L" \t\r\n";
@@ -38,10 +32,12 @@ std::wstring attesoElemento(std::wstring_view testo) {
     return aCapoCrLf(rifilatoDalDom(testo));
 }
 
-// A CDATA section: references for what the encoding lacks, a lone CR becomes a line break.
+// A CDATA section: a lone CR becomes a line break, a reference as the writer would write it becomes
+// its character.
 std::wstring attesoCData(std::wstring_view testo) {
     const std::wstring lf = sostituisci(sostituisci(testo, L"\r\n", L"\n"), L"\r", L"\n");
-    return aCapoCrLf(riferito(lf));
+    std::wstring appoggio;
+    return aCapoCrLf(conCaratteri(lf, appoggio));
 }
 
 // Texts over all that XML allows, with what is delicate more often than its share.
@@ -63,10 +59,11 @@ public:
 
 private:
     void aggiungiPezzo(std::wstring& testo) {
-        static constexpr std::array<std::wstring_view, 22> delicati{
-            L" ",     L"\t",  L"\n",     L"\r",   L"\r\n",  L"<",   L">", L"&",
-            L"\"",    L"'",   L"]]",     L"]",    L"&#10;", L"€",   L"“", L"<![CDATA[",
-            L"&amp;", L"<p>", L"\u00A0", L"\x85", L"%20",   L"<!--"};
+        static constexpr std::array<std::wstring_view, 27> delicati{
+            L" ",    L"\t",        L"\n",       L"\r",       L"\r\n",     L"<",      L">",
+            L"&",    L"\"",        L"'",        L"]]",       L"]",        L"&#10;",  L"€",
+            L"“",    L"<![CDATA[", L"&amp;",    L"<p>",      L"\u00A0",   L"\x85",   L"%20",
+            L"<!--", L"&#",        L"&#08364;", L"&#x20AC;", L"&#55357;", L"&#8364;"};
         switch (fra(0, 4)) {
         case 0:
             testo += delicati[static_cast<std::size_t>(fra(0, delicati.size() - 1))];

@@ -106,12 +106,80 @@ TEST(LetturaFile, UnaDtdOUnEntitaEsternaNonTocconoAltro) {
     EXPECT_TRUE(ascolto.chiamato());
 }
 
-TEST(LetturaFile, UnEntitaInternaSiEspande) {
+TEST(LetturaFile, UnEntitaInternaSiLeggeInteraTranneNellaDescrizioneDellElemento) {
     const CartellaProva cartella;
+    const auto campo = [](const char* nome) {
+        return "<" + std::string(nome) + ">ciao &e;!</" + nome + ">";
+    };
+    std::string canale = "<!DOCTYPE rss [<!ENTITY e \"mondo &amp;<b>&f;</b>\"><!ENTITY f 'luna'>"
+                         "<!ENTITY vuota ''><!ENTITY altra SYSTEM 'altro.txt'>]><rss><channel>";
+    for (const auto* const nome :
+         {"title", "link", "description", "language", "copyright", "lastBuildDate", "webMaster"}) {
+        canale += campo(nome);
+    }
+    canale += "<image>" + campo("title") + campo("url") + campo("link") +
+              "<width>1&vuota;2</width></image><item>";
+    for (const auto* const nome : {"title", "link", "description", "author", "pubDate", "guid"}) {
+        canale += campo(nome);
+    }
+    canale += "</item><item><description>&e; e poi</description></item><item><description>&vuota;x"
+              "</description></item></channel></rss>";
     FeedDiProva d;
-    d.leggi(cartella.scrivi(L"a.xml", "<!DOCTYPE rss [<!ENTITY e \"mondo\">]><rss><channel>"
-                                      "<title>ciao &e;</title></channel></rss>"));
-    EXPECT_EQ(d.title, L"ciao mondo");
+    d.leggi(cartella.scrivi(L"a.xml", canale));
+    const std::wstring intero = L"ciao mondo &luna!";
+    for (const auto* const testo : d.canale()) {
+        EXPECT_EQ(inUtf8(*testo), inUtf8(intero));
+    }
+    EXPECT_EQ(d.image.sTitle(), intero);
+    EXPECT_EQ(d.image.sUrl(), intero);
+    EXPECT_EQ(d.image.sLink(), intero);
+    EXPECT_EQ(d.image.nWidth(), 12);
+    using enum CampoElemento;
+    for (const auto c : {Titolo, Link, Autore, Data, Guid}) {
+        EXPECT_EQ(d.items(c, 0), intero);
+    }
+    // Its first child: the text before the reference; the reference.
+    EXPECT_EQ(d.items(Descrizione, 0), L"ciao");
+    EXPECT_EQ(d.items(Descrizione, 1), L"mondo &luna");
+    EXPECT_EQ(d.items(Descrizione, 2), L"");
+}
+
+TEST(LetturaFile, UnRiferimentoSenzaSostitutoNonSiCarica) {
+    const CartellaProva cartella;
+    static_cast<void>(cartella.scrivi(L"altro.txt", "ESTERNO"));
+    static_cast<void>(cartella.scrivi(L"rss.dtd", "<!ENTITY eacute '\xC3\xA9'>"));
+    const std::string esterna = "<!DOCTYPE rss SYSTEM \"rss.dtd\" [<!ENTITY x SYSTEM \"altro.txt\">"
+                                "<!ENTITY dentro \"a &x; b\"><!ENTITY nota \"n\">]>";
+    const auto numero = [&](const std::string& intestazione, const std::string& canale) {
+        FeedDiProva d;
+        const auto e = d.provaLeggi(cartella.scrivi(L"a.xml", intestazione + "<rss><channel>" +
+                                                                  canale + "</channel></rss>"));
+        EXPECT_TRUE(e.numero == 0 ||
+                    e.descrizione.ends_with(L"\\A.XML: impossibile caricare il documento."));
+        EXPECT_EQ(d.title, e.numero == 0 ? L"t" : L"");
+        return e.numero;
+    };
+    const std::string titolo = "<title>t</title>";
+    for (const std::string nome : {"eacute", "x", "dentro"}) {
+        const std::string r = "caff&" + nome + "; nero";
+        for (const std::string& dove :
+             {"<link>" + r + "</link>", "<image><url>" + r + "</url></image>",
+              "<item><title>" + r + "</title></item>",
+              "<item><description>" + r + "</description></item>",
+              "<item><description>&" + nome + ";</description></item>",
+              "<altro><altro>" + r + "</altro></altro>", r}) {
+            EXPECT_EQ(numero(esterna, titolo + dove), 18343) << nome << ' ' << dove;
+        }
+    }
+    // What is no reference, and one that is known, stay what they were.
+    EXPECT_EQ(numero(esterna, titolo + "<link>caff&#233; &amp; &nota;</link><!-- &eacute; -->"
+                                       "<item><description><![CDATA[caff&eacute;]]></description>"
+                                       "</item>"),
+              0);
+    EXPECT_EQ(numero("<!DOCTYPE rss PUBLIC \"-//Netscape Communications//DTD RSS 0.91//EN\" "
+                     "\"http://my.netscape.com/publish/formats/rss-0.91.dtd\">",
+                     titolo),
+              0);
 }
 
 TEST(LetturaFile, EntitaSenzaFineNonSiCaricano) {

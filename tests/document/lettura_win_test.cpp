@@ -242,18 +242,79 @@ TEST_F(Lettura, IlTestoEQuelloDeiDiscendenti) {
 
 TEST_F(Lettura, AcapoCrLfOvunqueTranneNelLinkDellElemento) {
     const std::string t = "a\nb&#13;\nc&#13;d";
-    EXPECT_EQ(leggiCanale("<title>" + t + "</title><link>" + t + "</link><image><title>" + t +
-                          "</title></image><item><title>" + t + "</title><link>" + t +
-                          "</link><guid>" + t + "</guid></item>")
+    const auto con = [&](std::initializer_list<const char*> nomi) {
+        std::string testo;
+        for (const std::string nome : nomi) {
+            testo.append("<" + nome + ">").append(t).append("</" + nome + ">");
+        }
+        return testo;
+    };
+    EXPECT_EQ(leggiCanale(con({"title", "link", "description", "language", "copyright",
+                               "lastBuildDate", "webMaster"}) +
+                          "<image>" + con({"title", "url", "link"}) + "</image><item>" +
+                          con({"title", "link", "description", "author", "pubDate", "guid"}) +
+                          "</item>")
                   .numero,
               0);
     const std::wstring conCrLf = L"a\r\nb\r\nc\rd";
-    EXPECT_EQ(d.title, conCrLf);
-    EXPECT_EQ(d.link, conCrLf);
+    for (const auto* const campo : d.canale()) {
+        EXPECT_EQ(*campo, conCrLf);
+    }
     EXPECT_EQ(d.image.sTitle(), conCrLf);
-    EXPECT_EQ(d.items(Titolo, 0), conCrLf);
-    EXPECT_EQ(d.items(Guid, 0), conCrLf);
+    EXPECT_EQ(d.image.sUrl(), conCrLf);
+    EXPECT_EQ(d.image.sLink(), conCrLf);
+    for (const auto campo : {Titolo, Descrizione, Autore, Data, Guid}) {
+        EXPECT_EQ(d.items(campo, 0), conCrLf) << static_cast<int>(campo);
+    }
     EXPECT_EQ(d.items(Link, 0), L"a\nb\r\nc\rd");
+}
+
+// Each alone: no field of an image waits for another.
+TEST_F(Lettura, OgniCampoDellImmagineSiLeggeDaSolo) {
+    const auto solo = [&](const std::string& campo) {
+        EXPECT_EQ(leggiCanale("<image>" + campo + "</image>").numero, 0) << campo;
+        EXPECT_TRUE(d.image.Modificato()) << campo;
+        return inUtf8(d.image.sTitle() + L'|' + d.image.sUrl() + L'|' + d.image.sLink() + L'|' +
+                      std::to_wstring(d.image.nWidth()) + L'|' +
+                      std::to_wstring(d.image.nHeight()));
+    };
+    EXPECT_EQ(solo("<title>t</title>"), "t|||0|0");
+    EXPECT_EQ(solo("<url>u</url>"), "|u||0|0");
+    EXPECT_EQ(solo("<link>l</link>"), "||l|0|0");
+    EXPECT_EQ(solo("<width>1</width>"), "|||1|0");
+    EXPECT_EQ(solo("<height>2</height>"), "|||0|2");
+}
+
+// Where two outputs are one variable, the later field is what it holds in the end.
+TEST_F(Lettura, ICampiDelCanaleSiRiempionoNelLoroOrdine) {
+    EXPECT_EQ(leggiCanale("<webMaster>6</webMaster><lastBuildDate>5</lastBuildDate>"
+                          "<copyright>4</copyright><language>3</language>"
+                          "<description>2</description><link>1</link><title>0</title>")
+                  .numero,
+              0);
+    for (std::size_t primo = 0; primo < 7; ++primo) {
+        for (std::size_t secondo = primo + 1; secondo < 7; ++secondo) {
+            FeedDiProva altro;
+            auto campi = altro.canale();
+            campi[secondo] = campi[primo];
+            clsFeedRss().LeggiDocumentoRSS(percorso, *campi[0], *campi[1], *campi[2], *campi[3],
+                                           *campi[4], *campi[5], *campi[6], altro.image,
+                                           altro.items);
+            EXPECT_EQ(*campi[secondo], std::to_wstring(secondo)) << primo;
+        }
+    }
+}
+
+TEST_F(Lettura, IMessaggiHannoIlPercorsoTuttoInMaiuscolo) {
+    const auto descrizione = [&](std::string_view contenuto) {
+        const auto file = cartella.scrivi(L"città è ñandú €.xml", contenuto);
+        const auto e = d.provaLeggi(file);
+        return inUtf8(e.descrizione.substr(file.rfind(L'\\')));
+    };
+    EXPECT_EQ(descrizione("<rss>"), "\\CITTÀ È ÑANDÚ €.XML: impossibile caricare il documento.");
+    EXPECT_EQ(descrizione("<rss/>"), "\\CITTÀ È ÑANDÚ €.XML: formato non valido.");
+    EXPECT_EQ(descrizione(rssCon("<image/><image/>")),
+              "\\CITTÀ È ÑANDÚ €.XML: formato non supportato.");
 }
 
 TEST_F(Lettura, ElementiSenzaTitoloDelCanale) {

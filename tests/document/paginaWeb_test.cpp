@@ -153,6 +153,18 @@ TEST(PaginaWeb, UnImmagineSenzaLinkNonHaAncora) {
               (Righe{L"<img src=\"u\" border=0 width=0 height=0 alt=\"\" >", L"<H3>"}));
 }
 
+TEST(PaginaWeb, UnImmagineSenzaLinkESenzaIndirizzoNonHaRighe) {
+    CanaleDiProva canale;
+    canale.image.sTitle(L"solo il titolo");
+    canale.image.nWidth(10);
+    canale.image.nHeight(10);
+    EXPECT_TRUE(canale.image.Modificato());
+    EXPECT_EQ(canale.blocco().front(), L"<H3>");
+    canale.image.sUrl(L"  ");
+    canale.image.sLink(L" ");
+    EXPECT_EQ(canale.blocco().front(), L"<H3>");
+}
+
 TEST(PaginaWeb, UnElementoRigaPerRiga) {
     TabellaElementi items;
     metti(items, CampoElemento::Titolo, 0, L"t");

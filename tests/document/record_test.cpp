@@ -51,6 +51,17 @@ TEST(ClsImgRss, OgniCampoModifica) {
     EXPECT_TRUE(modifica([](clsImgRss& i) { i.nHeight(1); }));
 }
 
+TEST(Record, ModificatoSiAssegna) {
+    const auto prova = [](auto registro) {
+        registro.Modificato(true);
+        EXPECT_TRUE(registro.Modificato());
+        registro.Modificato(false);
+        EXPECT_FALSE(registro.Modificato());
+    };
+    prova(clsImgRss());
+    prova(clsItemRss());
+}
+
 TEST(ClsItemRss, OgniCampoModificaESiSvuota) {
     const auto prova = [](auto assegna, auto leggi) {
         clsItemRss item;

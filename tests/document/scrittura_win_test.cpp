@@ -1,9 +1,11 @@
 #include "document/clsItemRss.h"
 #include "document/salvataggio_win.h"
+#include "support/errori_win.h"
 #include "support/maniglie_win.h"
 #include "support/prodotto.h"
 #include "support/xml_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"
 
@@ -11,6 +13,7 @@
 
 #include <array>
 #include <filesystem>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +37,19 @@ std::string albero(const NodoXml& nodo) {
     return testo + ")";
 }
 
+// What the bare DOM answers to a save there, as the number that it is known under.
+std::int32_t erroreDelDom(const std::wstring& percorso) {
+    CLSID classe{};
+    EXPECT_EQ(CLSIDFromProgID(L"MSXML2.DomDocument", &classe), S_OK);
+    void* oggetto = nullptr;
+    EXPECT_EQ(
+        CoCreateInstance(classe, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument, &oggetto),
+        S_OK);
+    const ComPtr<IXMLDOMDocument> documento(static_cast<IXMLDOMDocument*>(oggetto));
+    const Variante destinazione(percorso);
+    return erroreHresult(documento->save(destinazione.get())).numero();
+}
+
 class Scrittura : public testing::Test {
 protected:
     // Writes the document and gives the tree of its `rss`.
@@ -44,6 +60,16 @@ protected:
         const auto radici = xml.elementi(L"rss");
         EXPECT_EQ(radici.size(), 1U);
         return radici.empty() ? "" : albero(radici.front());
+    }
+    // What the DOM makes of the instruction alone, up to its end.
+    [[nodiscard]] std::string istruzioneNuda() const {
+        const DocumentoXml xml;
+        xml.aggiungi(xml.creaIstruzione(L"xml", L" version=\"1.0\" encoding=\"ISO-8859-1\" "));
+        xml.aggiungi(xml.creaElemento(L"rss"));
+        const std::wstring file = cartella.file(L"istruzione.xml");
+        xml.salva(file);
+        const std::string testo = leggiTutto(file);
+        return testo.substr(0, testo.find("?>"));
     }
     // An existing file that a failure must leave as it is.
     void attendiRifiuto(const wchar_t* coda) {
@@ -98,9 +124,29 @@ TEST_F(Scrittura, DichiarazioneCommentoEVersione) {
         "-->");
     const auto rss = testo.find("<rss version=\"2.0\">");
     EXPECT_TRUE(testo.starts_with("<?xml"));
+    // The instruction's data has its blanks; how they are written is the serialiser's.
+    EXPECT_EQ(testo.substr(0, testo.find("?>")), istruzioneNuda());
     EXPECT_LT(dichiarazione, commento);
     EXPECT_LT(commento, rss);
     EXPECT_NE(rss, std::string::npos);
+}
+
+TEST_F(Scrittura, SoloLaRadiceHaUnAttributo) {
+    d.image.Modificato(true);
+    metti(d.items, Guid, 0, L"https://e.example/1");
+    d.scrivi(percorso);
+    std::string testo = leggiTutto(percorso);
+    EXPECT_NE(testo.find("<guid>https://e.example/1</guid>"), std::string::npos);
+    testo.erase(0, testo.find("<channel>"));
+    EXPECT_EQ(testo.find('='), std::string::npos);
+    EXPECT_EQ(testo.find(' '), std::string::npos);
+}
+
+TEST_F(Scrittura, UnImmagineSegnataModificataSiScriveAncheVuota) {
+    d.image.Modificato(true);
+    EXPECT_NE(scritto().find("image(title()url()link()width(0)height(0))"), std::string::npos);
+    d.image.Modificato(false);
+    EXPECT_EQ(scritto().find("image"), std::string::npos);
 }
 
 TEST_F(Scrittura, VuotoScriveTuttiGliElementiSenzaImmagine) {
@@ -146,12 +192,7 @@ TEST_F(Scrittura, CioCheMancaAlLatin1) {
     FeedDiProva riletto;
     riletto.leggi(percorso);
     EXPECT_EQ(riletto.title, L"è €");
-    EXPECT_EQ(riletto.items(Descrizione, 0), L"è &#8364; &#8220;&#8211;&#8221;");
-    // What was a reference stays one: saving again changes nothing.
-    riletto.scrivi(cartella.file(L"b.xml"));
-    FeedDiProva ancora;
-    ancora.leggi(cartella.file(L"b.xml"));
-    EXPECT_EQ(ancora.items(Descrizione, 0), riletto.items(Descrizione, 0));
+    EXPECT_EQ(riletto.items(Descrizione, 0), L"è € “–”");
 }
 
 TEST_F(Scrittura, UnCarattereInammissibileSiRifiutaPrimaDelFile) {
@@ -245,24 +286,40 @@ TEST_F(Scrittura, UnSalvataggioFallitoDopoLaCancellazioneNonLasciaIlFile) {
             esistente.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         ASSERT_TRUE(aperto);
-        EXPECT_NE(d.provaScrivi(esistente).numero, 0);
+        // The DOM's own error, as it gives it.
+        EXPECT_EQ(d.provaScrivi(esistente).numero, erroreDelDom(esistente));
     }
     EXPECT_FALSE(std::filesystem::exists(esistente));
     EXPECT_EQ(d.provaScrivi(esistente).numero, 0);
 }
 
-TEST_F(Scrittura, CartelleMancantiENomiImpossibili) {
-    const auto rifiuta = [&](const std::wstring& dove) {
+TEST_F(Scrittura, DoveNonSiPuoScrivereDicePerche) {
+    const auto numero = [&](const std::wstring& dove) {
         const auto e = d.provaScrivi(dove);
-        EXPECT_NE(e.numero, 0) << inUtf8(dove);
-        EXPECT_FALSE(e.descrizione.empty()) << inUtf8(dove);
+        EXPECT_EQ(e.descrizione, testoErrore(e.numero)) << inUtf8(dove);
+        return e.numero;
     };
-    rifiuta(cartella.file(L"nessuna\\a.xml"));
-    rifiuta(cartella.percorso());
-    rifiuta(L"");
-    rifiuta(L"Q:\\a.xml");
-    rifiuta(cartella.file(L"a?.xml"));
-    EXPECT_TRUE(std::filesystem::is_directory(cartella.percorso()));
+    const auto mancante = [](std::int32_t n) { return n == 76 || n == 53; };
+    EXPECT_EQ(numero(cartella.file(L"nessuna\\a.xml")), 76);
+    EXPECT_EQ(numero(cartella.file(L"a?b")), 52);
+    EXPECT_EQ(numero(cartella.percorso()), 75);
+    // What the system says of these differs.
+    EXPECT_PRED1(mancante, numero(L"Q:\\a.xml"));
+    EXPECT_PRED1(mancante, numero(cartella.file(std::wstring(300, L'n'))));
+    EXPECT_PRED1(mancante, numero(L""));
+    if (const auto disco = discoDiSolaLettura()) {
+        const auto protetto = [](std::int32_t n) { return n == 70 || n == 75; };
+        EXPECT_PRED1(protetto, numero(*disco + L"\\nuovo.xml"));
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
+}
+
+TEST_F(Scrittura, CioCheIlDomSollevaRestaComE) {
+    const std::wstring manca = cartella.file(L"nessuna\\a.xml");
+    const auto e = sollevatoDa([&] { return DocumentoXml().salva(manca), 0; });
+    EXPECT_LT(e.numero, 0);
+    EXPECT_EQ(e.numero, erroreDelDom(manca));
+    EXPECT_FALSE(e.descrizione.empty());
 }
 
 TEST_F(Scrittura, SovrascriveUnFilePiuLungo) {
@@ -315,4 +372,27 @@ TEST_F(Scrittura, SuUnDiscoPienoErrore61) {
 
 TEST(ParserXml, SiTrova) {
     EXPECT_TRUE(parserXmlPresente());
+}
+
+// A thread that has not entered COM can create nothing.
+TEST(ParserXml, SeMancaLErroreE429) {
+    bool presente = true;
+    Sollevato nuovo;
+    Sollevato lettura;
+    Sollevato scrittura;
+    const CartellaProva cartella;
+    const auto esistente = cartella.scrivi(L"a.xml", rssCon(""));
+    std::thread([&] {
+        presente = parserXmlPresente();
+        nuovo = sollevatoDa([] { return DocumentoXml(); });
+        FeedDiProva d;
+        lettura = d.provaLeggi(esistente);
+        scrittura = d.provaScrivi(esistente);
+    }).join();
+    EXPECT_FALSE(presente);
+    for (const auto& e : {nuovo, lettura, scrittura}) {
+        EXPECT_EQ(e.numero, 429);
+        EXPECT_EQ(e.descrizione, L"Il componente ActiveX non può creare l'oggetto");
+    }
+    EXPECT_EQ(leggiTutto(esistente), rssCon(""));
 }

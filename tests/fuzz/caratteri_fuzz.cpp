@@ -12,22 +12,10 @@ std::wstring riferito(std::wstring_view testo) {
     return std::wstring(conRiferimenti(testo, appoggio));
 }
 
-// The decimal references of a text above 0xFF undone, as a feed reader does.
-std::wstring senzaRiferimenti(const std::wstring& testo) {
-    std::wstring risultato;
-    for (std::size_t i = 0; i < testo.size(); ++i) {
-        const auto fine = testo.find(L';', i);
-        if (testo.compare(i, 2, L"&#") == 0 && fine != std::wstring::npos && fine - i < 10 &&
-            fine > i + 2 &&
-            testo.substr(i + 2, fine - i - 2).find_first_not_of(L"0123456789") ==
-                std::wstring::npos) {
-            aggiungiCarattere(risultato, static_cast<char32_t>(std::stol(testo.substr(i + 2))));
-            i = fine;
-        } else {
-            risultato += testo[i];
-        }
-    }
-    return risultato;
+// The text as it is read from a CDATA section.
+std::wstring letto(std::wstring_view testo) {
+    std::wstring appoggio;
+    return std::wstring(conCaratteri(testo, appoggio));
 }
 
 std::int32_t errore(void (*verifica)(std::wstring_view, const NomeTesto&, std::wstring_view),
@@ -57,14 +45,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     esigi((errore(verificaCData, testo) == errori::chiamataNonValida) ==
           (vietato.has_value() || fine));
 
+    const std::size_t byte = comeUtf8(testo).size();
+    esigi(almenoByte(testo, byte) && !almenoByte(testo, byte + 1));
+    esigi(byte == 0 || almenoByte(testo, byte - 1));
+
     const std::wstring scritto = riferito(testo);
+    esigi(almenoByte(scritto, comeUtf8(scritto).size()));
+    esigi(!almenoByte(scritto, comeUtf8(scritto).size() + 1));
     for (const wchar_t c : scritto) {
         esigi(static_cast<std::uint32_t>(c) <= 0xFF);
     }
     esigi(riferito(scritto) == scritto);
     esigi((scritto.find(L"]]>") != std::wstring::npos) == fine);
-    if (testo.find(L"&#") == std::wstring::npos && testo.find(L'&') == std::wstring::npos) {
-        esigi(senzaRiferimenti(scritto) == interi);
+    // Read and written again, the bytes of a file are the same.
+    esigi(riferito(letto(scritto)) == scritto);
+    if (!vietato && testo.find(L"&#") == std::wstring::npos) {
+        esigi(letto(scritto) == interi);
     }
     return 0;
 }

@@ -48,3 +48,10 @@ TEST(Errori, SollevaColTestoDellaTabella) {
     EXPECT_EQ(e.numero, 61);
     EXPECT_EQ(e.descrizione, L"Disco pieno");
 }
+
+TEST(Errori, WhatDiceNumeroEDescrizione) {
+    EXPECT_STREQ(Errore(75, L"C:\\CITTÀ").what(), "error 75: C:\\CITTÀ");
+    const Errore originale(-2147467259, L"€");
+    const Errore copia = originale; // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_STREQ(copia.what(), "error -2147467259: €");
+}

@@ -38,9 +38,9 @@ Errore corrente(const Eccezione& eccezione) {
 } // namespace
 
 TEST(ErroriDiWindows, OgniCodiceDiGetLastError) {
-    const std::map<DWORD, std::int32_t> attesi{{2, 53},   {3, 76},   {5, 75},    {32, 70},
-                                               {33, 70},  {15, 68},  {1005, 68}, {21, 71},
-                                               {112, 61}, {123, 52}, {161, 52}};
+    const std::map<DWORD, std::int32_t> attesi{
+        {2, 53},  {3, 76},   {5, 75},   {32, 70},  {33, 70}, {15, 68}, {1005, 68},
+        {21, 71}, {112, 61}, {123, 52}, {161, 52}, {19, 70}, {206, 76}};
     for (DWORD codice = 0; codice < 2000; ++codice) {
         const auto atteso = attesi.find(codice);
         const Errore e = erroreWin32(codice);

@@ -1,6 +1,7 @@
 #include "ui/dialogs/FrmEditFeed_win.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "res/risorse.h"
 #include "support/koUtilita.h"
 #include "support/messaggi.h"
@@ -94,11 +95,29 @@ void FrmEditFeed::CaricaDati() {
 bool FrmEditFeed::SalvaDati() {
     return protetto(
         [&] {
-            elemento_.sTitle(std::wstring(rifila(txtTitolo_.testo())));
-            elemento_.sLink(std::wstring(rifila(txtLink_.testo())));
-            elemento_.sDescription(std::wstring(rifila(txtDescrizione_.testo())));
+            const std::wstring titolo(rifila(txtTitolo_.testo()));
+            const std::wstring link(rifila(txtLink_.testo()));
+            const std::wstring descrizione(rifila(txtDescrizione_.testo()));
             // Stored as typed, blanks and all.
-            elemento_.sAuthor(txtAutore_.testo());
+            const std::wstring autore = txtAutore_.testo();
+            // Here the user can mend what no feed could hold.
+            const auto esamina = [](const CampoTesto& campo, auto verifica, std::wstring_view testo,
+                                    std::wstring_view nome) {
+                try {
+                    verifica(testo, {nome}, {});
+                } catch (const TestoRifiutato&) {
+                    SetFocus(campo.hwnd());
+                    throw;
+                }
+            };
+            esamina(txtTitolo_, verificaTesto, titolo, L"titolo");
+            esamina(txtLink_, verificaTesto, link, L"link");
+            esamina(txtAutore_, verificaTesto, autore, L"autore");
+            esamina(txtDescrizione_, verificaCData, descrizione, L"descrizione");
+            elemento_.sTitle(titolo);
+            elemento_.sLink(link);
+            elemento_.sDescription(descrizione);
+            elemento_.sAuthor(autore);
             txtData_.conferma();
             txtOrario_.conferma();
             dataOra_ = combina(txtData_, txtOrario_);

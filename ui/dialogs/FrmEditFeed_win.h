@@ -33,7 +33,8 @@ public:
     // hold, is told and replaced by now.
     void CaricaDati();
 
-    // Writes the controls back into Elemento and DataOra. False after a failure, which was told.
+    // Writes the controls back into Elemento and DataOra. False after a failure, which was told;
+    // for a text that no feed can hold its box then has the focus, and Elemento is as it was.
     [[nodiscard]] bool SalvaDati();
 
 private:

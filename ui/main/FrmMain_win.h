@@ -52,7 +52,7 @@ public:
     void NuovoDocumento() override;
     void RiempiGriglia(bool soloIntestazioni);
     // A row of the grid: row r shows item r - 1.
-    void SelezionaRiga(int riga) { GUI::SelezionaRiga(griglia_, riga); }
+    void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
     // The item of the grid's current row, -1 when the row shows none.
     [[nodiscard]] int ElementoSelezionato() const noexcept {
         return griglia_.ElementoSelezionato();

@@ -1,6 +1,7 @@
 #include "ui/main/comandiDocumento_win.h"
 
 #include "datetime/ClsUTC.h"
+#include "document/caratteriXml.h"
 #include "document/clsFeedRss.h"
 #include "document/documento.h"
 #include "document/elementi.h"
@@ -113,7 +114,14 @@ bool ComandiDocumento::Salva(bool conNome) {
                 percorso = servizi_.dialoghi.salva(richiestaSalva);
             }
             const Clessidra clessidra;
-            clsFeedRss().CreaDocumentoRSS(percorso, raccogliCanale(campi_), documento_.elementi());
+            try {
+                clsFeedRss().CreaDocumentoRSS(percorso, raccogliCanale(campi_),
+                                              documento_.elementi());
+            } catch (const TestoRifiutato& errore) {
+                // Seen behind the message. Row 0, for a text of the channel, changes nothing.
+                finestra_.SelezionaRiga(rigaDi(errore.elemento() - 1));
+                throw;
+            }
             campi_.Tag(percorso);
             finestra_.ImpostaTitolo(percorso);
             recenti_.AggiungiRecente(percorso);

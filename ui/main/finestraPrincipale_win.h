@@ -14,6 +14,8 @@ public:
     virtual void NuovoDocumento() = 0;
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
     virtual void CaricaRecenti() = 0;
+    // A row that the grid lacks changes nothing.
+    virtual void SelezionaRiga(int riga) = 0;
     virtual void cmdGetSize_Click() = 0;
     // Owns what the shell shows.
     [[nodiscard]] virtual HWND proprietaria() const noexcept = 0;

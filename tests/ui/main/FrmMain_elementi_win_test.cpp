@@ -14,6 +14,7 @@ protected:
     void riempi(int quanti) {
         finestra.NuovoDocumento();
         std::vector<ElementoCondiviso> elementi;
+        elementi.reserve(static_cast<std::size_t>(quanti));
         for (int i = 0; i < quanti; ++i) {
             elementi.push_back(
                 conTesto(*elementoVuoto(), CampoElemento::Titolo, std::to_wstring(i)));
