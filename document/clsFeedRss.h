@@ -26,7 +26,7 @@ public:
 
     // Writes every item up to the table's upper bound. The file on disk is touched once the tree is
     // complete: deleted, then saved. Raises 5 for a text that a feed cannot hold, 61 when the
-    // disk was full, else the failure of the deletion or the DOM.
+    // disk was full, else what kept a file from being deleted or made there, or the DOM's failure.
     void CreaDocumentoRSS(const std::wstring& path, const Canale& canale,
                           const TabellaElementi& items) const;
     void CreaDocumentoRSS(const std::wstring& path, const std::wstring& title,

@@ -6,10 +6,9 @@
 #include "support/testo.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/sorgenti_win.h"
+#include "ui/controls/contrasto.h"
 #include "ui/main/comandi.h"
 
-#include <algorithm>
-#include <cmath>
 #include <map>
 #include <set>
 #include <string>
@@ -61,7 +60,7 @@ std::vector<std::wstring> valori(std::wstring_view prima) {
     return trovati;
 }
 
-using Colori = std::map<std::wstring, unsigned>;
+using Colori = std::map<std::wstring, COLORREF>;
 
 // The colours that a style block names: "--name: #rrggbb;".
 Colori colori(std::wstring_view blocco) {
@@ -72,25 +71,12 @@ Colori colori(std::wstring_view blocco) {
     auto dove = pagina().find(L"--", inizio);
     while (dove < fine) {
         const auto segno = pagina().find(L": #", dove);
+        const auto rgb = std::stoul(pagina().substr(segno + 3, 6), nullptr, 16);
         trovati[pagina().substr(dove + 2, segno - dove - 2)] =
-            static_cast<unsigned>(std::stoul(pagina().substr(segno + 3, 6), nullptr, 16));
+            RGB(rgb >> 16U & 0xFFU, rgb >> 8U & 0xFFU, rgb & 0xFFU);
         dove = pagina().find(L"--", segno);
     }
     return trovati;
-}
-
-// As the accessibility guidelines for the web compute them.
-double luminanza(unsigned colore) {
-    const auto canale = [colore](unsigned bit) {
-        const double c = ((colore >> bit) & 0xFFU) / 255.0;
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * canale(16) + 0.7152 * canale(8) + 0.0722 * canale(0);
-}
-
-double contrasto(unsigned a, unsigned b) {
-    const auto [minore, maggiore] = std::minmax(luminanza(a), luminanza(b));
-    return (maggiore + 0.05) / (minore + 0.05);
 }
 
 // The number of the error that carries them stands after a message's last word.
@@ -145,7 +131,7 @@ TEST(Guida, SiLeggeNelChiaroENelloScuro) {
                 << inUtf8(testo) << " on " << inUtf8(fondo);
         }
     }
-    EXPECT_LT(luminanza(scuri.at(L"fondo")), 0.05);
+    EXPECT_GT(contrasto(scuri.at(L"fondo"), RGB(255, 255, 255)), 12);
     // No colour stands anywhere else.
     const auto inizio = pagina().find(L"\nbody {");
     const auto stile = pagina().substr(inizio, pagina().find(L"</style>") - inizio);
