@@ -200,7 +200,7 @@ TEST(Anteprima, QuelloCheLaPaginaDiCodiceNonHaEUnRiferimento) {
     const VariabileAmbiente tmp(L"TMP", cartella.percorso());
     ClsCodaEliminazione coda;
     TabellaElementi items;
-    metti(items, CampoElemento::Descrizione, 0, L"5 € \u0101 \U0001F600 &#8364);";
+    metti(items, CampoElemento::Descrizione, 0, L"5 € \u0101 \U0001F600 &#8364;");
     metti(items, CampoElemento::Autore, 0, L"\u0141ukasz");
     const std::string pagina = leggiTutto(clsFeedRss().VisualizzaItemHTML(items, coda));
     EXPECT_NE(pagina.find("<p>5 \x80 &#257; &#128512; &#8364;\r\n"), std::string::npos);
