@@ -12,7 +12,7 @@ namespace {
 // Sets a flag for its life.
 class Alzata {
 public:
-    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno_ = true; }
+    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno = true; }
     Alzata(const Alzata&) = delete;
     Alzata& operator=(const Alzata&) = delete;
     ~Alzata() { segno_ = false; }

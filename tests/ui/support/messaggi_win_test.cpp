@@ -29,6 +29,7 @@ std::vector<COLORREF> aspetto(HICON icona) {
     FillRect(memoria, &tutto, GetSysColorBrush(COLOR_3DFACE));
     DrawIconEx(memoria, 0, 0, icona, lato, lato, 0, nullptr, DI_NORMAL);
     std::vector<COLORREF> punti;
+    punti.reserve(static_cast<std::size_t>(lato * lato));
     for (int i = 0; i < lato * lato; ++i) {
         punti.push_back(GetPixel(memoria, i % lato, i / lato));
     }
