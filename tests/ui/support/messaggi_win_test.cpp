@@ -28,10 +28,10 @@ std::vector<COLORREF> aspetto(HICON icona) {
     const RECT tutto{0, 0, lato, lato};
     FillRect(memoria, &tutto, GetSysColorBrush(COLOR_3DFACE));
     DrawIconEx(memoria, 0, 0, icona, lato, lato, 0, nullptr, DI_NORMAL);
-    std::vector<COLORREF> punti;
-    punti.reserve(static_cast<std::size_t>(lato * lato));
-    for (int i = 0; i < lato * lato; ++i) {
-        punti.push_back(GetPixel(memoria, i % lato, i / lato));
+    const int quanti = lato * lato;
+    std::vector<COLORREF> punti(static_cast<std::size_t>(quanti));
+    for (int i = 0; i < quanti; ++i) {
+        punti[static_cast<std::size_t>(i)] = GetPixel(memoria, i % lato, i / lato);
     }
     SelectObject(memoria, prima);
     DeleteDC(memoria);
