@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -48,9 +47,12 @@ std::wstring CartellaProva::scrivi(std::wstring_view nome, std::string_view cont
 }
 
 std::string leggiTutto(const std::wstring& percorso) {
-    std::ifstream ingresso(std::filesystem::path(percorso), std::ios::binary);
+    std::ifstream ingresso(std::filesystem::path(percorso), std::ios::binary | std::ios::ate);
     EXPECT_TRUE(ingresso.good()) << inUtf8(percorso);
-    return {std::istreambuf_iterator<char>(ingresso), std::istreambuf_iterator<char>()};
+    std::string letto(ingresso ? static_cast<std::size_t>(ingresso.tellg()) : 0U, '\0');
+    ingresso.seekg(0);
+    ingresso.read(letto.data(), static_cast<std::streamsize>(letto.size()));
+    return letto;
 }
 
 std::wstring campione(std::wstring_view nome) {

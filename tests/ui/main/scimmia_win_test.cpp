@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int passiDiProva = 2000;
+constexpr int passiDiProva = 1000;
 constexpr int passiDiRiscaldamento = 300;
 
 int passiVoluti() {
