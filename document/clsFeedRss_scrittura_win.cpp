@@ -18,9 +18,7 @@ void verificaElementi(const TabellaElementi& items, const std::wstring& percorso
     for (int i = 0; i <= items.limiteSuperiore(); ++i) {
         for (std::size_t c = 0; c < vociElemento.size(); ++c) {
             const auto campo = static_cast<CampoElemento>(c);
-            const auto verifica =
-                campo == CampoElemento::Descrizione ? verificaCData : verificaTesto;
-            verifica(items(campo, i), {vociElemento[c].nome, i + 1}, percorso);
+            verificaCampo(campo, items(campo, i), i + 1, percorso);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "document/clsItemRss.h"
 
 #include "document/campo.h"
+#include "document/caratteriXml.h"
 
 void clsItemRss::sTitle(std::wstring_view valore) {
     assegna(sTitle_, valore, modificato_);
@@ -46,4 +47,10 @@ ElementoCondiviso clsItemRss::elemento() const {
         testi[i] = (this->*vociElemento[i].legge)();
     }
     return creaElemento(testi);
+}
+
+void verificaCampo(CampoElemento campo, std::wstring_view testo, int elemento,
+                   std::wstring_view percorso) {
+    const auto verifica = campo == CampoElemento::Descrizione ? verificaCData : verificaTesto;
+    verifica(testo, {vociElemento[static_cast<std::size_t>(campo)].nome, elemento}, percorso);
 }

@@ -72,3 +72,8 @@ inline constexpr std::array<VoceElemento, numeroCampi> vociElemento{{
     {&clsItemRss::sPubDate, &clsItemRss::sPubDate, L"pubDate", L"data"},
     {&clsItemRss::sGuid, &clsItemRss::sGuid, L"guid", L"guid"},
 }};
+
+// Raises TestoRifiutato when a feed cannot hold the text in that field of an item. `elemento` is
+// the item's position from 1, or 0; `percorso` as in verificaTesto.
+void verificaCampo(CampoElemento campo, std::wstring_view testo, int elemento = 0,
+                   std::wstring_view percorso = {});

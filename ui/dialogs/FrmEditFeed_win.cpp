@@ -101,19 +101,19 @@ bool FrmEditFeed::SalvaDati() {
             // Stored as typed, blanks and all.
             const std::wstring autore = txtAutore_.testo();
             // Here the user can mend what no feed could hold.
-            const auto esamina = [](const CampoTesto& campo, auto verifica, std::wstring_view testo,
-                                    std::wstring_view nome) {
+            const auto esamina = [](const CampoTesto& controllo, CampoElemento campo,
+                                    std::wstring_view testo) {
                 try {
-                    verifica(testo, {nome}, {});
+                    verificaCampo(campo, testo);
                 } catch (const TestoRifiutato&) {
-                    SetFocus(campo.hwnd());
+                    SetFocus(controllo.hwnd());
                     throw;
                 }
             };
-            esamina(txtTitolo_, verificaTesto, titolo, L"titolo");
-            esamina(txtLink_, verificaTesto, link, L"link");
-            esamina(txtAutore_, verificaTesto, autore, L"autore");
-            esamina(txtDescrizione_, verificaCData, descrizione, L"descrizione");
+            esamina(txtTitolo_, CampoElemento::Titolo, titolo);
+            esamina(txtLink_, CampoElemento::Link, link);
+            esamina(txtAutore_, CampoElemento::Autore, autore);
+            esamina(txtDescrizione_, CampoElemento::Descrizione, descrizione);
             elemento_.sTitle(titolo);
             elemento_.sLink(link);
             elemento_.sDescription(descrizione);
