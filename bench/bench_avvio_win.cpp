@@ -2,7 +2,7 @@
 //   bench_avvio PROGRAM YARDSTICK TIMES
 
 #include "bench/misure_win.h"
-#include "support/heap_win.h"
+#include "support/windows/heap_win.h"
 
 #include <windows.h>
 

@@ -8,7 +8,7 @@
 
 #include "bench/feedProva.h"
 #include "bench/misure_win.h"
-#include "support/heap_win.h"
+#include "support/windows/heap_win.h"
 
 #include <windows.h>
 

@@ -2,7 +2,7 @@
 // program's, and one XML DOM; nothing else.
 
 #include "res/risorse.h"
-#include "support/heap_win.h"
+#include "support/windows/heap_win.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/dataora.h"
-#include "support/formato.h"
+#include "support/tempo/dataora.h"
+#include "support/testi/formato.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,7 @@
 #include "document/caratteriXml.h"
 
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
+#include "support/testi/testo.h"
 
 #include <algorithm>
 #include <cstdint>

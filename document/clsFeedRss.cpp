@@ -1,6 +1,6 @@
 #include "document/clsFeedRss.h"
 
-#include "support/testo.h"
+#include "support/testi/testo.h"
 
 std::wstring clsFeedRss::NormalizzaACapo(std::wstring_view testo) {
     return aCapoCrLf(testo);

@@ -4,11 +4,11 @@
 #include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/deposito.h"
-#include "support/errore.h"
-#include "support/numeri.h"
-#include "support/prodotto.h"
-#include "support/testo.h"
-#include "support/xml_win.h"
+#include "support/errori/errore.h"
+#include "support/programma/prodotto.h"
+#include "support/testi/numeri.h"
+#include "support/testi/testo.h"
+#include "support/windows/xml_win.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
 #include "datetime/ClsUTC.h"
 #include "document/clsFeedRss.h"
 #include "document/paginaWeb.h"
-#include "support/ClsCodaEliminazione.h"
-#include "support/ansi_win.h"
-#include "support/file_win.h"
-#include "support/formato.h"
-#include "support/koUtilita.h"
-#include "support/scrittura_win.h"
+#include "support/programma/ClsCodaEliminazione.h"
+#include "support/testi/ansi_win.h"
+#include "support/testi/formato.h"
+#include "support/utilita/koUtilita.h"
+#include "support/windows/fileNuovo_win.h"
+#include "support/windows/file_win.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/salvataggio_win.h"
-#include "support/prodotto.h"
-#include "support/xml_win.h"
+#include "support/programma/prodotto.h"
+#include "support/windows/xml_win.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "document/clsImgRss.h"
 
-#include "support/xml_win.h"
+#include "support/windows/xml_win.h"
 
 ElementoXml clsImgRss::getNodoImg(const DocumentoXml& doc) const {
     ElementoXml nodo = doc.creaElemento(L"image");

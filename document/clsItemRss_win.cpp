@@ -1,7 +1,7 @@
 #include "document/clsItemRss.h"
 
 #include "document/caratteriXml.h"
-#include "support/xml_win.h"
+#include "support/windows/xml_win.h"
 
 ElementoXml clsItemRss::getNodoItem(const DocumentoXml& doc) const {
     ElementoXml nodo = doc.creaElemento(L"item");

@@ -1,7 +1,7 @@
 #include "document/documento.h"
 
-#include "support/errore.h"
-#include "support/prodotto.h"
+#include "support/errori/errore.h"
+#include "support/programma/prodotto.h"
 
 #include <utility>
 

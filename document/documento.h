@@ -2,7 +2,7 @@
 
 #include "document/modifica.h"
 #include "document/tabellaElementi.h"
-#include "support/dataora.h"
+#include "support/tempo/dataora.h"
 
 #include <string>
 #include <string_view>

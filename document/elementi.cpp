@@ -1,6 +1,6 @@
 #include "document/elementi.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 
 #include <algorithm>
 

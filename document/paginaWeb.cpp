@@ -1,9 +1,9 @@
 #include "document/paginaWeb.h"
 
 #include "document/clsItemRss.h"
-#include "support/errore.h"
-#include "support/prodotto.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/programma/prodotto.h"
+#include "support/testi/testo.h"
 
 #include <string_view>
 #include <utility>

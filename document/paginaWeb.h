@@ -3,7 +3,7 @@
 #include "datetime/ClsUTC.h"
 #include "document/canale.h"
 #include "document/tabellaElementi.h"
-#include "support/formato.h"
+#include "support/testi/formato.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
 #include "document/salvataggio_win.h"
 
-#include "support/errori_win.h"
-#include "support/file_win.h"
-#include "support/maniglie_win.h"
-#include "support/scrittura_win.h"
-#include "support/xml_win.h"
+#include "support/windows/errori_win.h"
+#include "support/windows/fileNuovo_win.h"
+#include "support/windows/file_win.h"
+#include "support/windows/maniglie_win.h"
+#include "support/windows/xml_win.h"
 
 #include <algorithm>
 #include <array>

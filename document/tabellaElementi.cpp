@@ -1,6 +1,6 @@
 #include "document/tabellaElementi.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 
 #include <algorithm>
 #include <limits>

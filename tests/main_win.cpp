@@ -1,5 +1,5 @@
-#include "support/com_win.h"
-#include "support/heap_win.h"
+#include "support/windows/com_win.h"
+#include "support/windows/heap_win.h"
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 #include "tests/aiuti/accessibile_win.h"
 
-#include "support/com_win.h"
+#include "support/windows/com_win.h"
 
 #include <oleacc.h>
 

@@ -1,7 +1,7 @@
 // Every program that a test starts does start: Wine's processes need a page that the heap, made
 // large by CTest for this suite, would else lie on once in twenty starts.
 
-#include "support/koUtilita.h"
+#include "support/utilita/koUtilita.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/sollevato.h"

@@ -1,7 +1,7 @@
 #include "tests/aiuti/campi_prova_win.h"
 
 #include "res/risorse.h"
-#include "support/dataora_win.h"
+#include "support/tempo/dataora_win.h"
 #include "tests/aiuti/schermo_win.h"
 
 #include <commctrl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/dataora.h"
+#include "support/tempo/dataora.h"
 #include "ui/controls/KOInputNumerico_win.h"
 #include "ui/controls/finestra_win.h"
 

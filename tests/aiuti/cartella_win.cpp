@@ -1,6 +1,6 @@
 #include "tests/aiuti/cartella_win.h"
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/campioni.h"
 
 #include <windows.h>

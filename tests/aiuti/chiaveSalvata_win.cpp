@@ -1,6 +1,6 @@
 #include "tests/aiuti/chiaveSalvata_win.h"
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 
 #include <sddl.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "ui/main/GUI_win.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/dialoghiFile.h"
+#include "support/servizi/dialoghiFile.h"
 
 #include <deque>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "tests/aiuti/editor_prova_win.h"
 
-#include "support/dataora_win.h"
+#include "support/tempo/dataora_win.h"
 #include "tests/aiuti/schermo_win.h"
 
 #include <commctrl.h>

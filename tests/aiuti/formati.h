@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/formato.h"
+#include "support/testi/formato.h"
 
 // The two locales of the tests, whatever the user's is.
 inline const FormatoLocale italiano{};

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/ClsCodaEliminazione.h"
-#include "support/messaggi_win.h"
+#include "support/programma/ClsCodaEliminazione.h"
+#include "support/servizi/messaggi_win.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/elementi_prova_win.h"

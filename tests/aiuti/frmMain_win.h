@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/ClsCodaEliminazione.h"
+#include "support/programma/ClsCodaEliminazione.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"

@@ -1,6 +1,6 @@
 #include "tests/aiuti/griglia_prova_win.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/GUI_win.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/errore.h"
-#include "support/impostazioni.h"
+#include "support/errori/errore.h"
+#include "support/servizi/impostazioni.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 // The language that the tests run in is that of Wine's background programs too.
 
-#include "support/maniglie_win.h"
-#include "support/registro_win.h"
+#include "support/windows/maniglie_win.h"
+#include "support/windows/registro_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/messaggi.h"
+#include "support/servizi/messaggi.h"
 
 #include <deque>
 #include <functional>

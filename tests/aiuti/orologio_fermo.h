@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/orologio.h"
+#include "support/servizi/orologio.h"
 
 // A clock that shows what a test sets: local time is two hours ahead of UTC.
 class OrologioFermo final : public Orologio {

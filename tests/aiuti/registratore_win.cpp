@@ -1,6 +1,6 @@
 #include "tests/aiuti/registratore_win.h"
 
-#include "support/file_win.h"
+#include "support/windows/file_win.h"
 #include "tests/aiuti/attesa_win.h"
 
 #include <shlobj.h>

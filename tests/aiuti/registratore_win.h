@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"

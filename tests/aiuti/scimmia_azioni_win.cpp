@@ -2,7 +2,7 @@
 
 #include "document/elementi.h"
 #include "res/risorse.h"
-#include "support/testo.h"
+#include "support/testi/testo.h"
 #include "tests/aiuti/scimmia_win.h"
 
 #include <commctrl.h>

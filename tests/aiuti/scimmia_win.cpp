@@ -5,7 +5,7 @@
 #include "document/clsItemRss.h"
 #include "document/elementi.h"
 #include "res/risorse.h"
-#include "support/testo.h"
+#include "support/testi/testo.h"
 
 #include <commctrl.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "res/risorse.h"
-#include "support/ClsCodaEliminazione.h"
-#include "support/dialoghiFile.h"
-#include "support/messaggi.h"
+#include "support/programma/ClsCodaEliminazione.h"
+#include "support/servizi/dialoghiFile.h"
+#include "support/servizi/messaggi.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/elementi_prova_win.h"

@@ -1,7 +1,7 @@
-#include "support/sistema.h"
+#include "support/testi/sistema.h"
 
-#include "support/errore.h"
-#include "support/numeri.h"
+#include "support/errori/errore.h"
+#include "support/testi/numeri.h"
 
 #include <algorithm>
 #include <cmath>

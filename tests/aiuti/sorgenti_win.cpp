@@ -1,7 +1,7 @@
 #include "tests/aiuti/sorgenti_win.h"
 
-#include "support/errore.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/testi/testo.h"
 #include "tests/aiuti/cartella_win.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "document/caratteriXml.h"
 
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
 #include "tests/aiuti/sollevato.h"
 
 #include <gtest/gtest.h>

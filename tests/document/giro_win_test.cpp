@@ -1,5 +1,6 @@
 #include "document/caratteriXml.h"
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
+#include "support/testi/testo.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"

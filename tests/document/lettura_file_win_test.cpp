@@ -1,4 +1,4 @@
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 

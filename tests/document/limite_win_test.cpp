@@ -1,5 +1,5 @@
 #include "document/caratteriXml.h"
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"

@@ -1,8 +1,8 @@
 #include "document/paginaWeb.h"
 
 #include "document/clsItemRss.h"
-#include "support/prodotto.h"
-#include "support/testo.h"
+#include "support/programma/prodotto.h"
+#include "support/testi/testo.h"
 #include "tests/aiuti/formati.h"
 #include "tests/aiuti/tabella_prova.h"
 

@@ -1,4 +1,4 @@
-#include "support/prodotto.h"
+#include "support/programma/prodotto.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"

@@ -1,7 +1,7 @@
 #include "document/caratteriXml.h"
 
-#include "support/errore.h"
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
+#include "support/errori/errore.h"
 #include "tests/fuzz/ingresso.h"
 
 namespace {

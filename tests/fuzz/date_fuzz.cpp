@@ -1,7 +1,7 @@
 #include "datetime/ClsUTC.h"
 
-#include "support/errore.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/testi/testo.h"
 #include "tests/fuzz/ingresso.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "support/numeri.h"
+#include "support/testi/numeri.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/fuzz/ingresso.h"
 
 #include <cmath>

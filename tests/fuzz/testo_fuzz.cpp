@@ -1,4 +1,5 @@
-#include "support/testo.h"
+#include "support/caratteri/codifica.h"
+#include "support/testi/testo.h"
 
 #include "tests/fuzz/ingresso.h"
 

@@ -1,4 +1,4 @@
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/formati.h"
 #include "ui/controls/valoreNumerico.h"
 

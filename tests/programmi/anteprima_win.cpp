@@ -2,10 +2,10 @@
 // runs and after it ended. Arguments: where to write the page's path, the event to wait for.
 
 #include "document/clsFeedRss.h"
-#include "support/ClsCodaEliminazione.h"
-#include "support/com_win.h"
-#include "support/maniglie_win.h"
-#include "support/scrittura_win.h"
+#include "support/programma/ClsCodaEliminazione.h"
+#include "support/windows/com_win.h"
+#include "support/windows/fileNuovo_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/tabella_prova.h"
 

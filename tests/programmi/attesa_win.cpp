@@ -1,6 +1,6 @@
 // Runs until the event that its command line names is set, at most a minute; ends with code 7.
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 
 #include <windows.h>
 

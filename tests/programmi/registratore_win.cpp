@@ -3,7 +3,7 @@
 
 #include "tests/aiuti/registratore_win.h"
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
 
 #include <windows.h>

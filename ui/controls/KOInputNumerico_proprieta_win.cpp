@@ -1,6 +1,6 @@
 #include "ui/controls/KOInputNumerico_win.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 
 #include <windowsx.h>
 

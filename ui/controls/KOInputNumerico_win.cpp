@@ -1,7 +1,7 @@
 #include "ui/controls/KOInputNumerico_win.h"
 
-#include "support/errori_win.h"
-#include "support/koUtilita.h"
+#include "support/utilita/koUtilita.h"
+#include "support/windows/errori_win.h"
 
 #include <commctrl.h>
 #include <windowsx.h>

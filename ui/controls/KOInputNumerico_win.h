@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/eventiNumerico.h"
 #include "ui/controls/finestra_win.h"

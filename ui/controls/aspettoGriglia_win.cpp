@@ -1,6 +1,6 @@
 #include "ui/controls/aspettoGriglia_win.h"
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 #include "ui/controls/contrasto.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "ui/controls/dialogo_win.h"
 
-#include "support/errori_win.h"
-#include "support/tastiTenuti_win.h"
+#include "support/windows/errori_win.h"
+#include "support/windows/tastiTenuti_win.h"
 
 #include <exception>
 

@@ -1,6 +1,6 @@
 #include "ui/controls/finestra_win.h"
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 
 #include <array>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "ui/controls/griglia_win.h"
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 
 #include <commctrl.h>
 

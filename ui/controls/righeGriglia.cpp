@@ -1,8 +1,8 @@
 #include "ui/controls/righeGriglia.h"
 
-#include "support/dataora.h"
-#include "support/errore.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/tempo/dataora.h"
+#include "support/testi/testo.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "datetime/ClsUTC.h"
 #include "document/tabellaElementi.h"
-#include "support/formato.h"
+#include "support/testi/formato.h"
 
 #include <cstddef>
 #include <optional>

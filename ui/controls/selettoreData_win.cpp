@@ -1,7 +1,7 @@
 #include "ui/controls/selettoreData_win.h"
 
-#include "support/dataora_win.h"
-#include "support/errore.h"
+#include "support/errori/errore.h"
+#include "support/tempo/dataora_win.h"
 
 #include <commctrl.h>
 

@@ -1,6 +1,6 @@
 #include "ui/controls/sottoclasse_win.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 
 #include <commctrl.h>
 

@@ -1,8 +1,8 @@
 #include "ui/controls/valoreNumerico.h"
 
-#include "support/errore.h"
-#include "support/numeri.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/testi/numeri.h"
+#include "support/testi/testo.h"
 
 #include <cmath>
 

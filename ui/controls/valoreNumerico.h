@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/formato.h"
+#include "support/testi/formato.h"
 
 #include <cstddef>
 #include <cstdint>

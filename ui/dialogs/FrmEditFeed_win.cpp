@@ -3,10 +3,10 @@
 #include "datetime/ClsUTC.h"
 #include "document/caratteriXml.h"
 #include "res/risorse.h"
-#include "support/koUtilita.h"
-#include "support/messaggi.h"
-#include "support/orologio.h"
-#include "support/testo.h"
+#include "support/servizi/messaggi.h"
+#include "support/servizi/orologio.h"
+#include "support/testi/testo.h"
+#include "support/utilita/koUtilita.h"
 #include "ui/main/guardia_win.h"
 
 #include <exception>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/clsItemRss.h"
-#include "support/dataora.h"
+#include "support/tempo/dataora.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
 #include "ui/controls/selettoreData_win.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "support/com_win.h"
-#include "support/maniglie_win.h"
-#include "support/messaggi.h"
+#include "support/servizi/messaggi.h"
+#include "support/windows/com_win.h"
+#include "support/windows/maniglie_win.h"
 #include "ui/controls/dialogo_win.h"
 
 #include <windows.h>

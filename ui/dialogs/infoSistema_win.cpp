@@ -1,8 +1,8 @@
 #include "ui/dialogs/infoSistema_win.h"
 
-#include "support/ansi_win.h"
-#include "support/file_win.h"
-#include "support/maniglie_win.h"
+#include "support/testi/ansi_win.h"
+#include "support/windows/file_win.h"
+#include "support/windows/maniglie_win.h"
 
 #include <array>
 #include <cstdint>

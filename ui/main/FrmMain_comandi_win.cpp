@@ -2,9 +2,9 @@
 
 #include "ui/main/FrmMain_win.h"
 
-#include "support/ClsSizerImg.h"
-#include "support/immagine_win.h"
-#include "support/koUtilita.h"
+#include "support/immagini/ClsSizerImg.h"
+#include "support/immagini/immagine_win.h"
+#include "support/utilita/koUtilita.h"
 #include "ui/main/guardia_win.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/documento.h"
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"

@@ -1,8 +1,8 @@
 #include "ui/main/GUI_win.h"
 
-#include "support/errore.h"
-#include "support/file_win.h"
-#include "support/immagine_win.h"
+#include "support/errori/errore.h"
+#include "support/immagini/immagine_win.h"
+#include "support/windows/file_win.h"
 
 #include <olectl.h>
 

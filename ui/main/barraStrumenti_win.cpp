@@ -1,7 +1,7 @@
 #include "ui/main/barraStrumenti_win.h"
 
 #include "res/risorse.h"
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 #include "ui/main/comandi.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/maniglie_win.h"
+#include "support/windows/maniglie_win.h"
 
 #include <windows.h>
 

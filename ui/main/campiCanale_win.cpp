@@ -1,7 +1,7 @@
 #include "ui/main/campiCanale_win.h"
 
-#include "support/errore.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/testi/testo.h"
 
 #include "res/risorse.h"
 

@@ -3,7 +3,7 @@
 #include "document/canale.h"
 #include "document/documento.h"
 #include "res/risorse.h"
-#include "support/dataora.h"
+#include "support/tempo/dataora.h"
 #include "ui/controls/KOInputNumerico_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"

@@ -1,8 +1,8 @@
 #include "ui/main/canale_win.h"
 
 #include "datetime/ClsUTC.h"
-#include "support/numeri.h"
-#include "support/testo.h"
+#include "support/testi/numeri.h"
+#include "support/testi/testo.h"
 #include "ui/main/campiCanale_win.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include "ui/main/comandiAiuto_win.h"
 
-#include "support/file_win.h"
-#include "support/koUtilita.h"
-#include "support/messaggi.h"
-#include "support/prodotto.h"
+#include "support/programma/prodotto.h"
+#include "support/servizi/messaggi.h"
+#include "support/utilita/koUtilita.h"
+#include "support/windows/file_win.h"
 #include "ui/dialogs/frmAbout_win.h"
 #include "ui/main/guardia_win.h"
 

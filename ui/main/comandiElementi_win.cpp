@@ -2,9 +2,9 @@
 
 #include "document/clsItemRss.h"
 #include "document/elementi.h"
-#include "support/ModGlobale.h"
-#include "support/koUtilita.h"
-#include "support/messaggi.h"
+#include "support/programma/ModGlobale.h"
+#include "support/servizi/messaggi.h"
+#include "support/utilita/koUtilita.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/guardia_win.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 #include "ui/main/recenti.h"
 
-#include "support/impostazioni.h"
-#include "support/testo.h"
+#include "support/servizi/impostazioni.h"
+#include "support/testi/testo.h"
 
 #include <algorithm>
 

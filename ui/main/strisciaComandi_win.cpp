@@ -1,6 +1,6 @@
 #include "ui/main/strisciaComandi_win.h"
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 #include "ui/main/comandi.h"
 
 #include <algorithm>

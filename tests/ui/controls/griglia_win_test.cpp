@@ -1,6 +1,6 @@
 #include "ui/controls/griglia_win.h"
 
-#include "support/errori_win.h"
+#include "support/windows/errori_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/tabella_prova.h"

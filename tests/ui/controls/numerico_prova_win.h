@@ -2,8 +2,8 @@
 
 #include "ui/controls/KOInputNumerico_win.h"
 
-#include "support/com_win.h"
-#include "support/errori_win.h"
+#include "support/windows/com_win.h"
+#include "support/windows/errori_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/schermo_win.h"
 

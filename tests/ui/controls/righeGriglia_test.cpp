@@ -1,6 +1,6 @@
 #include "ui/controls/righeGriglia.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/tabella_prova.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "ui/controls/valoreNumerico.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/formati.h"
 
 #include <limits>

@@ -1,6 +1,6 @@
 #include "ui/dialogs/FrmEditFeed_win.h"
 
-#include "support/messaggi_win.h"
+#include "support/servizi/messaggi_win.h"
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
 

@@ -1,7 +1,7 @@
 #include "ui/dialogs/frmAbout_win.h"
 
 #include "res/risorse.h"
-#include "support/prodotto.h"
+#include "support/programma/prodotto.h"
 #include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/messaggi_finti.h"

@@ -1,9 +1,9 @@
 // The shipped executable from outside, with keys and mouse: the whole cycle of keeping a feed.
 
 #include "res/risorse.h"
-#include "support/file_win.h"
-#include "support/maniglie_win.h"
-#include "support/testo.h"
+#include "support/testi/testo.h"
+#include "support/windows/file_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"

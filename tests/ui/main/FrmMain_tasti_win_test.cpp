@@ -2,7 +2,7 @@
 #include "tests/aiuti/immagini_prova.h"
 #include "tests/aiuti/spia_win.h"
 
-#include "support/file_win.h"
+#include "support/windows/file_win.h"
 
 #include <commctrl.h>
 

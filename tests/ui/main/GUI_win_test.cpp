@@ -1,7 +1,7 @@
 #include "ui/main/GUI_win.h"
 
-#include "support/errore.h"
-#include "support/immagine_win.h"
+#include "support/errori/errore.h"
+#include "support/immagini/immagine_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/immagini_prova.h"

@@ -1,7 +1,7 @@
 // The program as shipped, started on a system that has no XML parser.
 
-#include "support/file_win.h"
-#include "support/maniglie_win.h"
+#include "support/windows/file_win.h"
+#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"

@@ -1,4 +1,4 @@
-#include "support/dataora_win.h"
+#include "support/tempo/dataora_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/frmMain_win.h"
 

@@ -1,6 +1,6 @@
 #include "tests/aiuti/frmMain_win.h"
 
-#include "support/testo.h"
+#include "support/testi/testo.h"
 
 #include <commctrl.h>
 

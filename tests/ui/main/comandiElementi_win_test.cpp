@@ -1,6 +1,6 @@
 #include "ui/main/comandiElementi_win.h"
 
-#include "support/errore.h"
+#include "support/errori/errore.h"
 #include "tests/aiuti/comandiElementi_prova_win.h"
 #include "tests/aiuti/editor_finto.h"
 #include "tests/aiuti/schermo_win.h"

@@ -1,6 +1,6 @@
 #include "document/clsFeedRss.h"
-#include "support/file_win.h"
-#include "support/prodotto.h"
+#include "support/programma/prodotto.h"
+#include "support/windows/file_win.h"
 #include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/comandi_prova_win.h"
 

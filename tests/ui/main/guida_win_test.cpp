@@ -1,9 +1,9 @@
 // The help page that stands beside the program.
 
-#include "support/errore.h"
-#include "support/errori_win.h"
-#include "support/file_win.h"
-#include "support/testo.h"
+#include "support/errori/errore.h"
+#include "support/testi/testo.h"
+#include "support/windows/errori_win.h"
+#include "support/windows/file_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/sorgenti_win.h"
 #include "ui/controls/contrasto.h"

@@ -1,0 +1,73 @@
+#include "support/servizi/dialoghiFile_win.h"
+
+#include "support/windows/errori_win.h"
+#include "support/windows/maniglie_win.h"
+#include "support/windows/tastiTenuti_win.h"
+
+#include <windows.h>
+
+#include <cderr.h>
+#include <commdlg.h>
+
+namespace {
+
+// Loaded with the first dialog: with what it needs itself it would take a good part of the
+// program's start. It stays, since a dialog may leave threads of the shell behind.
+template <class Funzione>
+Funzione comdlg32(const char* nome) {
+    const HMODULE libreria = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (libreria == nullptr) {
+        sollevaWin32();
+    }
+    const auto trovata = funzione<Funzione>(libreria, nome);
+    if (trovata == nullptr) {
+        sollevaWin32();
+    }
+    return trovata;
+}
+
+using Dialogo = decltype(&GetOpenFileNameW);
+
+std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
+    const auto dialogo = comdlg32<Dialogo>(quale);
+    const auto errore = comdlg32<decltype(&CommDlgExtendedError)>("CommDlgExtendedError");
+    const std::wstring filtro = filtroWindows(richiesta.filtro);
+    const std::wstring estensione = estensioneWindows(richiesta.estensione);
+    // The longest path that Windows knows.
+    std::wstring percorso(32768, L'\0');
+    OPENFILENAMEW dati{};
+    dati.lStructSize = sizeof(dati);
+    dati.hwndOwner = GetActiveWindow();
+    dati.lpstrFilter = filtro.c_str();
+    dati.lpstrFile = percorso.data();
+    dati.nMaxFile = static_cast<DWORD>(percorso.size());
+    dati.Flags = richiesta.opzioni | OFN_EXPLORER | OFN_NOCHANGEDIR;
+    dati.lpstrDefExt = estensione.empty() ? nullptr : estensione.c_str();
+    const SenzaRipetizioni guardia;
+    if (!dialogo(&dati)) {
+        switch (errore()) {
+        case 0:
+            sollevaDialogoAnnullato();
+        case CDERR_MEMALLOCFAILURE:
+        case CDERR_MEMLOCKFAILURE:
+            solleva(errori::memoriaEsaurita);
+        case FNERR_INVALIDFILENAME:
+        case FNERR_BUFFERTOOSMALL:
+            solleva(errori::nomeFileNonValido);
+        default:
+            solleva(errori::chiamataNonValida);
+        }
+    }
+    percorso.resize(percorso.find(L'\0'));
+    return percorso;
+}
+
+} // namespace
+
+std::wstring DialoghiFileWindows::apri(const RichiestaFile& richiesta) {
+    return chiedi(richiesta, "GetOpenFileNameW");
+}
+
+std::wstring DialoghiFileWindows::salva(const RichiestaFile& richiesta) {
+    return chiedi(richiesta, "GetSaveFileNameW");
+}

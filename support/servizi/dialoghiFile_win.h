@@ -1,0 +1,10 @@
+#pragma once
+
+#include "support/servizi/dialoghiFile.h"
+
+// Windows' own file dialogs. No name is proposed, and the process's folder stays what it was.
+class DialoghiFileWindows final : public DialoghiFile {
+public:
+    [[nodiscard]] std::wstring apri(const RichiestaFile& richiesta) override;
+    [[nodiscard]] std::wstring salva(const RichiestaFile& richiesta) override;
+};
