@@ -7,7 +7,7 @@
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
 #include "support/utilita/koUtilita.h"
-#include "ui/main/guardia_win.h"
+#include "support/windows/guardia_win.h"
 
 #include <exception>
 #include <utility>

@@ -5,9 +5,9 @@
 #include "support/programma/prodotto.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/errori_win.h"
+#include "support/windows/guardia_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/dialogs/infoSistema_win.h"
-#include "ui/main/guardia_win.h"
 
 #include <olectl.h>
 #include <shlwapi.h>

@@ -5,23 +5,7 @@
 #include "support/immagini/ClsSizerImg.h"
 #include "support/immagini/immagine_win.h"
 #include "support/utilita/koUtilita.h"
-#include "ui/main/guardia_win.h"
-
-namespace {
-
-// Sets a flag for its life.
-class Alzata {
-public:
-    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno = true; }
-    Alzata(const Alzata&) = delete;
-    Alzata& operator=(const Alzata&) = delete;
-    ~Alzata() { segno_ = false; }
-
-private:
-    bool& segno_;
-};
-
-} // namespace
+#include "support/windows/guardia_win.h"
 
 template <class Azione>
 void FrmMain::occupando(Azione azione) {

@@ -10,8 +10,8 @@
 #include "support/utilita/koUtilita.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
+#include "support/windows/guardia_win.h"
 #include "support/windows/xml_win.h"
-#include "ui/main/guardia_win.h"
 
 #include <commctrl.h>
 

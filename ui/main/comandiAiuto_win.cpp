@@ -4,8 +4,8 @@
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/file_win.h"
+#include "support/windows/guardia_win.h"
 #include "ui/dialogs/frmAbout_win.h"
-#include "ui/main/guardia_win.h"
 
 std::wstring fileGuida() {
     std::wstring cartella = cartellaProgramma();

@@ -10,10 +10,10 @@
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
 #include "support/windows/file_win.h"
+#include "support/windows/guardia_win.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
 #include "ui/main/finestraPrincipale_win.h"
-#include "ui/main/guardia_win.h"
 #include "ui/main/recenti.h"
 
 #include <utility>

@@ -5,9 +5,9 @@
 #include "support/programma/ModGlobale.h"
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
+#include "support/windows/guardia_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/dialogs/editorElementi.h"
-#include "ui/main/guardia_win.h"
 
 void avvisaNessunaSelezione(Messaggi& messaggi) {
     messaggi.avvisa(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",

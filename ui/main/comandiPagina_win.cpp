@@ -8,12 +8,12 @@
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/file_win.h"
+#include "support/windows/guardia_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/finestraPrincipale_win.h"
-#include "ui/main/guardia_win.h"
 
 namespace {
 

@@ -19,6 +19,18 @@ private:
     HCURSOR prima_;
 };
 
+// Sets a flag for its life.
+class Alzata {
+public:
+    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno = true; }
+    Alzata(const Alzata&) = delete;
+    Alzata& operator=(const Alzata&) = delete;
+    ~Alzata() { segno_ = false; }
+
+private:
+    bool& segno_;
+};
+
 // The trap at the end of every handler: runs `azione`; when it fails, restores the pointer and,
 // unless the user only cancelled a file dialog, lets `riporta` report the exception being handled.
 // Gives whether the action came through.
