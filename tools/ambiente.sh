@@ -48,8 +48,8 @@ lingue() {
   { export LC_ALL=it_IT.UTF-8 LANG=it_IT.UTF-8; } 2>/dev/null
 }
 
-# prefisso NAME: a private Wine prefix build/NAME, made once, exported for what follows.
-# "wine-prove" (the tests') has windows that no window manager touches.
+# prefisso NAME PREPARE: a private Wine prefix build/NAME, made once and then prepared by that
+# function, exported for what follows.
 prefisso() {
   export WINEPREFIX="$build/$1" WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
   export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
@@ -57,33 +57,35 @@ prefisso() {
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
     "$wine64" wineboot -i
-    if [ "$1" = wine-prove ]; then
-      "$wine64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
-    else
-      # Pages open in this machine's own browser; Wine's is not part of the prefix.
-      "$wine64" reg add 'HKCR\.htm' /ve /d paginaweb /f >/dev/null
-      "$wine64" reg add 'HKCR\paginaweb\shell\open\command' /ve \
-        /d 'winebrowser.exe "%1"' /f >/dev/null
-    fi
+    "$2"
+    "$wineserver" -k || true
     "$wineserver" -w
     touch "$WINEPREFIX/pronto"
   fi
-  [ "$1" != wine-prove ] || unita_di_rete
   "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true
 }
 
-# unita_di_rete: in the tests' prefix drive R: is the network folder \\server\dati, an empty folder in
-# truth. Wine learns of a drive when it starts.
-unita_di_rete() {
-  local unita="$WINEPREFIX/dosdevices"
-  if [ ! -e "$unita/r:" ]; then
-    mkdir -p "$unita/unc/server/dati"
-    "$wine64" reg add 'HKLM\Software\Wine\Drives' /v r: /d network /f >/dev/null
-    "$wineserver" -k || true
-    "$wineserver" -w
-    ln -s unc/server/dati "$unita/r:"
-  fi
+# prefisso_persona: the prefix in which a person works.
+prefisso_persona() { prefisso wine prepara_persona; }
+# Pages open in this machine's own browser; Wine's is not part of the prefix.
+prepara_persona() {
+  "$wine64" reg add 'HKCR\.htm' /ve /d paginaweb /f >/dev/null
+  "$wine64" reg add 'HKCR\paginaweb\shell\open\command' /ve \
+    /d 'winebrowser.exe "%1"' /f >/dev/null
+}
+
+# prefisso_prove: the tests' prefix.
+prefisso_prove() {
+  prefisso wine-prove prepara_prove
   export OSTRELLE_UNITA_RETE=R:
+}
+# Windows that no window manager touches, and drive R:, which is the network folder \\server\dati, an
+# empty folder in truth. Wine learns of a drive when it starts.
+prepara_prove() {
+  "$wine64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+  "$wine64" reg add 'HKLM\Software\Wine\Drives' /v r: /d network /f >/dev/null
+  mkdir -p "$WINEPREFIX/dosdevices/unc/server/dati"
+  ln -s unc/server/dati "$WINEPREFIX/dosdevices/r:"
 }
 
 # prefisso_doppio: the tests' prefix once more, its screen at 192 dpi; the drive is the same. Ends what
