@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/errori/guardia.h"
 #include "support/windows/errori_win.h"
 
 #include <windows.h>
@@ -17,18 +18,6 @@ public:
 
 private:
     HCURSOR prima_;
-};
-
-// Sets a flag for its life.
-class Alzata {
-public:
-    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno = true; }
-    Alzata(const Alzata&) = delete;
-    Alzata& operator=(const Alzata&) = delete;
-    ~Alzata() { segno_ = false; }
-
-private:
-    bool& segno_;
 };
 
 // The trap at the end of every handler: runs `azione`; when it fails, restores the pointer and,

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "support/tempo/dataora.h"
+
+#include <string>
+#include <utility>
+
+// The copies of old files on disk: a folder for each file, below `radice`, made at the first need.
+class CopieFile {
+public:
+    // `radice` without a trailing "\".
+    explicit CopieFile(std::wstring radice) noexcept : radice_(std::move(radice)) {}
+
+    enum class Esito { NessunFile, GiaTenuta, Fatta };
+
+    // Keeps the file as it stands, unless there is none or the newest copy is equal; then lets the
+    // oldest copies go that are too many. `adesso` is the local time. Raises the run-time error of
+    // the failure: no copy is kept then, and the file is as it was.
+    Esito conserva(const std::wstring& percorso, DataOra adesso) const;
+
+    // The folder with the copies of a file, whether it exists or not.
+    [[nodiscard]] std::wstring cartella(const std::wstring& percorso) const;
+
+private:
+    void sfoltisci() const;
+
+    std::wstring radice_;
+};
