@@ -43,20 +43,7 @@ Modifica Documento::spostamento(int da, int a) const {
 }
 
 void Documento::applica(const Modifica& modifica, Causa causa) {
-    switch (modifica.tipo) {
-    case Modifica::Tipo::Aggiunta:
-        elementi_.inserisci(modifica.indice, modifica.dopo);
-        break;
-    case Modifica::Tipo::Cambio:
-        elementi_.sostituisci(modifica.indice, modifica.dopo);
-        break;
-    case Modifica::Tipo::Rimozione:
-        elementi_.rimuovi(modifica.indice);
-        break;
-    case Modifica::Tipo::Spostamento:
-        elementi_.sposta(modifica.indice, modifica.indiceDopo);
-        break;
-    }
+    esegui(modifica, elementi_);
     modificato_ = modificato_ || causa != Causa::Trascinamento;
     for (OsservatoreDocumento* const osservatore : osservatori_) {
         osservatore->elementiModificati(modifica, causa);

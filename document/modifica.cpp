@@ -13,3 +13,20 @@ Modifica inversa(const Modifica& modifica) {
     }
     return altra;
 }
+
+void esegui(const Modifica& modifica, TabellaElementi& tabella) {
+    switch (modifica.tipo) {
+    case Modifica::Tipo::Aggiunta:
+        tabella.inserisci(modifica.indice, modifica.dopo);
+        break;
+    case Modifica::Tipo::Cambio:
+        tabella.sostituisci(modifica.indice, modifica.dopo);
+        break;
+    case Modifica::Tipo::Rimozione:
+        tabella.rimuovi(modifica.indice);
+        break;
+    case Modifica::Tipo::Spostamento:
+        tabella.sposta(modifica.indice, modifica.indiceDopo);
+        break;
+    }
+}

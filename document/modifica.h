@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/elemento.h"
+#include "document/tabellaElementi.h"
 
 #include <cstdint>
 
@@ -26,3 +27,6 @@ enum class Causa : std::uint8_t {
 
 // The change that takes this one back.
 [[nodiscard]] Modifica inversa(const Modifica& modifica);
+
+// Makes the change. Raises errors 6 and 9 and leaves the table as it was.
+void esegui(const Modifica& modifica, TabellaElementi& tabella);
