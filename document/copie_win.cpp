@@ -8,7 +8,6 @@
 #include "support/windows/maniglie_win.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <iterator>
 #include <vector>
@@ -82,14 +81,6 @@ void scarica(const std::wstring& percorso) {
     }
 }
 
-std::wstring oraDelNome(DataOra ora) {
-    const DataOra::Parti p = ora.parti();
-    std::array<wchar_t, 32> testo{};
-    wsprintfW(testo.data(), L"%04d-%02d-%02d %02d.%02d.%02d", p.anno, p.mese, p.giorno, p.ora,
-              p.minuto, p.secondo);
-    return testo.data();
-}
-
 } // namespace
 
 CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso) const {
@@ -103,7 +94,7 @@ CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adess
         return Esito::GiaTenuta;
     }
     koUtilitaCartelle::CreaPercorsoDirectory(dove);
-    const std::wstring ora = oraDelNome(adesso);
+    const std::wstring ora = oraPerNomi(adesso);
     for (int numero = 1;; ++numero) {
         const std::wstring copia = dove + L'\\' + copie::nomeCopia(ora, numero, percorso);
         if (CopyFileW(percorso.c_str(), copia.c_str(), TRUE)) {

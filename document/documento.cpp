@@ -57,6 +57,13 @@ void Documento::sostituisci(TabellaElementi elementi) {
     }
 }
 
+void Documento::campiModificati() {
+    modificato_ = true;
+    for (OsservatoreDocumento* const osservatore : osservatori_) {
+        osservatore->campiModificati();
+    }
+}
+
 std::wstring Documento::ImpostaTitolo(std::wstring_view nome) {
     std::wstring titolo(prodotto::titolo);
     nuovo_ = nome == nuovoDocumento;

@@ -18,6 +18,8 @@ public:
     virtual void elementiModificati(const Modifica& modifica, Causa causa) = 0;
     // All the items are others now: those of a file that was opened, or none.
     virtual void elementiSostituiti() = 0;
+    // A value of the channel is another one, by the user or by code.
+    virtual void campiModificati() {}
 
 protected:
     ~OsservatoreDocumento() = default;
@@ -58,6 +60,9 @@ public:
 
     [[nodiscard]] bool modificato() const noexcept { return modificato_; }
     void modificato(bool valore) noexcept { modificato_ = valore; }
+
+    // A value of the channel changed in its field: the document is modified.
+    void campiModificati();
 
     // Sets the new-document flag from the name (True exactly for "Nuovo Documento") and gives the
     // window's caption: the title alone for an empty name, else title, two blanks and "[name]".

@@ -77,3 +77,10 @@ std::wstring formattaDataOra(DataOra data, const FormatoLocale& formato) {
            dueCifre(p.anno / 100) + dueCifre(p.anno % 100) + L' ' + dueCifre(p.ora) + formato.ora +
            dueCifre(p.minuto) + formato.ora + dueCifre(p.secondo);
 }
+
+std::wstring oraPerNomi(DataOra data) {
+    const auto p = data.parti();
+    return dueCifre(p.anno / 100) + dueCifre(p.anno % 100) + L'-' + dueCifre(p.mese) + L'-' +
+           dueCifre(p.giorno) + L' ' + dueCifre(p.ora) + L'.' + dueCifre(p.minuto) + L'.' +
+           dueCifre(p.secondo);
+}

@@ -51,6 +51,9 @@ private:
 // "dd/mm/yyyy hh:mm:ss" with the separators of the user's format, on the 24-hour clock.
 [[nodiscard]] std::wstring formattaDataOra(DataOra data, const FormatoLocale& formato);
 
+// "yyyy-mm-dd hh.mm.ss", as names of files tell a time: in their order they are in that of time.
+[[nodiscard]] std::wstring oraPerNomi(DataOra data);
+
 // The clock's reading: one instant as UTC and as local time.
 struct Istante {
     DataOra utc;

@@ -80,7 +80,7 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
         const bool combo = id == IDC_CBOLINGUA;
         if ((codice == (combo ? CBN_EDITCHANGE : EN_CHANGE) && testo.cambiato()) ||
             (combo && codice == CBN_SELCHANGE && testo.sceltoDiverso())) {
-            documento_.modificato(true);
+            documento_.campiModificati();
         }
         return TRUE;
     }
@@ -89,7 +89,7 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
         if (notifica->code == DTN_DATETIMECHANGE) {
             SelettoreData& selettore = notifica->idFrom == IDC_TXTDATA ? txtData_ : txtOrario_;
             if (selettore.cambiato()) {
-                documento_.modificato(true);
+                documento_.campiModificati();
             }
             return TRUE;
         }
@@ -98,7 +98,7 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
 }
 
 void CampiCanale::CambioValore(KOInputNumerico& /*controllo*/, double /*valore*/) {
-    documento_.modificato(true);
+    documento_.campiModificati();
 }
 
 std::size_t CampiCanale::posto(int id) noexcept {
@@ -112,7 +112,7 @@ std::wstring CampiCanale::testo(int id) const {
 
 void CampiCanale::testo(int id, std::wstring_view valore) {
     if (testi_[posto(id)].testo(valore)) {
-        documento_.modificato(true);
+        documento_.campiModificati();
     }
 }
 
@@ -123,7 +123,7 @@ DataOra CampiCanale::dataOra() const {
 void CampiCanale::dataOra(DataOra valore) {
     for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
         if (selettore->valore(valore)) {
-            documento_.modificato(true);
+            documento_.campiModificati();
         }
     }
 }
@@ -166,7 +166,7 @@ void CampiCanale::Svuota(DataOra adesso) noexcept {
     for (SelettoreData* const selettore : {&txtData_, &txtOrario_}) {
         ignorando([&] {
             if (selettore->valore(adesso)) {
-                documento_.modificato(true);
+                documento_.campiModificati();
             }
         });
     }

@@ -112,3 +112,8 @@ TEST(DataOra, SiMostraConISeparatoriDati) {
     EXPECT_EQ(formattaDataOra(data, {}), L"02/01/0205 13:04:05");
     EXPECT_EQ(formattaDataOra(data, {Lingua::Italiano, L',', L"-", L"."}), L"02-01-0205 13.04.05");
 }
+
+TEST(DataOra, NeiNomiStaInOrdine) {
+    EXPECT_EQ(oraPerNomi(DataOra::daParti(2026, 1, 2, 3, 4, 5)), L"2026-01-02 03.04.05");
+    EXPECT_EQ(oraPerNomi(DataOra::daParti(100, 12, 31)), L"0100-12-31 00.00.00");
+}
