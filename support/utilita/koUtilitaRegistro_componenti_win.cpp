@@ -1,6 +1,8 @@
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaRegistro.h"
 
 #include "support/testi/testo.h"
+#include "support/utilita/koUtilitaPercorsi.h"
+#include "support/utilita/koUtilitaProcessi.h"
 #include "support/utilita/percorso_win.h"
 #include "support/utilita/rigaDiComando.h"
 #include "support/windows/com_win.h"
@@ -33,7 +35,7 @@ void chiama(const std::wstring& file, const char* procedura) {
 
 void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
     const std::wstring percorso = percorsoCompleto(file);
-    const std::wstring estensione = maiuscolo(koUtilita::EstraiEstensione(percorso));
+    const std::wstring estensione = maiuscolo(koUtilitaPercorsi::EstraiEstensione(percorso));
     const bool programma = estensione == L".EXE";
     if (!programma && estensione != L".DLL" && estensione != L".OCX") {
         solleva(errori::chiamataNonValida);
@@ -43,7 +45,7 @@ void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzi
     }
     if (!programma) {
         chiama(percorso, procedura);
-    } else if (koUtilita::ShellSospensiva(L'"' + percorso + L"\" " + opzione) != 0U) {
+    } else if (koUtilitaProcessi::ShellSospensiva(L'"' + percorso + L"\" " + opzione) != 0U) {
         solleva(errori::erroreIO);
     }
 }

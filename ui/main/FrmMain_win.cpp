@@ -7,7 +7,7 @@
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaPercorsi.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
 #include "support/windows/guardia_win.h"
@@ -256,7 +256,7 @@ void FrmMain::Form_Load() {
     ImpostaStato(utc.GetDataUtc(utc.adessoLocale(), true));
     NuovoDocumento();
     std::wstring cartella = cartellaProgramma();
-    sfondo_ = GUI::ApplicaSfondo(koUtilita::AggiungiSepDir(cartella));
+    sfondo_ = GUI::ApplicaSfondo(koUtilitaPercorsi::AggiungiSepDir(cartella));
     CaricaRecenti();
 }
 

@@ -3,9 +3,57 @@
 #include "support/errori/errore.h"
 #include "tests/aiuti/messaggi_finti.h"
 
+#include <new>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
+
+TEST(KoUtilitaPrintErrore, IlTitoloHaDueSpaziPrimaDiUnNumeroNonNegativo) {
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Tipo non corrispondente", L"Errore  13", Icona::Informazione);
+    try {
+        solleva(errori::tipoNonCorrispondente);
+    } catch (...) {
+        koUtilita(messaggi).PrintErrore();
+    }
+}
+
+TEST(KoUtilitaPrintErrore, IlTitoloHaUnoSpazioPrimaDiUnNumeroNegativo) {
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Errore di automazione", L"Errore -2147467259", Icona::Informazione);
+    try {
+        throw Errore(-2147467259, L"Errore di automazione");
+    } catch (...) {
+        koUtilita(messaggi).PrintErrore();
+    }
+}
+
+TEST(KoUtilitaPrintErrore, IlNumeroCinquantadueHaUnTestoSuo) {
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Impossibile leggere l'unità specificata.", L"Errore  52",
+                     Icona::Informazione);
+    try {
+        throw Errore(52, L"un altro testo");
+    } catch (...) {
+        koUtilita(messaggi).PrintErrore();
+    }
+}
+
+TEST(KoUtilitaPrintErrore, AncheUnErroreDelLinguaggioSiDice) {
+    MessaggiFinti messaggi;
+    messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
+    messaggi.attendi(L"Errore di automazione", L"Errore  440", Icona::Informazione);
+    try {
+        throw std::bad_alloc();
+    } catch (...) {
+        koUtilita(messaggi).PrintErrore();
+    }
+    try {
+        throw std::runtime_error("x");
+    } catch (...) {
+        koUtilita(messaggi).PrintErrore();
+    }
+}
 
 TEST(KoUtilitaPrintErroreEx, DiceNumeroLuogoEDescrizione) {
     MessaggiFinti messaggi;
