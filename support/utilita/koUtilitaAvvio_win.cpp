@@ -11,7 +11,7 @@
 namespace {
 
 // Runs the default action of a target in the root of the program's drive; above 32 is success.
-INT_PTR apri(HWND hWnd, std::wstring_view oggetto) {
+INT_PTR avvia(HWND hWnd, std::wstring_view oggetto) {
     const std::string file = inAnsi(oggetto);
     const std::string cartella = inAnsi(cartellaProgramma().substr(0, 3));
     const HINSTANCE esito =
@@ -33,18 +33,18 @@ std::wstring_view motivo(INT_PTR codice) noexcept {
 } // namespace
 
 bool koUtilita::EseguiEx(HWND hWnd, const std::wstring& file, bool muto) const {
-    const INT_PTR esito = apri(hWnd, file);
+    const INT_PTR esito = avvia(hWnd, file);
     if (esito > 32) {
         return true;
     }
     if (!muto) {
-        messaggi_.avvisa(file + std::wstring(motivo(esito)), L"Errore", Icona::Critica);
+        messaggi_.avvisa(file + std::wstring(motivo(esito)), titoli::errore, Icona::Critica);
     }
     return false;
 }
 
 void koUtilitaAvvio::GoWeb(HWND hWnd, const std::wstring& indirizzoWeb) {
-    static_cast<void>(apri(hWnd, indirizzoWeb));
+    static_cast<void>(avvia(hWnd, indirizzoWeb));
 }
 
 void koUtilitaAvvio::Homepage(HWND hWnd) {

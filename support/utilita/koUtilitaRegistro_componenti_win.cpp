@@ -33,7 +33,7 @@ void chiama(const std::wstring& file, const char* procedura) {
     verifica(registra());
 }
 
-void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
+void eseguiRegistrazione(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
     const std::wstring percorso = percorsoCompleto(file);
     const std::wstring estensione = maiuscolo(koUtilitaPercorsi::EstraiEstensione(percorso));
     const bool programma = estensione == L".EXE";
@@ -76,11 +76,11 @@ std::wstring diClasse(const std::wstring& componente, const wchar_t* chiave) {
 } // namespace
 
 void koUtilitaRegistro::RegistraServer(const std::wstring& file) {
-    esegui(file, "DllRegisterServer", L"/REGSERVER");
+    eseguiRegistrazione(file, "DllRegisterServer", L"/REGSERVER");
 }
 
 void koUtilitaRegistro::DeRegistraServer(const std::wstring& file) {
-    esegui(file, "DllUnregisterServer", L"/UNREGSERVER");
+    eseguiRegistrazione(file, "DllUnregisterServer", L"/UNREGSERVER");
 }
 
 std::wstring koUtilitaRegistro::PathServerOcx(const std::wstring& componente) {
@@ -88,5 +88,5 @@ std::wstring koUtilitaRegistro::PathServerOcx(const std::wstring& componente) {
 }
 
 std::wstring koUtilitaRegistro::PathServerExe(const std::wstring& componente) {
-    return fileDelComando(diClasse(componente, L"\\LocalServer32"));
+    return fileDellaRiga(diClasse(componente, L"\\LocalServer32"));
 }

@@ -77,14 +77,14 @@ bool premeConInvio(const MSG& msg) noexcept {
 } // namespace
 
 bool FrmMain::Form_Initialize(Messaggi& messaggi) {
-    if (parserXmlPresente()) {
+    if (ParserXmlPresente()) {
         return true;
     }
     messaggi.avvisa(L"Per poter utilizzare il programma è necessario che sul sistema sia presente "
                     L"il Parser Microsoft XML 3.0 o versione successiva (msxml3.dll). E' possibile "
                     L"scaricare liberamente tale componente dal sito della Microsoft (" +
                         std::wstring(prodotto::sitoParser) + L")",
-                    L"Attenzione", Icona::Informazione);
+                    titoli::attenzione, Icona::Informazione);
     return false;
 }
 
@@ -301,7 +301,7 @@ void FrmMain::CaricaRecenti() {
 void FrmMain::MostraErrore() {
     const Errore errore = erroreCorrente();
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    servizi_.messaggi.avvisa(errore.descrizione(), L"Errore n° " + std::to_wstring(errore.numero()),
+    servizi_.messaggi.avvisa(errore.descrizione(), titoli::erroreNumero(errore.numero()),
                              Icona::Critica);
 }
 

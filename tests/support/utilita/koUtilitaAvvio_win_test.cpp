@@ -5,6 +5,7 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -17,7 +18,7 @@ constexpr const wchar_t* tipoNostro = L".oprova";
 // EseguiEx that must fail with this text after the target.
 void deveFallire(const std::wstring& oggetto, const std::wstring& motivo) {
     MessaggiFinti messaggi;
-    messaggi.attendi(oggetto + motivo, L"Errore", Icona::Critica);
+    messaggi.attendi(oggetto + motivo, testi::errore, Icona::Critica);
     const koUtilita utilita(messaggi);
     EXPECT_FALSE(utilita.EseguiEx(nullptr, oggetto));
     EXPECT_FALSE(utilita.EseguiEx(nullptr, oggetto, true));
@@ -107,14 +108,13 @@ TEST(KoUtilitaAvvio, UnDocumentoCheMancaNonSiTrova) {
     const CartellaProva cartella;
     Registratore registratore;
     registratore.tipo(tipoNostro);
-    deveFallire(cartella.file(L"Manca.oprova"), L": file non trovato!");
-    deveFallire(cartella.file(L"manca"), L": file non trovato!");
+    deveFallire(cartella.file(L"Manca.oprova"), testi::fileNonTrovato);
+    deveFallire(cartella.file(L"manca"), testi::fileNonTrovato);
 }
 
 TEST(KoUtilitaAvvio, UnTipoSenzaProgrammaSiDice) {
     const CartellaProva cartella;
-    deveFallire(cartella.scrivi(L"Prova.senzaprogramma", "x"),
-                L": nessun programma associato a questo tipo di file!");
+    deveFallire(cartella.scrivi(L"Prova.senzaprogramma", "x"), testi::nessunProgramma);
 }
 
 TEST(KoUtilitaAvvio, OgniAltroRifiutoEAccessoNegato) {
@@ -122,14 +122,14 @@ TEST(KoUtilitaAvvio, OgniAltroRifiutoEAccessoNegato) {
     // A program that is a folder, one that is none.
     Registratore registratore;
     registratore.tipo(tipoNostro, L'"' + cartella.percorso() + L"\" \"%1\"");
-    deveFallire(cartella.scrivi(L"a.oprova", "x"), L": accesso negato!");
-    deveFallire(cartella.scrivi(L"finto.exe", "nessun programma"), L": accesso negato!");
+    deveFallire(cartella.scrivi(L"a.oprova", "x"), testi::accessoNegato);
+    deveFallire(cartella.scrivi(L"finto.exe", "nessun programma"), testi::accessoNegato);
 }
 
 TEST(KoUtilitaAvvio, IlMessaggioPortaIlNomeComeFuDato) {
     const CartellaProva cartella;
     // The code page lacks "Ω": the shell is asked for another name, the message keeps this one.
-    deveFallire(cartella.scrivi(L"Ωmega.oprova", "x"), L": file non trovato!");
+    deveFallire(cartella.scrivi(L"Ωmega.oprova", "x"), testi::fileNonTrovato);
 }
 
 TEST(KoUtilitaAvvio, UnIndirizzoRifiutatoNonSiDice) {
