@@ -47,7 +47,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int comeMostrare) {
     } catch (...) {
         const Errore errore = erroreCorrente();
         MessageBoxW(nullptr, errore.descrizione().c_str(),
-                    (L"Errore n° " + std::to_wstring(errore.numero())).c_str(), MB_ICONHAND);
+                    titoli::erroreNumero(errore.numero()).c_str(), MB_ICONHAND);
         return 1;
     }
 }

@@ -6,6 +6,7 @@
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
+#include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
 #include "support/servizi/dialoghiFile.h"
@@ -45,8 +46,12 @@ public:
 
 class NessunDialogo final : public DialoghiFile {
 public:
-    std::wstring apri(const RichiestaFile& /*richiesta*/) override { sollevaDialogoAnnullato(); }
-    std::wstring salva(const RichiestaFile& /*richiesta*/) override { sollevaDialogoAnnullato(); }
+    std::wstring apri(const RichiestaFile& /*richiesta*/) override {
+        solleva(errori::dialogoAnnullato);
+    }
+    std::wstring salva(const RichiestaFile& /*richiesta*/) override {
+        solleva(errori::dialogoAnnullato);
+    }
 };
 
 // A user who changes the title and saves, in no time.

@@ -21,14 +21,6 @@ constexpr std::array<Nome, 12> mesiItaliani{L"Gen", L"Feb", L"Mar", L"Apr", L"Ma
                                             L"Lug", L"Ago", L"Set", L"Ott", L"Nov", L"Dic"};
 constexpr std::array<Nome, 4> zoneUtc{L"(GMT)", L"GMT", L"(UTC)", L"UTC"};
 
-constexpr std::int32_t formatoNonValido = 4453;
-constexpr std::int32_t meseNonValido = 4454;
-
-[[noreturn]] void sollevaFormato() {
-    throw Errore(formatoNonValido,
-                 L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
-}
-
 std::wstring cifre(int numero, int quante) {
     return formattaNumero(numero, quante, 0);
 }
@@ -65,7 +57,7 @@ Orario leggiOrario(std::wstring_view pezzo) {
     const auto p1 = vista.find(L':');
     const auto p2 = p1 == Nome::npos ? Nome::npos : vista.find(L':', p1 + 1);
     if (p2 == Nome::npos) {
-        sollevaFormato();
+        solleva(errori::dataNonValida);
     }
     return {valoreIniziale(vista.substr(0, p1)), valoreIniziale(vista.substr(p1 + 1, p2 - p1 - 1)),
             valoreIniziale(vista.substr(p2 + 1))};
@@ -107,7 +99,7 @@ DataOra ClsUTC::ToDate(std::wstring_view testo) const {
     }
     const auto virgola = testo.find(L',');
     if (virgola == std::wstring_view::npos) {
-        sollevaFormato();
+        solleva(errori::dataNonValida);
     }
     // The order of the steps is the order in which errors win.
     const Pezzi pezzi(testo.substr(virgola + 1));
@@ -138,5 +130,5 @@ int ClsUTC::NumeroMese(std::wstring_view nome) {
             return static_cast<int>(trovato - tabella.begin()) + 1;
         }
     }
-    throw Errore(meseNonValido, cercato + L": nome mese non valido.");
+    solleva(errori::meseNonValido, cercato);
 }

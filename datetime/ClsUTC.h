@@ -16,7 +16,7 @@ public:
     // With given times; for tests and for a clock that was read already.
     ClsUTC(const Istante& adesso, FormatoLocale formato);
 
-    // The text of a date. With bLocale False the UTC clock time, still labelled with the local
+    // The text of a date. With bLocale false the UTC clock time, still labelled with the local
     // offset. An offset west of Greenwich shows two minus signs; both are the format's.
     [[nodiscard]] std::wstring GetDataUtc(DataOra data, bool bLocale) const;
 
@@ -24,9 +24,6 @@ public:
     // name), 9 (a missing piece), 13 (a zone that is no number), 6 and 5 (values out of range).
     [[nodiscard]] DataOra ToDate(std::wstring_view testo) const;
 
-    // Hours east of Greenwich.
-    [[nodiscard]] std::int16_t nDiffOre() const noexcept { return nDiffOre_; }
-    [[nodiscard]] DataOra adessoUtc() const noexcept { return adesso_.utc; }
     [[nodiscard]] DataOra adessoLocale() const noexcept { return adesso_.locale; }
 
 private:

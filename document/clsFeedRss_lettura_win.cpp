@@ -20,15 +20,6 @@
 
 namespace {
 
-constexpr std::int32_t nonCaricabile = 18343;
-constexpr std::int32_t formatoNonValido = 18344;
-constexpr std::int32_t formatoNonSupportato = 18345;
-
-[[noreturn]] void rifiuta(std::int32_t numero, const std::wstring& percorso,
-                          std::wstring_view perche) {
-    throw Errore(numero, maiuscolo(percorso).append(perche));
-}
-
 template <class Azione>
 void perOgniFiglio(const NodoXml& nodo, Azione azione) {
     for (NodoXml figlio = nodo.primoFiglio(); figlio; figlio = figlio.fratello()) {
@@ -86,7 +77,7 @@ std::wstring_view conserva(Deposito& deposito, CampoElemento campo, std::wstring
     return deposito.conserva(aCapoCrLf(testo));
 }
 
-// Reads items into a store. In a feed that the program wrote (`nostro`) a description says by
+// Reads items. In a feed that the program wrote (`nostro`) a description says by
 // references what its code page lacked; an item without a date is of `adesso`.
 class LettoreElementi {
 public:
@@ -164,7 +155,7 @@ Feed trovaFeed(const DocumentoXml& documento, const std::wstring& percorso) {
         });
     }
     if (canali.size() != 1) {
-        rifiuta(formatoNonValido, percorso, L": formato non valido.");
+        solleva(errori::feedNonValido, maiuscolo(percorso));
     }
     return {radici.front(), canali.front()};
 }
@@ -186,7 +177,7 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
     {
         const DocumentoXml documento;
         if (!documento.carica(path)) {
-            rifiuta(nonCaricabile, path, L": impossibile caricare il documento.");
+            solleva(errori::feedNonCaricabile, maiuscolo(path));
         }
         const Feed feed = trovaFeed(documento, path);
         const bool nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
@@ -201,7 +192,7 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
             }
         }
         if (letto.immagini.size() > 1) {
-            rifiuta(formatoNonSupportato, path, L": formato non supportato.");
+            solleva(errori::feedNonSupportato, maiuscolo(path));
         }
         if (!letto.immagini.empty()) {
             LeggiImmagine(letto.immagini.front(), canale.image);

@@ -4,7 +4,7 @@
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/testi/ansi_win.h"
 #include "support/testi/formato.h"
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaTemporanei.h"
 #include "support/windows/fileNuovo_win.h"
 #include "support/windows/file_win.h"
 
@@ -30,7 +30,7 @@ void clsFeedRss::CreaDocumentoHTML(const std::wstring& path, const Canale& canal
 
 std::wstring clsFeedRss::VisualizzaItemHTML(const TabellaElementi& items,
                                             ClsCodaEliminazione& coda) const {
-    const std::wstring temporaneo = koUtilita::GetFileTemporaneo();
+    const std::wstring temporaneo = koUtilitaTemporanei::GetFileTemporaneo();
     coda.Push(temporaneo);
     std::wstring pagina = temporaneo + L".htm";
     coda.Push(pagina);

@@ -51,6 +51,6 @@ ElementoCondiviso clsItemRss::elemento() const {
 
 void verificaCampo(CampoElemento campo, std::wstring_view testo, int elemento,
                    std::wstring_view percorso) {
-    const auto verifica = campo == CampoElemento::Descrizione ? verificaCData : verificaTesto;
-    verifica(testo, {vociElemento[static_cast<std::size_t>(campo)].nome, elemento}, percorso);
+    const auto regola = campo == CampoElemento::Descrizione ? verificaCData : verificaTesto;
+    regola(testo, {vociElemento[static_cast<std::size_t>(campo)].nome, elemento}, percorso);
 }

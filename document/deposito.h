@@ -19,8 +19,6 @@ public:
     // One more item, of texts that the store keeps.
     void aggiungi(const TestiElemento& testi) { elementi_.emplace_back(testi); }
 
-    [[nodiscard]] std::size_t quanti() const noexcept { return elementi_.size(); }
-
     // The items in their order, without a copy. The store takes nothing more from here on.
     [[nodiscard]] static std::vector<ElementoCondiviso>
     elementi(const std::shared_ptr<const Deposito>& deposito);

@@ -64,7 +64,7 @@ public:
     // A value of the channel changed in its field: the document is modified.
     void campiModificati();
 
-    // Sets the new-document flag from the name (True exactly for "Nuovo Documento") and gives the
+    // Sets the new-document flag from the name (true exactly for "Nuovo Documento") and gives the
     // window's caption: the title alone for an empty name, else title, two blanks and "[name]".
     [[nodiscard]] std::wstring ImpostaTitolo(std::wstring_view nome);
     [[nodiscard]] bool nuovo() const noexcept { return nuovo_; }

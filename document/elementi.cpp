@@ -4,12 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr std::int32_t nessunElemento = 12883;
-
-} // namespace
-
 void richiediPosto(const TabellaElementi& tabella) {
     if (tabella.piena()) {
         solleva(errori::overflow);
@@ -18,8 +12,7 @@ void richiediPosto(const TabellaElementi& tabella) {
 
 void richiediElementi(const TabellaElementi& tabella) {
     if (tabella.conteggio() == 0) {
-        throw Errore(nessunElemento, L"Per salvare il documento è necessario immettere almeno un "
-                                     L"contenuto. Salvataggio non consentito.");
+        solleva(errori::nessunElemento);
     }
 }
 

@@ -43,7 +43,32 @@ constexpr std::array tabella{
     Voce{481, L"Immagine non valida"},
 };
 
+// The program's own; before ": " stands what the error befell.
+constexpr std::array proprie{
+    Voce{errori::dataNonValida,
+         L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100)."},
+    Voce{errori::meseNonValido, L": nome mese non valido."},
+    Voce{errori::recenteMancante, L": impossibile trovare il file."},
+    Voce{errori::senzaImmagine, L"E' necessario valorizzare la proprietà objImg."},
+    Voce{errori::senzaDialogo, L"E' necessario valorizzare la proprietà objDlg."},
+    Voce{errori::immagineMancante, L": file non trovato."},
+    Voce{errori::nessunElemento,
+         L"Per salvare il documento è necessario immettere almeno un contenuto. Salvataggio non "
+         L"consentito."},
+    Voce{errori::feedNonCaricabile, L": impossibile caricare il documento."},
+    Voce{errori::feedNonValido, L": formato non valido."},
+    Voce{errori::feedNonSupportato, L": formato non supportato."},
+    Voce{errori::dialogoAnnullato, L"Operazione annullata"},
+};
+
 static_assert(std::ranges::is_sorted(tabella, {}, &Voce::numero));
+static_assert(std::ranges::is_sorted(proprie, {}, &Voce::numero));
+
+template <std::size_t quante>
+std::wstring_view cerca(const std::array<Voce, quante>& voci, std::int32_t numero) noexcept {
+    const auto* const voce = std::ranges::lower_bound(voci, numero, {}, &Voce::numero);
+    return voce != voci.end() && voce->numero == numero ? voce->testo : std::wstring_view{};
+}
 
 } // namespace
 
@@ -52,10 +77,11 @@ Errore::Errore(std::int32_t numero, std::wstring descrizione)
       what_("error " + std::to_string(numero) + ": " + comeUtf8(descrizione_)) {}
 
 std::wstring_view testoErrore(std::int32_t numero) noexcept {
-    const auto* const voce = std::ranges::lower_bound(tabella, numero, {}, &Voce::numero);
-    return voce != tabella.end() && voce->numero == numero ? voce->testo : std::wstring_view{};
+    return cerca(tabella, numero);
 }
 
-void solleva(std::int32_t numero) {
-    throw Errore(numero, std::wstring(testoErrore(numero)));
+void solleva(std::int32_t numero, std::wstring_view chi) {
+    const std::wstring_view diSistema = testoErrore(numero);
+    throw Errore(numero,
+                 std::wstring(chi).append(diSistema.empty() ? cerca(proprie, numero) : diSistema));
 }

@@ -8,10 +8,9 @@
 
 namespace {
 
-constexpr std::int32_t senzaImmagine = 8874;
-constexpr std::int32_t senzaDialogo = 8875;
-constexpr std::int32_t fileAssente = 8876;
-constexpr std::int32_t oggettoNonImpostato = 91;
+const RichiestaFile DlgImg{
+    L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", opzioniApri,
+    L""};
 
 // Empties the control when the measuring is over, however it ends.
 class ImmagineCaricata {
@@ -34,24 +33,22 @@ void ClsSizerImg::LeggiImg(const std::wstring& percorso) {
     std::wstring file = percorso;
     if (!file.empty()) {
         if (!fileEsiste(file)) {
-            throw Errore(fileAssente, maiuscolo(file) + L": file non trovato.");
+            solleva(errori::immagineMancante, maiuscolo(file));
         }
     } else {
         if (objDlg_ == nullptr) {
-            throw Errore(senzaDialogo, L"E' necessario valorizzare la proprietà objDlg.");
+            solleva(errori::senzaDialogo);
         }
-        file = objDlg_->apri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
-                              L"Tutti i file (*.*)|*.*",
-                              4100, L""});
+        file = objDlg_->apri(DlgImg);
     }
     if (objImg_ == nullptr) {
-        throw Errore(senzaImmagine, L"E' necessario valorizzare la proprietà objImg.");
+        solleva(errori::senzaImmagine);
     }
     objImg_->Visible(false);
     objImg_->Stretch(false);
     const ImmagineCaricata caricata(*objImg_, file);
     if (objForm_ == nullptr) {
-        solleva(oggettoNonImpostato);
+        solleva(errori::oggettoNonImpostato);
     }
     const std::int32_t altezza = aInt32(objForm_->pixelVerticali(objImg_->Height()));
     nWidth_ = aInt32(objForm_->pixelOrizzontali(objImg_->Width()));

@@ -23,13 +23,11 @@ private:
     HWND finestra_;
 };
 
-// The hidden picture control: it only ever measures, so it has no window.
+// The hidden picture control: it only ever measures, so it has no window to show or to fill.
 class ImmagineNascosta final : public ControlloImmagine {
 public:
-    void Visible(bool valore) override { visibile_ = valore; }
-    [[nodiscard]] bool Visible() const noexcept { return visibile_; }
-    void Stretch(bool valore) override { adattata_ = valore; }
-    [[nodiscard]] bool Stretch() const noexcept { return adattata_; }
+    void Visible(bool /*valore*/) override {}
+    void Stretch(bool /*valore*/) override {}
     void carica(const std::wstring& percorso) override { immagine_ = caricaImmagine(percorso); }
     void svuota() noexcept override { immagine_ = ComPtr<IPicture>(); }
     [[nodiscard]] double Width() const override;
@@ -37,6 +35,4 @@ public:
 
 private:
     ComPtr<IPicture> immagine_;
-    bool visibile_ = false;
-    bool adattata_ = false;
 };

@@ -1,7 +1,5 @@
 #include "support/servizi/dialoghiFile.h"
 
-#include "support/errori/errore.h"
-
 #include <algorithm>
 
 std::wstring filtroWindows(std::wstring_view filtro) {
@@ -13,8 +11,4 @@ std::wstring filtroWindows(std::wstring_view filtro) {
 
 std::wstring estensioneWindows(std::wstring_view estensione) {
     return std::wstring(estensione.starts_with(L'.') ? estensione.substr(1) : estensione);
-}
-
-void sollevaDialogoAnnullato() {
-    throw Errore(errori::dialogoAnnullato, L"Operazione annullata");
 }

@@ -1,18 +1,27 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 // The file dialogs as a service: they are modal, so tests put a fake in their place.
 
+// What a file dialog sees to.
+struct OpzioniFile {
+    bool fileEsistente = false;        // only a file that is there can be chosen
+    bool senzaSolaLettura = false;     // no box to open it read-only
+    bool chiedeSovrascrittura = false; // before a file that is there is chosen
+    bool cartellaEsistente = false;    // only a folder that is there can be named
+
+    bool operator==(const OpzioniFile&) const = default;
+};
+inline constexpr OpzioniFile opzioniApri{.fileEsistente = true, .senzaSolaLettura = true};
+inline constexpr OpzioniFile opzioniSalva{.chiedeSovrascrittura = true, .cartellaEsistente = true};
+
 // What a file dialog is asked for.
 struct RichiestaFile {
     // "Description|*.a;*.b|Description|*.*".
     std::wstring filtro;
-    // The common dialog's flags, by their value (4100: the file must exist, no read-only box;
-    // 2050: ask before overwriting, the path must exist).
-    std::uint32_t opzioni = 0;
+    OpzioniFile opzioni;
     // Added to a name typed without one; with its dot (".xml"). Empty for none.
     std::wstring estensione;
 };
@@ -35,5 +44,3 @@ public:
 
 // A default extension as Windows wants it, without its dot.
 [[nodiscard]] std::wstring estensioneWindows(std::wstring_view estensione);
-
-[[noreturn]] void sollevaDialogoAnnullato();

@@ -26,10 +26,10 @@ Funzione comdlg32(const char* nome) {
     return trovata;
 }
 
-using Dialogo = decltype(&GetOpenFileNameW);
+using FunzioneDialogo = decltype(&GetOpenFileNameW);
 
 std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
-    const auto dialogo = comdlg32<Dialogo>(quale);
+    const auto dialogo = comdlg32<FunzioneDialogo>(quale);
     const auto errore = comdlg32<decltype(&CommDlgExtendedError)>("CommDlgExtendedError");
     const std::wstring filtro = filtroWindows(richiesta.filtro);
     const std::wstring estensione = estensioneWindows(richiesta.estensione);
@@ -41,13 +41,13 @@ std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
     dati.lpstrFilter = filtro.c_str();
     dati.lpstrFile = percorso.data();
     dati.nMaxFile = static_cast<DWORD>(percorso.size());
-    dati.Flags = richiesta.opzioni | OFN_EXPLORER | OFN_NOCHANGEDIR;
+    dati.Flags = opzioniWindows(richiesta.opzioni) | OFN_EXPLORER | OFN_NOCHANGEDIR;
     dati.lpstrDefExt = estensione.empty() ? nullptr : estensione.c_str();
     const SenzaRipetizioni guardia;
     if (!dialogo(&dati)) {
         switch (errore()) {
         case 0:
-            sollevaDialogoAnnullato();
+            solleva(errori::dialogoAnnullato);
         case CDERR_MEMALLOCFAILURE:
         case CDERR_MEMLOCKFAILURE:
             solleva(errori::memoriaEsaurita);
@@ -63,6 +63,15 @@ std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
 }
 
 } // namespace
+
+std::uint32_t opzioniWindows(const OpzioniFile& opzioni) noexcept {
+    DWORD segni = 0;
+    segni |= opzioni.fileEsistente ? DWORD{OFN_FILEMUSTEXIST} : 0;
+    segni |= opzioni.senzaSolaLettura ? DWORD{OFN_HIDEREADONLY} : 0;
+    segni |= opzioni.chiedeSovrascrittura ? DWORD{OFN_OVERWRITEPROMPT} : 0;
+    segni |= opzioni.cartellaEsistente ? DWORD{OFN_PATHMUSTEXIST} : 0;
+    return segni;
+}
 
 std::wstring DialoghiFileWindows::apri(const RichiestaFile& richiesta) {
     return chiedi(richiesta, "GetOpenFileNameW");

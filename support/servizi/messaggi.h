@@ -9,6 +9,15 @@ enum class Icona : std::uint8_t { Critica, Domanda, Informazione };
 enum class Pulsanti : std::uint8_t { Ok, SiNo, SiNoAnnulla };
 enum class Risposta : std::uint8_t { Ok, Si, No, Annulla };
 
+// The titles that more than one box has.
+namespace titoli {
+inline constexpr const wchar_t* attenzione = L"Attenzione";
+inline constexpr const wchar_t* errore = L"Errore";
+[[nodiscard]] inline std::wstring erroreNumero(std::int32_t numero) {
+    return L"Errore n° " + std::to_wstring(numero);
+}
+} // namespace titoli
+
 class Messaggi {
 public:
     Messaggi() = default;

@@ -13,13 +13,13 @@ std::wstring informazione(LCTYPE tipo) {
     return lunghezza > 0 ? std::wstring(testo.data()) : std::wstring{};
 }
 
-wchar_t primo(const std::wstring& testo, wchar_t altrimenti) {
+wchar_t primoCarattere(const std::wstring& testo, wchar_t altrimenti) {
     return testo.empty() ? altrimenti : testo.front();
 }
 
 } // namespace
 
 FormatoLocale formatoUtente() {
-    return {Lingua::Utente, primo(informazione(LOCALE_SDECIMAL), L','), informazione(LOCALE_SDATE),
-            informazione(LOCALE_STIME)};
+    return {Lingua::Utente, primoCarattere(informazione(LOCALE_SDECIMAL), L','),
+            informazione(LOCALE_SDATE), informazione(LOCALE_STIME)};
 }

@@ -1,5 +1,6 @@
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaCartelle.h"
 
+#include "support/utilita/koUtilitaPercorsi.h"
 #include "support/windows/registro_win.h"
 
 #include <windows.h>
@@ -23,7 +24,7 @@ std::wstring speciale(HKEY radice, const wchar_t* valore, int csidl) {
             cartella = percorso.data();
         }
     }
-    return koUtilita::AggiungiSepDir(cartella);
+    return koUtilitaPercorsi::AggiungiSepDir(cartella);
 }
 
 std::wstring dellUtente(const wchar_t* valore, int csidl) {
@@ -133,5 +134,5 @@ std::wstring koUtilitaCartelle::CartellaCondivisi() {
         leggiTesto(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion",
                    L"CommonFilesDir")
             .value_or(L"");
-    return koUtilita::AggiungiSepDir(cartella);
+    return koUtilitaPercorsi::AggiungiSepDir(cartella);
 }

@@ -1,8 +1,10 @@
+#include "support/utilita/koUtilitaErrori.h"
+
 #include "support/tempo/dataora_win.h"
 #include "support/testi/ansi_win.h"
 #include "support/testi/formato.h"
 #include "support/testi/testo.h"
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaPercorsi.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/fileNuovo_win.h"
 #include "support/windows/maniglie_win.h"
@@ -29,12 +31,12 @@ std::wstring timbro() {
 } // namespace
 
 void koUtilitaErrori::ScriviLog(const std::wstring& file, std::wstring_view testo) {
-    if (koUtilita::DeterminaSoloFileName(file).empty()) {
+    if (koUtilitaPercorsi::DeterminaSoloFileName(file).empty()) {
         solleva(errori::nomeFileNonValido);
     }
     constexpr std::wstring_view estensione = L".log";
     std::wstring percorso = file;
-    if (minuscolo(koUtilita::EstraiEstensione(file)) != estensione) {
+    if (minuscolo(koUtilitaPercorsi::EstraiEstensione(file)) != estensione) {
         percorso += estensione;
     }
     std::wstring riga = timbro() + L' ' + sostituisci(testo, L"\r\n", L" ");

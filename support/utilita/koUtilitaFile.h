@@ -1,18 +1,11 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
-// Files and paths, part of koUtilita. Names go to Windows in Unicode. Where nothing else is told a
+// Files, part of koUtilita. Names go to Windows in Unicode. Where nothing else is told a
 // failure raises its run-time error.
 class koUtilitaFile {
 public:
-    // The parts of a path: what stands behind the last "\", "/" or ":", what stands before with
-    // that character (the two together are the path), and the extension of the name with its dot.
-    [[nodiscard]] static std::wstring DeterminaSoloFileName(std::wstring_view percorso);
-    [[nodiscard]] static std::wstring EstraiPath(std::wstring_view percorso);
-    [[nodiscard]] static std::wstring EstraiEstensione(std::wstring_view nome);
-
     // Whether any program has the file open, this one included. Raises error 53 when it is missing.
     [[nodiscard]] static bool FileAperto(const std::wstring& file);
 

@@ -1,6 +1,7 @@
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaRegistro.h"
 
 #include "support/testi/testo.h"
+#include "support/utilita/koUtilitaPercorsi.h"
 #include "support/utilita/percorso_win.h"
 #include "support/windows/com_win.h"
 #include "support/windows/errori_win.h"
@@ -62,17 +63,17 @@ void assegna(IDispatch& oggetto, const wchar_t* proprieta, const std::wstring& v
 void koUtilitaRegistro::CreaCollegamento(const std::wstring& file, const Collegamento& dati) {
     // Some systems would write a shortcut that opens nothing.
     const auto troppoLungo = [](const std::wstring& testo) { return testo.size() >= MAX_PATH; };
-    if (koUtilita::DeterminaSoloFileName(file).empty() || dati.TargetPath.empty() ||
+    if (koUtilitaPercorsi::DeterminaSoloFileName(file).empty() || dati.TargetPath.empty() ||
         troppoLungo(dati.TargetPath) || troppoLungo(dati.WorkingDirectory) ||
         troppoLungo(dati.IconLocation)) {
         solleva(errori::chiamataNonValida);
     }
     constexpr std::wstring_view estensione = L".lnk";
     std::wstring percorso = percorsoCompleto(file);
-    if (minuscolo(koUtilita::EstraiEstensione(percorso)) != estensione) {
+    if (minuscolo(koUtilitaPercorsi::EstraiEstensione(percorso)) != estensione) {
         percorso += estensione;
     }
-    const DWORD cartella = GetFileAttributesW(koUtilita::EstraiPath(percorso).c_str());
+    const DWORD cartella = GetFileAttributesW(koUtilitaPercorsi::EstraiPath(percorso).c_str());
     if (cartella == INVALID_FILE_ATTRIBUTES || (cartella & FILE_ATTRIBUTE_DIRECTORY) == 0) {
         solleva(errori::percorsoNonTrovato);
     }

@@ -1,6 +1,8 @@
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaRegistro.h"
 
 #include "support/testi/testo.h"
+#include "support/utilita/koUtilitaPercorsi.h"
+#include "support/utilita/koUtilitaProcessi.h"
 #include "support/utilita/percorso_win.h"
 #include "support/utilita/rigaDiComando.h"
 #include "support/windows/com_win.h"
@@ -31,9 +33,9 @@ void chiama(const std::wstring& file, const char* procedura) {
     verifica(registra());
 }
 
-void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
+void eseguiRegistrazione(const std::wstring& file, const char* procedura, const wchar_t* opzione) {
     const std::wstring percorso = percorsoCompleto(file);
-    const std::wstring estensione = maiuscolo(koUtilita::EstraiEstensione(percorso));
+    const std::wstring estensione = maiuscolo(koUtilitaPercorsi::EstraiEstensione(percorso));
     const bool programma = estensione == L".EXE";
     if (!programma && estensione != L".DLL" && estensione != L".OCX") {
         solleva(errori::chiamataNonValida);
@@ -43,7 +45,7 @@ void esegui(const std::wstring& file, const char* procedura, const wchar_t* opzi
     }
     if (!programma) {
         chiama(percorso, procedura);
-    } else if (koUtilita::ShellSospensiva(L'"' + percorso + L"\" " + opzione) != 0U) {
+    } else if (koUtilitaProcessi::ShellSospensiva(L'"' + percorso + L"\" " + opzione) != 0U) {
         solleva(errori::erroreIO);
     }
 }
@@ -74,11 +76,11 @@ std::wstring diClasse(const std::wstring& componente, const wchar_t* chiave) {
 } // namespace
 
 void koUtilitaRegistro::RegistraServer(const std::wstring& file) {
-    esegui(file, "DllRegisterServer", L"/REGSERVER");
+    eseguiRegistrazione(file, "DllRegisterServer", L"/REGSERVER");
 }
 
 void koUtilitaRegistro::DeRegistraServer(const std::wstring& file) {
-    esegui(file, "DllUnregisterServer", L"/UNREGSERVER");
+    eseguiRegistrazione(file, "DllUnregisterServer", L"/UNREGSERVER");
 }
 
 std::wstring koUtilitaRegistro::PathServerOcx(const std::wstring& componente) {
@@ -86,5 +88,5 @@ std::wstring koUtilitaRegistro::PathServerOcx(const std::wstring& componente) {
 }
 
 std::wstring koUtilitaRegistro::PathServerExe(const std::wstring& componente) {
-    return fileDelComando(diClasse(componente, L"\\LocalServer32"));
+    return fileDellaRiga(diClasse(componente, L"\\LocalServer32"));
 }

@@ -45,7 +45,7 @@ std::wstring diAppPaths(const std::wstring& programma, const wchar_t* valore) {
 }
 
 std::wstring fileRegistrato(const std::wstring& programma) {
-    return fileDelComando(diAppPaths(programma, L""));
+    return fileDellaRiga(diAppPaths(programma, L""));
 }
 
 // Opens the key of a program in the list of installed ones: the machine's, that of 32-bit programs
@@ -161,7 +161,7 @@ bool koUtilita::StartApplicazione(HWND hWnd, const std::wstring& programma,
             return true;
         }
     }
-    messaggi_.avvisa(programma + L": Applicazione non trovata.", L"Errore", Icona::Critica);
+    messaggi_.avvisa(programma + L": Applicazione non trovata.", titoli::errore, Icona::Critica);
     return false;
 }
 

@@ -13,6 +13,10 @@ std::vector<std::wstring> koUtilitaTesti::koSplit(std::wstring_view testo,
     return {pezzi.begin(), pezzi.end()};
 }
 
+std::wstring_view koUtilitaTesti::StripTerminator(std::wstring_view testo) noexcept {
+    return testo.substr(0, testo.find(L'\0'));
+}
+
 std::wstring koUtilitaTesti::EspuraSpazi(std::wstring_view testo) {
     return sostituisci(testo, L" ", L"");
 }

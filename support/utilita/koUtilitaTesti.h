@@ -16,6 +16,8 @@ public:
     // The pieces between separators, empty ones included; an empty separator gives the whole text.
     [[nodiscard]] static std::vector<std::wstring> koSplit(std::wstring_view testo,
                                                            std::wstring_view separatore = L" ");
+    // The text before its first character 0.
+    [[nodiscard]] static std::wstring_view StripTerminator(std::wstring_view testo) noexcept;
     // Without any blank (U+0020).
     [[nodiscard]] static std::wstring EspuraSpazi(std::wstring_view testo);
     // A typed character in upper case, accents included; for WM_CHAR.

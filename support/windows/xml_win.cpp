@@ -282,7 +282,7 @@ void DocumentoXml::aggiungi(const NodoXml& figlio) const {
     verifica(documento_->appendChild(figlio.get(), nullptr));
 }
 
-bool parserXmlPresente() noexcept {
+bool ParserXmlPresente() noexcept {
     try {
         return static_cast<bool>(creaDocumento());
     } catch (const Errore&) {

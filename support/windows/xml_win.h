@@ -83,4 +83,4 @@ private:
 };
 
 // Whether the parser is installed: a document can be made.
-[[nodiscard]] bool parserXmlPresente() noexcept;
+[[nodiscard]] bool ParserXmlPresente() noexcept;

@@ -3,6 +3,7 @@
 #include "support/errori/errore.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/messaggi_finti.h"
+#include "tests/aiuti/testi.h"
 #include "ui/main/GUI_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/vistaElementi_win.h"
@@ -34,12 +35,11 @@ struct Banco {
     }
 
     void attendiSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     void attendiDomanda(Risposta risposta) {
-        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
-                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
+        messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
+                         risposta);
     }
     [[nodiscard]] std::wstring campo(CampoElemento campo, int indice) const {
         return std::wstring(griglia.tabella(campo, indice));

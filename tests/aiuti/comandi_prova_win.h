@@ -2,11 +2,12 @@
 
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <string>
 
 inline const RichiestaFile richiestaPagina{
-    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", 2050, L".htm"};
+    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", opzioniSalva, L".htm"};
 
 // The main window where the recorder stands for the browser and the mail program.
 class ProvaComandi : public ProvaFrmMain {
@@ -30,8 +31,8 @@ protected:
     }
 
     void attendiDomandaPagina(Risposta risposta, std::function<void()> intanto = {}) {
-        messaggi.attendi(L"Si desidera aprire il file salvato?", L"Salva come pagina Web...",
-                         Icona::Domanda, Pulsanti::SiNo, risposta, std::move(intanto));
+        messaggi.attendi(testi::domandaApri, testi::salvaPagina, Icona::Domanda, Pulsanti::SiNo,
+                         risposta, std::move(intanto));
     }
 
     Registratore registratore;

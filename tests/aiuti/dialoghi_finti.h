@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/errori/errore.h"
 #include "support/servizi/dialoghiFile.h"
 
 #include <deque>
@@ -49,19 +50,19 @@ private:
     std::wstring mostra(bool apertura, const RichiestaFile& richiesta) {
         if (attesi_.empty()) {
             ADD_FAILURE() << "unexpected file dialog: " << testing::PrintToString(richiesta.filtro);
-            sollevaDialogoAnnullato();
+            solleva(errori::dialogoAnnullato);
         }
         const Atteso a = attesi_.front();
         attesi_.pop_front();
         EXPECT_EQ(apertura, a.apertura);
         EXPECT_EQ(richiesta.filtro, a.richiesta.filtro);
-        EXPECT_EQ(richiesta.opzioni, a.richiesta.opzioni);
+        EXPECT_TRUE(richiesta.opzioni == a.richiesta.opzioni);
         EXPECT_EQ(richiesta.estensione, a.richiesta.estensione);
         if (a.intanto) {
             a.intanto();
         }
         if (!a.percorso) {
-            sollevaDialogoAnnullato();
+            solleva(errori::dialogoAnnullato);
         }
         return *a.percorso;
     }

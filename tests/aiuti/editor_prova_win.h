@@ -31,9 +31,6 @@ protected:
     void selettore(int id, DataOra valore) const;
     [[nodiscard]] bool aperta() const { return IsWindowVisible(finestra) != FALSE; }
 
-    static constexpr const wchar_t* dataNonValida =
-        L"Valore data/orario non valido. E' stata impostato come data/orario quella di sistema.";
-
     const DataOra adesso = DataOra::daParti(2005, 12, 1, 9, 8, 7);
     const DataOra ultima = DataOra::daParti(2005, 11, 15, 10, 0, 0);
     HWND proprietaria;

@@ -11,6 +11,7 @@
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/tabella_prova.h"
+#include "tests/aiuti/testi.h"
 #include "ui/main/FrmMain_win.h"
 
 #include "res/risorse.h"
@@ -23,12 +24,9 @@
 
 // The requests of the document commands' file dialogs.
 inline const RichiestaFile richiestaApri{
-    L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*", 4100, L""};
+    L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*", opzioniApri, L""};
 inline const RichiestaFile richiestaSalva{
-    L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*", 2050, L".xml"};
-
-inline constexpr const wchar_t* domandaSalvataggio =
-    L"Il documento è stato modificato. Si desidera salvare le modifiche?";
+    L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*", opzioniSalva, L".xml"};
 
 // The nine texts of the channel's frame, in the order of the form.
 inline constexpr std::array campiTesto{IDC_TXTTITOLO, IDC_TXTLINKHOME,  IDC_TXTDESCRIZIONE,
@@ -45,12 +43,13 @@ protected:
 
     // The question about unsaved changes comes and gets this answer.
     void attendiDomanda(Risposta risposta) {
-        messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda, Pulsanti::SiNoAnnulla,
-                         risposta);
+        messaggi.attendi(testi::domandaSalvataggio, testi::salvataggio, Icona::Domanda,
+                         Pulsanti::SiNoAnnulla, risposta);
     }
     void attendiErrore(std::int32_t numero, std::wstring testo) {
-        messaggi.attendi(std::move(testo), L"Errore n° " + std::to_wstring(numero), Icona::Critica);
+        messaggi.attendi(std::move(testo), testi::erroreNumero(numero), Icona::Critica);
     }
+    void attendiErrore(std::int32_t numero) { attendiErrore(numero, testi::diErrore(numero)); }
 
     // A control of the channel's frame.
     [[nodiscard]] HWND campo(int id) { return campi.controllo(id); }

@@ -5,7 +5,9 @@
 #include "document/clsItemRss.h"
 #include "document/elementi.h"
 #include "res/risorse.h"
+#include "support/errori/errore.h"
 #include "support/testi/testo.h"
+#include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
@@ -18,9 +20,6 @@ constexpr std::array dateElementi{L"Tue, 15 Nov 2005 10:00:00 +0100",
                                   L"Wed, 16 Nov 2005 23:59:59 +0000", L"ieri"};
 // Of Latin 1: beyond it the file's texts are written as references, and read back as these.
 constexpr std::wstring_view lettere = L"abcxyzàèìòùABC<&>\"'0123456789";
-constexpr std::wstring_view domandaCancella =
-    L"Si desidera cancellare realmente il contenuto selezionato?";
-constexpr std::wstring_view domandaApri = L"Si desidera aprire il file salvato?";
 constexpr int passiFraSorveglianze = 10; // milliseconds
 
 // Whose watch the timer keeps; a timer's procedure has no room for it.
@@ -93,16 +92,16 @@ std::wstring Scimmia::testoCaso(int massimo) {
 Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, Icona /*icona*/,
                          Pulsanti pulsanti) {
     if (pulsanti == Pulsanti::Ok) {
-        const bool noto = titolo == L"Attenzione" || titolo.starts_with(L"Errore");
+        const bool noto = titolo == testi::attenzione || titolo.starts_with(testi::errore);
         if (!noto || testo.empty()) {
             segnala("unknown message: " + inUtf8(titolo) + ": " + inUtf8(testo));
         }
         return Risposta::Ok;
     }
-    if (testo == domandaApri) {
+    if (testo == testi::domandaApri) {
         return Risposta::No;
     }
-    if (testo == domandaCancella) {
+    if (testo == testi::domandaCancella) {
         if (caso(4) == 0) {
             return Risposta::No;
         }
@@ -123,7 +122,7 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
 std::wstring Scimmia::percorsoCaso(bool salvataggio) {
     const int quale = caso(10);
     if (quale == 0) {
-        sollevaDialogoAnnullato();
+        solleva(errori::dialogoAnnullato);
     }
     if (quale == 1) {
         return cartella_.file(L"manca\\") + L"n.xml";

@@ -43,17 +43,18 @@ std::wstring senzaCommenti(const std::wstring& testo) {
     return risultato;
 }
 
-// Sources of what the program says: not the operations that nothing of it calls, nor what only a
-// form designer shows, nor the table of errors.
+// Sources of what the program says: not the operations that nothing of it calls, nor what the
+// numeric control publishes of its properties.
 std::vector<std::wstring> sorgenti() {
     std::vector<std::wstring> testi;
     for (const wchar_t* const cartella : {L"datetime", L"document", L"support", L"ui"}) {
         for (const auto& voce : std::filesystem::recursive_directory_iterator(
                  campione(std::wstring(L"../../") + cartella))) {
             const std::wstring nome = voce.path().filename().wstring();
-            const bool altrui = nome.starts_with(L"koUtilita") && nome != L"koUtilita_win.cpp";
-            if (voce.is_regular_file() && !altrui && !nome.starts_with(L"proprietaNumerico") &&
-                nome != L"errore.cpp") {
+            const bool altrui = nome.starts_with(L"koUtilita") &&
+                                nome != L"koUtilitaAvvio_win.cpp" &&
+                                nome != L"koUtilitaErrori_win.cpp";
+            if (voce.is_regular_file() && !altrui && !nome.starts_with(L"proprietaNumerico")) {
                 testi.push_back(senzaCommenti(daUtf8(leggiTutto(voce.path().wstring()))));
             }
         }
@@ -62,45 +63,49 @@ std::vector<std::wstring> sorgenti() {
     return testi;
 }
 
-// "name = 18343;"
-Numeri numeriDi(const std::wstring& testo) {
+// The numbers of errors by name: "name = 18343;" in their namespace.
+Numeri numeriDegliErrori(const std::vector<std::wstring>& testi) {
     Numeri numeri;
-    for (auto dove = testo.find(L"int32_t "); dove != std::wstring::npos;
-         dove = testo.find(L"int32_t ", dove + 1)) {
-        const std::wstring nome = nomeDa(testo, dove + 8);
-        const auto valore = dove + 8 + nome.size();
-        if (testo.compare(valore, 3, L" = ") == 0 && std::iswdigit(testo[valore + 3]) != 0) {
-            numeri[nome] = std::stoi(testo.substr(valore + 3));
+    for (const std::wstring& testo : testi) {
+        if (testo.find(L"namespace errori {") == std::wstring::npos) {
+            continue;
+        }
+        for (auto dove = testo.find(L"int32_t "); dove != std::wstring::npos;
+             dove = testo.find(L"int32_t ", dove + 1)) {
+            const std::wstring nome = nomeDa(testo, dove + 8);
+            const auto valore = dove + 8 + nome.size();
+            if (testo.compare(valore, 3, L" = ") == 0 && std::iswdigit(testo[valore + 3]) != 0) {
+                numeri[nome] = std::stoi(testo.substr(valore + 3));
+            }
         }
     }
     return numeri;
 }
 
-// The constant that the call around a place begins with: "Errore(name, ..." or "rifiuta(name, ...".
+// The error that a text stands beside in the table: "errori::name, L"...".
 int numeroAlPosto(const std::wstring& testo, std::size_t dove, const Numeri& numeri) {
-    const auto istruzione = testo.find_last_of(L";{}", dove);
-    const auto inizio = istruzione == std::wstring::npos ? 0 : istruzione;
-    for (const std::wstring_view chiamata : {L"Errore(", L"rifiuta("}) {
-        const auto aperta = testo.rfind(chiamata, dove);
-        if (aperta != std::wstring::npos && aperta > inizio) {
-            const auto numero = numeri.find(nomeDa(testo, aperta + chiamata.size()));
-            return numero == numeri.end() ? 0 : numero->second;
-        }
+    constexpr std::wstring_view prima = L"errori::";
+    const auto inizio = testo.rfind(prima, dove);
+    if (inizio == std::wstring::npos) {
+        return 0;
     }
-    return 0;
+    const std::wstring nome = nomeDa(testo, inizio + prima.size());
+    const auto numero = numeri.find(nome);
+    const bool accanto =
+        testo.find_first_not_of(L", \r\n", inizio + prima.size() + nome.size()) == dove;
+    return accanto && numero != numeri.end() ? numero->second : 0;
 }
 
 // A message is a sentence, or the part of one that stands before or after a name.
 bool messaggio(std::wstring_view testo) {
     constexpr int vuoti = 2;
-    return std::ranges::count(testo, L' ') >= vuoti && testo != L"    " &&
+    return std::ranges::count(testo, L' ') >= vuoti && !testo.starts_with(L' ') &&
            !testo.ends_with(L"...") &&
            (testo.starts_with(L": ") || testo.ends_with(L" in ") ||
             std::wstring_view(L".?!(").find(testo.back()) != std::wstring_view::npos);
 }
 
-void raccogli(const std::wstring& testo, std::vector<Messaggio>& messaggi) {
-    const Numeri numeri = numeriDi(testo);
+void raccogli(const std::wstring& testo, const Numeri& numeri, std::vector<Messaggio>& messaggi) {
     for (auto dove = testo.find(L"L\""); dove != std::wstring::npos;
          dove = testo.find(L"L\"", dove)) {
         const auto inizio = dove;
@@ -122,33 +127,31 @@ void raccogli(const std::wstring& testo, std::vector<Messaggio>& messaggi) {
 } // namespace
 
 std::vector<Messaggio> messaggiDelProgramma() {
+    const std::vector<std::wstring> testi = sorgenti();
+    const Numeri numeri = numeriDegliErrori(testi);
     std::vector<Messaggio> messaggi;
-    for (const std::wstring& testo : sorgenti()) {
-        raccogli(testo, messaggi);
+    for (const std::wstring& testo : testi) {
+        raccogli(testo, numeri, messaggi);
     }
     return messaggi;
 }
 
 std::set<int> erroriSollevati() {
-    // A grid of one column: no person's.
-    constexpr int divisionePerZero = errori::divisionePerZero;
+    constexpr int primoProprio = 1000;
     const std::vector<std::wstring> testi = sorgenti();
-    Numeri nomi;
-    for (const std::wstring& testo : testi) {
-        if (testo.find(L"namespace errori {") != std::wstring::npos) {
-            nomi = numeriDi(testo);
-        }
-    }
+    const Numeri nomi = numeriDegliErrori(testi);
     std::set<int> numeri;
     for (const std::wstring& testo : testi) {
         for (auto dove = testo.find(L"errori::"); dove != std::wstring::npos;
              dove = testo.find(L"errori::", dove + 1)) {
-            if (const auto nome = nomi.find(nomeDa(testo, dove + 8)); nome != nomi.end()) {
+            const auto nome = nomi.find(nomeDa(testo, dove + 8));
+            if (nome != nomi.end() && nome->second < primoProprio) {
                 numeri.insert(nome->second);
             }
         }
     }
-    numeri.erase(divisionePerZero);
-    numeri.erase(errori::dialogoAnnullato); // says nothing
+    // A grid of one column, a picture measured for no window: no person's.
+    numeri.erase(errori::divisionePerZero);
+    numeri.erase(errori::oggettoNonImpostato);
     return numeri;
 }

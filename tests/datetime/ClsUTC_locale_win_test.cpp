@@ -6,22 +6,34 @@
 
 #include <gtest/gtest.h>
 
-TEST(ClsUTCDiWindows, PrendeLOraDiAdessoEIlFormatoDellUtente) {
+namespace {
+
+DataOra dataDi(const SYSTEMTIME& tempo) {
+    return DataOra::daParti(tempo.wYear, tempo.wMonth, tempo.wDay, tempo.wHour, tempo.wMinute,
+                            tempo.wSecond);
+}
+
+} // namespace
+
+TEST(ClsUTCDiWindows, PrendeLOraDiAdessoELoScartoDellUtente) {
     SYSTEMTIME prima{};
-    GetSystemTime(&prima);
-    const ClsUTC utc;
     SYSTEMTIME locale{};
-    GetLocalTime(&locale);
-    const auto adesso = utc.adessoUtc();
-    const auto inizio = DataOra::daParti(prima.wYear, prima.wMonth, prima.wDay, prima.wHour,
-                                         prima.wMinute, prima.wSecond);
-    EXPECT_GE(adesso.secondi(), inizio.secondi());
-    EXPECT_LE(adesso.secondi(), inizio.secondi() + 60);
-    const auto oraLocale = DataOra::daParti(locale.wYear, locale.wMonth, locale.wDay, locale.wHour,
-                                            locale.wMinute, locale.wSecond);
-    EXPECT_GE(oraLocale.secondi(), utc.adessoLocale().secondi());
-    EXPECT_LE(oraLocale.secondi(), utc.adessoLocale().secondi() + 60);
-    EXPECT_EQ(utc.nDiffOre(), differenzaOre(utc.adessoUtc(), utc.adessoLocale()));
+    SYSTEMTIME dopo{};
+    DataOra adesso;
+    DataOra allaUna;
+    // Within one hour, or the offset may be counted before it and after.
+    do {
+        GetSystemTime(&prima);
+        const ClsUTC utc;
+        adesso = utc.adessoLocale();
+        allaUna = utc.ToDate(L"Tue, 15 Nov 2005 01:00:00 UTC");
+        GetLocalTime(&locale);
+        GetSystemTime(&dopo);
+    } while (prima.wHour != dopo.wHour);
+    EXPECT_GE(dataDi(locale).secondi(), adesso.secondi());
+    EXPECT_LE(dataDi(locale).secondi(), adesso.secondi() + 60);
+    EXPECT_EQ(allaUna,
+              DataOra::daParti(2005, 11, 15, 1 + differenzaOre(dataDi(prima), dataDi(locale))));
 }
 
 TEST(ClsUTCDiWindows, LaZonaSiLeggeConISeparatoriDellUtente) {

@@ -1,6 +1,7 @@
 #include "datetime/ClsUTC.h"
 
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <array>
 #include <random>
@@ -107,7 +108,7 @@ TEST(ClsUTC, UnaZonaNumericaSiControllaESiIgnora) {
         EXPECT_EQ(numeroErrore(L"Sat, 11 Jun 2005 15:00:00 " + std::wstring(zona)), 13);
     }
     EXPECT_EQ(numeroErrore(L"Sat, 11 Jun 2005 15:00:00 40000"), 6);
-    EXPECT_EQ(errore(L"Sat, 11 Jun 2005 15:00:00 Z").descrizione, L"Tipo non corrispondente");
+    EXPECT_EQ(errore(L"Sat, 11 Jun 2005 15:00:00 Z").descrizione, testi::diErrore(13));
 }
 
 TEST(ClsUTC, UnaParolaDopoLaZonaSiIgnora) {
@@ -127,16 +128,15 @@ TEST(ClsUTC, SenzaVirgolaOSenzaDuePuntiIlFormatoNonEValido) {
           L"Sat, 11 Jun 2005 1500", L"Sat, 11 Jun 2005 15:00 +0100"}) {
         const auto e = errore(testo);
         EXPECT_EQ(e.numero, 4453);
-        EXPECT_EQ(e.descrizione,
-                  L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
+        EXPECT_EQ(e.descrizione, testi::diErrore(4453));
     }
 }
 
 TEST(ClsUTC, UnMeseSconosciutoSiNominaInMaiuscolo) {
     const auto e = errore(L"Sat, 11 Xyz 2005 15:00:00 +0100");
     EXPECT_EQ(e.numero, 4454);
-    EXPECT_EQ(e.descrizione, L"XYZ: nome mese non valido.");
-    EXPECT_EQ(errore(L"Sat, 11 xèz").descrizione, L"XÈZ: nome mese non valido.");
+    EXPECT_EQ(e.descrizione, L"XYZ" + testi::diErrore(4454));
+    EXPECT_EQ(errore(L"Sat, 11 xèz").descrizione, L"XÈZ" + testi::diErrore(4454));
     EXPECT_EQ(numeroErrore(L"Sat, 11 June 2005 15:00:00 GMT"), 4454);
 }
 
@@ -208,7 +208,6 @@ TEST(ClsUTC, NonLocaleEOraUtcConLoScartoLocale) {
 TEST(ClsUTC, OgniScartoIntero) {
     for (int ore = -12; ore <= 14; ++ore) {
         const ClsUTC utc = conScarto(ore);
-        EXPECT_EQ(utc.nDiffOre(), ore);
         const int valore = ore < 0 ? -ore : ore;
         const std::wstring coda = std::wstring(ore < 0 ? L"--" : L"+") +
                                   (valore < 10 ? L"0" : L"") + std::to_wstring(valore) + L"00";
@@ -226,16 +225,17 @@ TEST(ClsUTC, OgniScartoIntero) {
 TEST(ClsUTC, ZoneDiMezzOraContanoIConfiniDiOra) {
     const auto scarto = [](int minutoUtc, int minuti) {
         const DataOra utc = DataOra::daParti(2005, 6, 11, 12, minutoUtc, 0);
-        return ClsUTC({utc, utc.piuSecondi(std::int64_t{minuti} * 60)}, {}).nDiffOre();
+        const ClsUTC qui({utc, utc.piuSecondi(std::int64_t{minuti} * 60)}, {});
+        return qui.GetDataUtc(giugno, true).substr(26);
     };
-    EXPECT_EQ(scarto(29, 330), 5);
-    EXPECT_EQ(scarto(30, 330), 6);
-    EXPECT_EQ(scarto(29, -210), -4);
-    EXPECT_EQ(scarto(30, -210), -3);
-    EXPECT_EQ(scarto(14, 345), 5);
-    EXPECT_EQ(scarto(15, 345), 6);
-    EXPECT_EQ(scarto(29, 570), 9);
-    EXPECT_EQ(scarto(59, 570), 10);
+    EXPECT_EQ(scarto(29, 330), L"+0500");
+    EXPECT_EQ(scarto(30, 330), L"+0600");
+    EXPECT_EQ(scarto(29, -210), L"--0400");
+    EXPECT_EQ(scarto(30, -210), L"--0300");
+    EXPECT_EQ(scarto(14, 345), L"+0500");
+    EXPECT_EQ(scarto(15, 345), L"+0600");
+    EXPECT_EQ(scarto(29, 570), L"+0900");
+    EXPECT_EQ(scarto(59, 570), L"+1000");
 }
 
 TEST(ClsUTC, GliAnniEstremi) {

@@ -2,6 +2,7 @@
 
 #include "tests/aiuti/sollevato.h"
 #include "tests/aiuti/tabella_prova.h"
+#include "tests/aiuti/testi.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +21,7 @@ TEST(ElementiDeiComandi, UnaTabellaVuotaNonSiScrive) {
         return 0;
     });
     EXPECT_EQ(vuota.numero, 12883);
-    EXPECT_EQ(vuota.descrizione, L"Per salvare il documento è necessario immettere almeno un "
-                                 L"contenuto. Salvataggio non consentito.");
+    EXPECT_EQ(vuota.descrizione, testi::diErrore(12883));
     dimensiona(tabella, 1);
     EXPECT_EQ(erroreDi([&] { richiediElementi(tabella); }), 0);
 }

@@ -1,6 +1,7 @@
 #include "support/windows/maniglie_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <winsock2.h>
 
@@ -154,8 +155,7 @@ TEST(LetturaFile, UnRiferimentoSenzaSostitutoNonSiCarica) {
         FeedDiProva d;
         const auto e = d.provaLeggi(cartella.scrivi(L"a.xml", intestazione + "<rss><channel>" +
                                                                   canale + "</channel></rss>"));
-        EXPECT_TRUE(e.numero == 0 ||
-                    e.descrizione.ends_with(L"\\A.XML: impossibile caricare il documento."));
+        EXPECT_TRUE(e.numero == 0 || e.descrizione.ends_with(L"\\A.XML" + testi::diErrore(18343)));
         EXPECT_EQ(d.title, e.numero == 0 ? L"t" : L"");
         return e.numero;
     };
@@ -250,7 +250,7 @@ TEST(LetturaFile, TrecentoCaratteriSiApronoOSiRifiutano) {
         EXPECT_EQ(scritto.numero, 0);
         EXPECT_EQ(riletto.title, L"x");
     } else {
-        EXPECT_TRUE(letto.descrizione.ends_with(L".XML: impossibile caricare il documento."));
+        EXPECT_TRUE(letto.descrizione.ends_with(L".XML" + testi::diErrore(18343)));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -95,7 +96,7 @@ TEST_F(Lettura, SenzaUnSoloRssConUnSoloCanaleIlFormatoNonEValido) {
         EXPECT_EQ(e.numero, 18344) << testo;
         std::wstring su = percorso;
         CharUpperBuffW(su.data(), static_cast<DWORD>(su.size()));
-        EXPECT_EQ(inUtf8(e.descrizione), inUtf8(su + L": formato non valido."));
+        EXPECT_EQ(inUtf8(e.descrizione), inUtf8(su + testi::diErrore(18344)));
     }
 }
 
@@ -117,7 +118,7 @@ TEST_F(Lettura, CioCheNonSiCaricaLasciaTuttoVuoto) {
         dimensiona(d.items, 3);
         const auto e = leggi(testo);
         EXPECT_EQ(e.numero, 18343) << testo;
-        EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML: impossibile caricare il documento."))
+        EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML" + testi::diErrore(18343)))
             << inUtf8(e.descrizione);
         for (const auto* const campo : d.canale()) {
             EXPECT_EQ(*campo, L"");
@@ -132,7 +133,7 @@ TEST_F(Lettura, CioCheNonSiCaricaLasciaTuttoVuoto) {
 TEST_F(Lettura, DueImmaginiNonSonoSupportateEIlCanaleRestaLetto) {
     const auto e = leggiCanale("<image/><title>T</title><image/><item/>");
     EXPECT_EQ(e.numero, 18345);
-    EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML: formato non supportato."));
+    EXPECT_TRUE(e.descrizione.ends_with(L"\\PROVA.XML" + testi::diErrore(18345)));
     EXPECT_EQ(d.title, L"T");
     EXPECT_EQ(d.items.conteggio(), 0);
     EXPECT_FALSE(d.image.Modificato());
@@ -311,10 +312,12 @@ TEST_F(Lettura, IMessaggiHannoIlPercorsoTuttoInMaiuscolo) {
         const auto e = d.provaLeggi(file);
         return inUtf8(e.descrizione.substr(file.rfind(L'\\')));
     };
-    EXPECT_EQ(descrizione("<rss>"), "\\CITTÀ È ÑANDÚ €.XML: impossibile caricare il documento.");
-    EXPECT_EQ(descrizione("<rss/>"), "\\CITTÀ È ÑANDÚ €.XML: formato non valido.");
-    EXPECT_EQ(descrizione(rssCon("<image/><image/>")),
-              "\\CITTÀ È ÑANDÚ €.XML: formato non supportato.");
+    const auto attesa = [](std::int32_t numero) {
+        return inUtf8(L"\\CITTÀ È ÑANDÚ €.XML" + testi::diErrore(numero));
+    };
+    EXPECT_EQ(descrizione("<rss>"), attesa(18343));
+    EXPECT_EQ(descrizione("<rss/>"), attesa(18344));
+    EXPECT_EQ(descrizione(rssCon("<image/><image/>")), attesa(18345));
 }
 
 TEST_F(Lettura, ElementiSenzaTitoloDelCanale) {

@@ -8,6 +8,7 @@
 #include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -261,7 +262,7 @@ TEST_F(Scrittura, UnFileDiSolaLetturaResta) {
     ASSERT_TRUE(SetFileAttributesW(esistente.c_str(), FILE_ATTRIBUTE_READONLY));
     const auto e = d.provaScrivi(esistente);
     EXPECT_EQ(e.numero, 75);
-    EXPECT_EQ(e.descrizione, L"Errore di accesso al percorso/file");
+    EXPECT_EQ(e.descrizione, testi::diErrore(75));
     EXPECT_EQ(leggiTutto(esistente), "prima");
 }
 
@@ -363,7 +364,7 @@ TEST_F(Scrittura, SuUnDiscoPienoErrore61) {
     const auto e = d.provaScrivi(file);
     DeleteFileW(file.c_str());
     EXPECT_EQ(e.numero, 61);
-    EXPECT_EQ(e.descrizione, L"Disco pieno");
+    EXPECT_EQ(e.descrizione, testi::diErrore(61));
     // With room it is no error.
     d.description = L"x";
     EXPECT_EQ(d.provaScrivi(file).numero, 0);
@@ -371,7 +372,7 @@ TEST_F(Scrittura, SuUnDiscoPienoErrore61) {
 }
 
 TEST(ParserXml, SiTrova) {
-    EXPECT_TRUE(parserXmlPresente());
+    EXPECT_TRUE(ParserXmlPresente());
 }
 
 // A thread that has not entered COM can create nothing.
@@ -383,7 +384,7 @@ TEST(ParserXml, SeMancaLErroreE429) {
     const CartellaProva cartella;
     const auto esistente = cartella.scrivi(L"a.xml", rssCon(""));
     std::thread([&] {
-        presente = parserXmlPresente();
+        presente = ParserXmlPresente();
         nuovo = sollevatoDa([] { return DocumentoXml(); });
         FeedDiProva d;
         lettura = d.provaLeggi(esistente);
@@ -392,7 +393,7 @@ TEST(ParserXml, SeMancaLErroreE429) {
     EXPECT_FALSE(presente);
     for (const auto& e : {nuovo, lettura, scrittura}) {
         EXPECT_EQ(e.numero, 429);
-        EXPECT_EQ(e.descrizione, L"Il componente ActiveX non può creare l'oggetto");
+        EXPECT_EQ(e.descrizione, testi::diErrore(429));
     }
     EXPECT_EQ(leggiTutto(esistente), rssCon(""));
 }

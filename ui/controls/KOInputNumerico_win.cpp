@@ -1,6 +1,6 @@
 #include "ui/controls/KOInputNumerico_win.h"
 
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaNumeri.h"
 #include "support/windows/errori_win.h"
 
 #include <commctrl.h>
@@ -251,9 +251,10 @@ std::pair<DWORD, DWORD> KOInputNumerico::selezione() const noexcept {
 
 wchar_t KOInputNumerico::filtra(wchar_t tasto) const {
     const auto [inizio, fine] = selezione();
-    return regole_.filtra(tasto, campo_.testo(), fine - inizio,
-                          {koUtilita::GetSeparatoreDecimale(), koUtilita::GetSeparatoreMigliaia()},
-                          formatoUtente());
+    return regole_.filtra(
+        tasto, campo_.testo(), fine - inizio,
+        {koUtilitaNumeri::GetSeparatoreDecimale(), koUtilitaNumeri::GetSeparatoreMigliaia()},
+        formatoUtente());
 }
 
 LRESULT KOInputNumerico::colori(HDC dc) const noexcept {

@@ -86,7 +86,7 @@ void FrmEditFeed::CaricaDati() {
     } catch (const std::exception&) {
         messaggi_.avvisa(L"Valore data/orario non valido. E' stata impostato come data/orario "
                          L"quella di sistema.",
-                         L"Attenzione", Icona::Informazione);
+                         titoli::attenzione, Icona::Informazione);
         txtData_.valore(orologio_.adesso().locale);
         txtOrario_.valore(orologio_.adesso().locale);
     }
@@ -143,7 +143,7 @@ void FrmEditFeed::cmdAnnulla_Click() {
 }
 
 void FrmEditFeed::rifiuta(const wchar_t* testo) {
-    messaggi_.avvisa(testo, L"Attenzione", Icona::Critica);
+    messaggi_.avvisa(testo, titoli::attenzione, Icona::Critica);
 }
 
 std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, DataOra ultimaData) {

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr REGSAM lettura = 0x20019;
-
 // The bytes from the last to the first, in hexadecimal without leading zeros, as one number; none
 // when it has more than 64 bits, which only a number value of a wrong size can have.
 std::optional<std::uint64_t> numero(std::string_view byte) noexcept {
@@ -97,7 +95,7 @@ bool avviaInfoSistema() noexcept {
 bool GetKeyValue(HKEY radice, const std::wstring& percorso, const std::wstring& nome,
                  std::wstring& valore) {
     HKEY maniglia = nullptr;
-    if (RegOpenKeyExA(radice, inAnsi(percorso).c_str(), 0, lettura, &maniglia) != ERROR_SUCCESS) {
+    if (RegOpenKeyExA(radice, inAnsi(percorso).c_str(), 0, KEY_READ, &maniglia) != ERROR_SUCCESS) {
         return false;
     }
     const ChiaveRegistro chiave(maniglia);
@@ -127,7 +125,7 @@ bool GetKeyValue(HKEY radice, const std::wstring& percorso, const std::wstring& 
 
 void StartSysInfo(Messaggi& messaggi) {
     if (!avviaInfoSistema()) {
-        messaggi.avvisa(L"Le informazioni sul sistema non sono attualmente disponibili.", L"Errore",
-                        Icona::Critica);
+        messaggi.avvisa(L"Le informazioni sul sistema non sono attualmente disponibili.",
+                        titoli::errore, Icona::Critica);
     }
 }

@@ -7,7 +7,7 @@
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
-#include "support/utilita/koUtilita.h"
+#include "support/utilita/koUtilitaPercorsi.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
 #include "support/windows/guardia_win.h"
@@ -77,14 +77,14 @@ bool premeConInvio(const MSG& msg) noexcept {
 } // namespace
 
 bool FrmMain::Form_Initialize(Messaggi& messaggi) {
-    if (parserXmlPresente()) {
+    if (ParserXmlPresente()) {
         return true;
     }
     messaggi.avvisa(L"Per poter utilizzare il programma è necessario che sul sistema sia presente "
                     L"il Parser Microsoft XML 3.0 o versione successiva (msxml3.dll). E' possibile "
                     L"scaricare liberamente tale componente dal sito della Microsoft (" +
                         std::wstring(prodotto::sitoParser) + L")",
-                    L"Attenzione", Icona::Informazione);
+                    titoli::attenzione, Icona::Informazione);
     return false;
 }
 
@@ -256,7 +256,7 @@ void FrmMain::Form_Load() {
     ImpostaStato(utc.GetDataUtc(utc.adessoLocale(), true));
     NuovoDocumento();
     std::wstring cartella = cartellaProgramma();
-    sfondo_ = GUI::ApplicaSfondo(koUtilita::AggiungiSepDir(cartella));
+    sfondo_ = GUI::ApplicaSfondo(koUtilitaPercorsi::AggiungiSepDir(cartella));
     CaricaRecenti();
 }
 
@@ -301,7 +301,7 @@ void FrmMain::CaricaRecenti() {
 void FrmMain::MostraErrore() {
     const Errore errore = erroreCorrente();
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    servizi_.messaggi.avvisa(errore.descrizione(), L"Errore n° " + std::to_wstring(errore.numero()),
+    servizi_.messaggi.avvisa(errore.descrizione(), titoli::erroreNumero(errore.numero()),
                              Icona::Critica);
 }
 

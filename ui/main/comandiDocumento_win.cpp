@@ -20,12 +20,10 @@
 
 namespace {
 
-constexpr std::int32_t fileRecenteMancante = 8292;
-
-const RichiestaFile richiestaApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*",
-                                  4100, L""};
-const RichiestaFile richiestaSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
-                                   2050, L".xml"};
+const RichiestaFile dlgApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File (*.*)|*.*",
+                            opzioniApri, L""};
+const RichiestaFile dlgSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
+                             opzioniSalva, L".xml"};
 
 } // namespace
 
@@ -59,10 +57,9 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
                 return;
             }
             if (!percorso.empty() && !fileEsiste(percorso)) {
-                throw Errore(fileRecenteMancante,
-                             maiuscolo(percorso) + L": impossibile trovare il file.");
+                solleva(errori::recenteMancante, maiuscolo(percorso));
             }
-            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(richiestaApri) : percorso);
+            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso);
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
@@ -111,7 +108,7 @@ bool ComandiDocumento::Salva(bool conNome) {
             richiediElementi(documento_.elementi());
             std::wstring percorso(rifila(campi_.Tag()));
             if (conNome || percorso.empty()) {
-                percorso = servizi_.dialoghi.salva(richiestaSalva);
+                percorso = servizi_.dialoghi.salva(dlgSalva);
             }
             const Clessidra clessidra;
             try {

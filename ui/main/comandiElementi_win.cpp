@@ -10,7 +10,7 @@
 #include "ui/dialogs/editorElementi.h"
 
 void avvisaNessunaSelezione(Messaggi& messaggi) {
-    messaggi.avvisa(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+    messaggi.avvisa(L"E' necessario selezionare un elemento dalla griglia.", titoli::attenzione,
                     Icona::Informazione);
 }
 
@@ -65,7 +65,7 @@ void ComandiElementi::cmdModifica_Click() {
 void ComandiElementi::cmdCancella_Click() {
     conSelezionato([&](int selezionato) {
         if (messaggi_.mostra(L"Si desidera cancellare realmente il contenuto selezionato?",
-                             L"Attenzione", Icona::Domanda, Pulsanti::SiNo) == Risposta::Si) {
+                             titoli::attenzione, Icona::Domanda, Pulsanti::SiNo) == Risposta::Si) {
             documento_.applica(documento_.rimozione(selezionato));
         }
     });

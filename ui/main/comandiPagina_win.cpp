@@ -17,8 +17,8 @@
 
 namespace {
 
-const RichiestaFile richiestaPagina{
-    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", 2050, L".htm"};
+const RichiestaFile dlgSalvaPagina{
+    L"Pagina Web (*.htm; *.html)|*.htm; *.html|Tutti i File (*.*)|*.*", opzioniSalva, L".htm"};
 
 } // namespace
 
@@ -26,7 +26,7 @@ void ComandiPagina::EsportaHTML() {
     protetto(
         [&] {
             richiediElementi(documento_.elementi());
-            const std::wstring percorso = servizi_.dialoghi.salva(richiestaPagina);
+            const std::wstring percorso = servizi_.dialoghi.salva(dlgSalvaPagina);
             if (stessoFile(percorso, campi_.Tag())) {
                 // The page would take the feed's place on disk, and closing would not ask.
                 solleva(errori::fileGiaAperto);

@@ -5,6 +5,7 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/immagini_prova.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -16,7 +17,8 @@
 namespace {
 
 const RichiestaFile richiesta{
-    L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", 4100, L""};
+    L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", opzioniApri,
+    L""};
 
 using Misura = std::pair<std::int32_t, std::int32_t>;
 
@@ -189,15 +191,14 @@ TEST(SizerImg, UnPercorsoCheNonEsisteNonChiede) {
     const std::wstring file = cartella.file(L"città.jpg");
     const auto [numero, testo] = erroreDi([&] { sizer.LeggiImg(file); });
     EXPECT_EQ(numero, 8876);
-    EXPECT_TRUE(testo.ends_with(L"\\CITTÀ.JPG: file non trovato.")) << inUtf8(testo);
+    EXPECT_TRUE(testo.ends_with(L"\\CITTÀ.JPG" + testi::diErrore(8876))) << inUtf8(testo);
     // A folder is no file.
     EXPECT_EQ(erroreDi([&] { sizer.LeggiImg(cartella.percorso()); }).first, 8876);
 }
 
 TEST(SizerImg, SenzaDialogoE8875) {
     ClsSizerImg sizer;
-    EXPECT_EQ(erroreDi([&] { sizer.LeggiImg(L""); }),
-              std::pair(8875, std::wstring(L"E' necessario valorizzare la proprietà objDlg.")));
+    EXPECT_EQ(erroreDi([&] { sizer.LeggiImg(L""); }), std::pair(8875, testi::diErrore(8875)));
 }
 
 TEST(SizerImg, SenzaImmaginePrimaChiedePoiE8874) {
@@ -205,8 +206,7 @@ TEST(SizerImg, SenzaImmaginePrimaChiedePoiE8874) {
     dialoghi.attendiApri(richiesta, L"c:\\a.jpg");
     ClsSizerImg sizer;
     sizer.objDlg(dialoghi);
-    EXPECT_EQ(erroreDi([&] { sizer.LeggiImg(L""); }),
-              std::pair(8874, std::wstring(L"E' necessario valorizzare la proprietà objImg.")));
+    EXPECT_EQ(erroreDi([&] { sizer.LeggiImg(L""); }), std::pair(8874, testi::diErrore(8874)));
 }
 
 TEST(SizerImg, AnnullareSolleva32755ENonCaricaNulla) {

@@ -21,13 +21,13 @@ TEST(DialoghiFile, LEstensionePerdeIlSuoPunto) {
 
 TEST(DialoghiFile, AnnullareSollevaIlSuoErrore) {
     DialoghiFinti dialoghi;
-    dialoghi.attendiApri({L"A|*.a", 4100, L""}, std::nullopt);
-    dialoghi.attendiSalva({L"A|*.a", 2050, L".a"}, L"c:\\x.a");
+    dialoghi.attendiApri({L"A|*.a", opzioniApri, L""}, std::nullopt);
+    dialoghi.attendiSalva({L"A|*.a", opzioniSalva, L".a"}, L"c:\\x.a");
     try {
-        static_cast<void>(dialoghi.apri({L"A|*.a", 4100, L""}));
+        static_cast<void>(dialoghi.apri({L"A|*.a", opzioniApri, L""}));
         ADD_FAILURE();
     } catch (const Errore& errore) {
         EXPECT_EQ(errore.numero(), 32755);
     }
-    EXPECT_EQ(dialoghi.salva({L"A|*.a", 2050, L".a"}), L"c:\\x.a");
+    EXPECT_EQ(dialoghi.salva({L"A|*.a", opzioniSalva, L".a"}), L"c:\\x.a");
 }

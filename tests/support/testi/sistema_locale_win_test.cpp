@@ -1,6 +1,7 @@
 #include "support/testi/formato.h"
 #include "support/testi/numeri.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -66,7 +67,7 @@ TEST(NumeriDiSistema, CioCheNonENumeroEErrore13ETroppoGrandeErrore6) {
         EXPECT_EQ(erroreInt16(testo), 6) << testing::PrintToString(testo);
     }
     EXPECT_EQ(sollevatoDa([] { return testoAInt16(L"Z", Lingua::Utente); }).descrizione,
-              L"Tipo non corrispondente");
+              testi::diErrore(13));
 }
 
 // A text goes to Windows without its length.

@@ -8,6 +8,7 @@
 #include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -115,7 +116,7 @@ TEST(KoUtilitaWriteAccess, UnaCartellaDiSolaLetturaSiDice) {
         GTEST_SKIP() << "no volume that cannot be written";
     }
     MessaggiFinti messaggi;
-    messaggi.attendi(L"Errore di accesso al percorso/file", L"Errore # 75", Icona::Critica);
+    messaggi.attendi(testi::diErrore(75), L"Errore # 75", Icona::Critica);
     EXPECT_FALSE(koUtilita(messaggi).WriteAccess(*disco));
 }
 
@@ -130,7 +131,7 @@ TEST(KoUtilitaWriteAccess, IlFileDellUtenteConQuelNomeResta) {
         const ManigliaFile tenuto(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         ASSERT_TRUE(tenuto);
-        messaggi.attendi(L"Autorizzazione negata", L"Errore # 70", Icona::Critica);
+        messaggi.attendi(testi::diErrore(70), L"Errore # 70", Icona::Critica);
         EXPECT_FALSE(koUtilita(messaggi).WriteAccess(cartella.percorso()));
     }
     EXPECT_EQ(leggiTutto(file), "mio");
@@ -141,7 +142,7 @@ TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
     for (const std::wstring& quale :
          {cartella.file(L"manca"), std::wstring(), std::wstring(L" ")}) {
         MessaggiFinti messaggi;
-        messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
+        messaggi.attendi(testi::diErrore(76), L"Errore # 76", Icona::Critica);
         EXPECT_FALSE(koUtilita(messaggi).WriteAccess(quale));
     }
 }
@@ -149,7 +150,7 @@ TEST(KoUtilitaWriteAccess, UnaCartellaCheMancaSiDice) {
 TEST(KoUtilitaWriteAccess, UnNomeTroppoLungoSiDice) {
     const std::wstring lungo = koUtilita::CurDirApp() + std::wstring(1000, L'x');
     MessaggiFinti messaggi;
-    messaggi.attendi(L"Impossibile trovare il percorso", L"Errore # 76", Icona::Critica);
+    messaggi.attendi(testi::diErrore(76), L"Errore # 76", Icona::Critica);
     EXPECT_FALSE(koUtilita(messaggi).WriteAccess(lungo));
 }
 

@@ -2,12 +2,13 @@
 
 #include "support/errori/errore.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <gtest/gtest.h>
 
 TEST(KoUtilitaErrori, MessaggioErroreITAELaTabellaDegliErroriSollevati) {
-    EXPECT_EQ(koUtilita::MessaggioErroreITA(3), L"Return senza GoSub");
-    EXPECT_EQ(koUtilita::MessaggioErroreITA(5), L"Chiamata di routine o argomento non valido");
+    EXPECT_EQ(koUtilita::MessaggioErroreITA(3), testi::diErrore(3));
+    EXPECT_EQ(koUtilita::MessaggioErroreITA(5), testi::diErrore(5));
     for (std::int32_t numero = 0; numero < 1000; ++numero) {
         const auto sollevato = sollevatoDa([numero]() -> int { solleva(numero); });
         EXPECT_EQ(koUtilita::MessaggioErroreITA(numero), sollevato.descrizione);

@@ -2,6 +2,7 @@
 
 #include "support/windows/com_win.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <map>
 #include <new>
@@ -53,7 +54,7 @@ TEST(ErroriDiWindows, SollevaLUltimoErrore) {
     SetLastError(ERROR_DISK_FULL);
     const auto e = sollevatoDa([]() -> int { sollevaWin32(); });
     EXPECT_EQ(e.numero, 61);
-    EXPECT_EQ(e.descrizione, L"Disco pieno");
+    EXPECT_EQ(e.descrizione, testi::diErrore(61));
 }
 
 TEST(ErroriDiWindows, GliHresultNoti) {
@@ -71,14 +72,14 @@ TEST(ErroriDiWindows, GliHresultNoti) {
 TEST(ErroriDiWindows, GliAltriHresultSonoSeStessi) {
     const Errore e = erroreHresult(E_FAIL);
     EXPECT_EQ(e.numero(), -2147467259);
-    EXPECT_EQ(e.descrizione(), L"Errore di automazione");
+    EXPECT_EQ(e.descrizione(), testi::diErrore(440));
 }
 
 TEST(ErroriDiWindows, LaDescrizioneDelComponente) {
     lasciaDescrizione(L"detto dal componente");
     EXPECT_EQ(erroreHresult(E_FAIL).descrizione(), L"detto dal componente");
     // It was taken away.
-    EXPECT_EQ(erroreHresult(E_FAIL).descrizione(), L"Errore di automazione");
+    EXPECT_EQ(erroreHresult(E_FAIL).descrizione(), testi::diErrore(440));
     // A low word that the table lacks keeps the component's own words.
     lasciaDescrizione(L"detto dal componente");
     const Errore e = erroreHresult(hresult(0x800A1234));
@@ -97,5 +98,5 @@ TEST(ErroriDiWindows, LErroreCorrente) {
     EXPECT_EQ(corrente(Errore(18343, L"x")).descrizione(), L"x");
     EXPECT_EQ(corrente(std::bad_alloc()).numero(), 7);
     EXPECT_EQ(corrente(std::runtime_error("x")).numero(), 440);
-    EXPECT_EQ(corrente(1).descrizione(), L"Errore di automazione");
+    EXPECT_EQ(corrente(1).descrizione(), testi::diErrore(440));
 }

@@ -2,6 +2,7 @@
 
 #include "support/errori/errore.h"
 #include "tests/aiuti/formati.h"
+#include "tests/aiuti/testi.h"
 
 #include <limits>
 #include <string>
@@ -28,7 +29,7 @@ std::int32_t numeroDi(Azione azione) {
         azione();
         return 0;
     } catch (const Errore& errore) {
-        EXPECT_EQ(errore.descrizione(), L"Valore di proprietà non valido");
+        EXPECT_EQ(errore.descrizione(), testi::diErrore(380));
         return errore.numero();
     }
 }

@@ -3,6 +3,7 @@
 #include "support/servizi/messaggi_win.h"
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,7 @@ TEST_F(FrmEditFeedDate, DopoIlMessaggioSullaDataLaProprietariaAspettaAncora) {
     MessaggiWindows veri;
     FrmEditFeed conMessaggio(veri, orologio, ultima);
     conMessaggio.Elemento().sPubDate(L"ieri");
-    const QuandoAppare messaggio(L"#32770", L"Attenzione", [&](HWND riquadro) {
+    const QuandoAppare messaggio(L"#32770", testi::attenzione, [&](HWND riquadro) {
         // Told before the dialog is seen.
         EXPECT_EQ(finestra, nullptr);
         EXPECT_FALSE(IsWindowEnabled(proprietaria));
@@ -96,7 +97,7 @@ TEST_F(FrmEditFeedDate, UnaDataCheNonSiLeggeDiventaAdesso) {
           L"Sat, 11 Jan 1500 15:00:00 +0100", L"Sat, 13 Sep 1752 15:00:00 +0100"}) {
         SCOPED_TRACE(testing::PrintToString(data));
         editor.Elemento().sPubDate(data);
-        messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione);
+        messaggi.attendi(testi::dataReimpostata, testi::attenzione, Icona::Informazione);
         usa([&] {
             EXPECT_EQ(selettore(IDC_EDITDATA), adesso);
             EXPECT_EQ(selettore(IDC_EDITORARIO), adesso);
@@ -110,8 +111,8 @@ TEST_F(FrmEditFeedDate, UnaDataCheNonSiLeggeDiventaAdesso) {
 TEST_F(FrmEditFeedDate, AdessoEQuandoIlMessaggioEStatoLetto) {
     const auto dopo = DataOra::daParti(2005, 12, 2, 0, 0, 1);
     editor.Elemento().sPubDate(L"ieri");
-    messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione, Pulsanti::Ok, Risposta::Ok,
-                     [&] { orologio.locale(dopo); });
+    messaggi.attendi(testi::dataReimpostata, testi::attenzione, Icona::Informazione, Pulsanti::Ok,
+                     Risposta::Ok, [&] { orologio.locale(dopo); });
     usa([&] {
         EXPECT_EQ(selettore(IDC_EDITDATA), dopo);
         EXPECT_EQ(selettore(IDC_EDITORARIO), dopo);

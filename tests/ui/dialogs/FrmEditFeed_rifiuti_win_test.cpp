@@ -1,5 +1,6 @@
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <array>
 
@@ -29,7 +30,7 @@ TEST_F(FrmEditFeedRifiuti, UnTestoCheNessunFeedTieneSiRifiutaNelSuoCampo) {
         for (const Caso& caso : casi) {
             const std::wstring buono = testo(caso.campo);
             imposta(caso.campo, caso.valore);
-            messaggi.attendi(caso.messaggio, L"Errore  5", Icona::Informazione);
+            messaggi.attendi(caso.messaggio, testi::erroreDetto(5), Icona::Informazione);
             clic(controllo(IDC_CMDSALVA));
             ASSERT_TRUE(aperta());
             EXPECT_EQ(GetFocus(), controllo(caso.campo));

@@ -2,6 +2,7 @@
 
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 #include "ui/controls/sottoclasse_win.h"
 
 #include <commctrl.h>
@@ -81,8 +82,7 @@ TEST_F(FrmEditFeedModale, SenzaTitoloRestaApertaCoiTesti) {
     usa([&] {
         compila(L"   ", L"   ");
         imposta(IDC_EDITAUTORE, L"autore");
-        messaggi.attendi(L"E' obbligatorio indicare il Titolo. Impossibile salvare.", L"Attenzione",
-                         Icona::Critica);
+        messaggi.attendi(testi::titoloMancante, testi::attenzione, Icona::Critica);
         clic(controllo(IDC_CMDSALVA));
         EXPECT_TRUE(aperta());
         EXPECT_EQ(testo(IDC_EDITTITOLO), L"   ");
@@ -95,8 +95,7 @@ TEST_F(FrmEditFeedModale, SenzaTitoloRestaApertaCoiTesti) {
 TEST_F(FrmEditFeedModale, SenzaLinkRestaAperta) {
     usa([&] {
         compila(L"titolo", L"  ");
-        messaggi.attendi(L"E' obbligatorio indicare il link. Impossibile salvare.", L"Attenzione",
-                         Icona::Critica);
+        messaggi.attendi(testi::linkMancante, testi::attenzione, Icona::Critica);
         clic(controllo(IDC_CMDSALVA));
         EXPECT_TRUE(aperta());
         imposta(IDC_EDITLINK, L"link");
@@ -251,8 +250,7 @@ TEST_F(FrmEditFeedModale, UnErroreNelSalvareSiDiceELasciaAperto) {
         compila(L"titolo", L"link");
         {
             const Sottoclasse guasto(controllo(IDC_EDITORARIO), muto);
-            messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380",
-                             Icona::Informazione);
+            messaggi.attendi(testi::diErrore(380), testi::erroreDetto(380), Icona::Informazione);
             premi(VK_RETURN);
             EXPECT_TRUE(aperta());
             EXPECT_TRUE(editor.Annullato());
@@ -308,8 +306,7 @@ TEST_F(FrmEditFeedModale, UnTitoloDiUnMegabyteEUnoDiSoliSpazi) {
     editor.Elemento().sTitle(lungo);
     editor.Elemento().sLink(std::wstring(1 << 20, L' '));
     usa([&] {
-        messaggi.attendi(L"E' obbligatorio indicare il link. Impossibile salvare.", L"Attenzione",
-                         Icona::Critica);
+        messaggi.attendi(testi::linkMancante, testi::attenzione, Icona::Critica);
         premi(VK_RETURN);
         EXPECT_TRUE(aperta());
         imposta(IDC_EDITLINK, L"  " + lungo + L" ");

@@ -9,6 +9,7 @@
 #include "tests/aiuti/proprietariaShell_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <algorithm>
 #include <functional>
@@ -202,7 +203,8 @@ TEST_F(frmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
 
 TEST_F(frmAboutAperta, UnSitoCheNonSiApreSiDice) {
     SetWindowTextW(controllo(IDC_LBLSITO), L"Z:\\non c'è.htm");
-    messaggi.attendi(L"Z:\\non c'è.htm: file non trovato!", L"Errore", Icona::Critica);
+    messaggi.attendi(std::wstring(L"Z:\\non c'è.htm") + testi::fileNonTrovato, testi::errore,
+                     Icona::Critica);
     clic(controllo(IDC_LBLSITO));
     EXPECT_NE(about.hwnd(), nullptr);
 }
@@ -287,8 +289,7 @@ TEST_F(frmAboutAperta, LIconaEQuellaDelProgramma) {
 TEST_F(frmAboutAperta, SystemInfoSenzaProgrammaLoDice) {
     const ChiaveSalvata msinfo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO");
     const ChiaveSalvata luogo(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Shared Tools Location");
-    messaggi.attendi(L"Le informazioni sul sistema non sono attualmente disponibili.", L"Errore",
-                     Icona::Critica);
+    messaggi.attendi(testi::senzaInfoSistema, testi::errore, Icona::Critica);
     clic(controllo(IDC_CMDSYSINFO));
     EXPECT_NE(about.hwnd(), nullptr);
 }

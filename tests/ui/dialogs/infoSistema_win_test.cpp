@@ -6,6 +6,7 @@
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/registratore_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <filesystem>
 #include <optional>
@@ -52,8 +53,7 @@ class StartSysInfoRegistro : public testing::Test {
 protected:
     static void deveFallire() {
         MessaggiFinti messaggi;
-        messaggi.attendi(L"Le informazioni sul sistema non sono attualmente disponibili.",
-                         L"Errore", Icona::Critica);
+        messaggi.attendi(testi::senzaInfoSistema, testi::errore, Icona::Critica);
         StartSysInfo(messaggi);
     }
     // The start of this recorder; it is gone when this returns.

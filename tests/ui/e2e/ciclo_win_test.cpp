@@ -9,6 +9,7 @@
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 #include "ui/main/comandi.h"
 
 #include <windows.h>
@@ -230,7 +231,7 @@ TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
         Programma programma;
         programma.scriviIn(programma.campo(IDC_TXTTITOLO), L"da buttare");
         premi('N', {VK_CONTROL});
-        programma.rispondi(L"Salvataggio", IDNO);
+        programma.rispondi(testi::salvataggio, IDNO);
         EXPECT_TRUE(attendiChe(
             [&] { return Programma::testoNel(programma.campo(IDC_TXTTITOLO)).empty(); }));
         for (const auto& [id, testo] : canale) {
@@ -263,7 +264,7 @@ TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
         programma.attendiScelta(3);
         for (const int risposta : {IDNO, IDYES}) {
             clic(programma.pulsante(mnDelFeed));
-            programma.rispondi(L"Attenzione", risposta);
+            programma.rispondi(testi::attenzione, risposta);
         }
         programma.attendiScelta(2);
 

@@ -1,5 +1,6 @@
 #include "tests/aiuti/frmMainVera_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
@@ -62,7 +63,7 @@ private:
 
 TEST_F(FrmMainVera, MentreLaDomandaEApertaNonSiChiude) {
     modifica();
-    const QuandoAppare domanda(boxWindows, L"Salvataggio", [&](HWND box) {
+    const QuandoAppare domanda(boxWindows, testi::salvataggio, [&](HWND box) {
         insisti();
         PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
     });
@@ -105,11 +106,11 @@ TEST_F(FrmMainVera, ChiusoLEditorIlFuocoTornaAllaGriglia) {
 TEST_F(FrmMainVera, DopoUnaDomandaAnnullataLaProssimaSiFaAncora) {
     modifica();
     for (int i = 0; i < 2; ++i) {
-        const QuandoAppare domanda(boxWindows, L"Salvataggio",
+        const QuandoAppare domanda(boxWindows, testi::salvataggio,
                                    [](HWND box) { PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
         EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
     }
-    const QuandoAppare domanda(boxWindows, L"Salvataggio",
+    const QuandoAppare domanda(boxWindows, testi::salvataggio,
                                [](HWND box) { PostMessageW(box, WM_COMMAND, IDNO, 0); });
     SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
     EXPECT_EQ(finestra.hwnd(), nullptr);
@@ -120,7 +121,7 @@ TEST_F(FrmMainVera, AncheDaSfondoLaDomandaTieneFermaLaFinestra) {
     // None of this thread's windows is the active one then.
     const AltroInPrimoPiano altro;
     ASSERT_TRUE(attendi([] { return GetActiveWindow() == nullptr; }));
-    const QuandoAppare domanda(boxWindows, L"Salvataggio", [&](HWND box) {
+    const QuandoAppare domanda(boxWindows, testi::salvataggio, [&](HWND box) {
         EXPECT_EQ(GetWindow(box, GW_OWNER), finestra.hwnd());
         EXPECT_FALSE(IsWindowEnabled(finestra.hwnd()));
         PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
@@ -131,8 +132,8 @@ TEST_F(FrmMainVera, AncheDaSfondoLaDomandaTieneFermaLaFinestra) {
 TEST_F(FrmMainChiusura, ConUnMessaggioApertoNullaSiComandaENullaSiPerde) {
     metti(L"uno");
     campi.testo(IDC_TXTTITOLO, L"resta");
-    messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
-                     Icona::Domanda, Pulsanti::SiNo, Risposta::No, [&] {
+    messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
+                     Risposta::No, [&] {
                          SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
                          EXPECT_FALSE(SendMessageW(finestra.hwnd(), WM_QUERYENDSESSION, 0, 0));
                          for (const int comando : {mnNuovo, mnsalva, mnaddFeed, mnDelFeed}) {
@@ -210,7 +211,7 @@ TEST_F(FrmMainChiusura, UnComandoOUnaChiusuraAbbandonanoIlTrascinamento) {
             lasciaMouse();
         };
         if (chiusura) {
-            messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda,
+            messaggi.attendi(testi::domandaSalvataggio, testi::salvataggio, Icona::Domanda,
                              Pulsanti::SiNoAnnulla, Risposta::Annulla, intanto);
             SendMessageW(finestra.hwnd(), WM_CLOSE, 0, 0);
         } else {

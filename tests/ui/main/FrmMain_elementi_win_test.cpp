@@ -1,5 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 
+#include "tests/aiuti/testi.h"
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -33,12 +35,11 @@ protected:
         return {200, (r.top + r.bottom) / 2};
     }
     void attendiNessunaSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     void attendiCancellazione() {
-        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
-                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+        messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
+                         Risposta::Si);
     }
     void attendiTitolo(const wchar_t* nuovo) {
         editor.attendi([nuovo](clsItemRss& elemento, DataOra ultima) {
@@ -105,7 +106,7 @@ TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura
     }
     // Full: nothing more, and the table is as it was.
     documento.modificato(false);
-    messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
+    messaggi.attendi(testi::diErrore(6), testi::erroreDetto(6), Icona::Informazione);
     finestra.esegui(mnaddFeed);
     EXPECT_EQ(documento.elementi().conteggio(), 32767);
     EXPECT_EQ(corrente(), 32767);

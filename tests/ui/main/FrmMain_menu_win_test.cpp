@@ -1,5 +1,6 @@
 #include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
@@ -161,8 +162,8 @@ TEST_F(FrmMainMenu, IlPulsanteDestroParlaDellaRigaCliccata) {
     ASSERT_EQ(griglia().rigaCorrente(), 1);
     RECT r{};
     ListView_GetItemRect(griglia().lista(), 2, &r, LVIR_BOUNDS);
-    messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?", L"Attenzione",
-                     Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+    messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
+                     Risposta::Si);
     const QuandoAppare menu(L"#32768", L"", [&](HWND) {
         EXPECT_EQ(griglia().rigaCorrente(), 3);
         PostMessageW(finestra.hwnd(), WM_CHAR, L'c', 0);
@@ -177,8 +178,7 @@ TEST_F(FrmMainMenu, DallIntestazioneSiAggiungeMaNonSiToccaLaRigaCorrente) {
     const HWND testata = ListView_GetHeader(griglia().lista());
     // Modify, delete, preview: their places in the menu, from the top.
     for (const int posto : {2, 3, 4}) {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
         scegliDalMenu(testata, posto);
     }
     EXPECT_EQ(titoliElementi(), L"a;b;");

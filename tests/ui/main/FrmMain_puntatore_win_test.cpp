@@ -3,6 +3,7 @@
 #include "tests/aiuti/comandi_prova_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/spia_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <set>
 
@@ -37,8 +38,11 @@ protected:
         return [this] { EXPECT_EQ(GetCursor(), normale); };
     }
     void attendiErroreNormale(std::int32_t numero, std::wstring testo) {
-        messaggi.attendi(std::move(testo), L"Errore n° " + std::to_wstring(numero), Icona::Critica,
+        messaggi.attendi(std::move(testo), testi::erroreNumero(numero), Icona::Critica,
                          Pulsanti::Ok, Risposta::Ok, normaleIntanto());
+    }
+    void attendiErroreNormale(std::int32_t numero) {
+        attendiErroreNormale(numero, testi::diErrore(numero));
     }
     // A file that cannot be written.
     [[nodiscard]] std::wstring fermo(std::wstring_view nome) const {
@@ -55,8 +59,8 @@ protected:
 
 TEST_F(FrmMainPuntatore, EsportandoEUnaClessidraETornaPrimaDellaDomanda) {
     dialoghi.attendiSalva(richiestaPagina, cartella.file(L"p.htm"), normaleIntanto());
-    messaggi.attendi(L"Si desidera aprire il file salvato?", L"Salva come pagina Web...",
-                     Icona::Domanda, Pulsanti::SiNo, Risposta::No, normaleIntanto());
+    messaggi.attendi(testi::domandaApri, testi::salvaPagina, Icona::Domanda, Pulsanti::SiNo,
+                     Risposta::No, normaleIntanto());
     EXPECT_EQ(duranteIlTitolo(mnsalvahtm), soloClessidra);
     EXPECT_EQ(GetCursor(), normale);
 }
@@ -73,18 +77,18 @@ TEST_F(FrmMainPuntatore, SalvandoEAprendoEUnaClessidraEPoiTorna) {
 
 TEST_F(FrmMainPuntatore, DopoUnErroreTornaPrimaDelMessaggio) {
     dialoghi.attendiSalva(richiestaPagina, fermo(L"p.htm"));
-    attendiErroreNormale(75, L"Errore di accesso al percorso/file");
+    attendiErroreNormale(75);
     EXPECT_EQ(duranteIlTitolo(mnsalvahtm), soloClessidra);
     EXPECT_EQ(GetCursor(), normale);
     dialoghi.attendiSalva(richiestaSalva, fermo(L"f.xml"));
-    attendiErroreNormale(75, L"Errore di accesso al percorso/file");
+    attendiErroreNormale(75);
     EXPECT_EQ(duranteIlTitolo(mnsalva), soloClessidra);
     EXPECT_EQ(GetCursor(), normale);
     const std::wstring rotto = cartella.scrivi(L"rotto.xml", "<rss>");
     dialoghi.attendiApri(richiestaApri, rotto);
     std::wstring maiuscolo = rotto;
     CharUpperBuffW(maiuscolo.data(), static_cast<DWORD>(maiuscolo.size()));
-    attendiErroreNormale(18343, maiuscolo + L": impossibile caricare il documento.");
+    attendiErroreNormale(18343, maiuscolo + testi::diErrore(18343));
     finestra.esegui(mnApri);
     EXPECT_EQ(GetCursor(), normale);
 }
@@ -93,8 +97,7 @@ TEST_F(FrmMainPuntatore, IlMessaggioDiUnaDataIllegibileNonHaLaClessidra) {
     const std::wstring feed =
         cartella.scrivi(L"d.xml", rssCon("<lastBuildDate>ieri</lastBuildDate>"));
     dialoghi.attendiApri(richiestaApri, feed);
-    attendiErroreNormale(4453,
-                         L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
+    attendiErroreNormale(4453);
     finestra.esegui(mnApri);
     EXPECT_EQ(GetCursor(), normale);
 }
@@ -110,7 +113,7 @@ TEST_F(FrmMainPuntatore, ChiAnnullaUnDialogoRitrovaLaFreccia) {
 
 TEST_F(FrmMainPuntatore, MostraErroreRimetteLaFreccia) {
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-    attendiErroreNormale(6, L"Overflow");
+    attendiErroreNormale(6);
     try {
         solleva(errori::overflow);
     } catch (const Errore&) {

@@ -3,6 +3,7 @@
 #include "tests/aiuti/frmMainVera_win.h"
 
 #include "res/risorse.h"
+#include "tests/aiuti/testi.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ protected:
 
 TEST_F(FrmMainRipetizioni, InvioTenutoSuCancellaNonRispondeAllaDomanda) {
     SetFocus(pulsante(mnDelFeed));
-    const QuandoAppare domanda(boxWindows, L"Attenzione", [&](HWND box) {
+    const QuandoAppare domanda(boxWindows, testi::attenzione, [&](HWND box) {
         tieniEPoiPremi(box);
         EXPECT_FALSE(IsWindowVisible(box));
     });
@@ -55,7 +56,7 @@ TEST_F(FrmMainRipetizioni, InvioTenutoNellaGrigliaNonSalvaNellEditor) {
 }
 
 TEST_F(FrmMainRipetizioni, InvioTenutoNellEditorNonChiudeLAvviso) {
-    const QuandoAppare avviso(boxWindows, L"Attenzione", [&](HWND box) {
+    const QuandoAppare avviso(boxWindows, testi::attenzione, [&](HWND box) {
         tieniEPoiPremi(box);
         EXPECT_FALSE(IsWindowVisible(box));
     });
@@ -77,7 +78,7 @@ TEST_F(FrmMainRipetizioni, InvioCheChiudeUnMessaggioNonScriveNelCampo) {
     finestra.NuovoDocumento();
     const HWND descrizione = GetDlgItem(campi.hwnd(), IDC_TXTDESCRIZIONE);
     SetFocus(descrizione);
-    const QuandoAppare errore(boxWindows, L"Errore n° 12883", [&](HWND box) {
+    const QuandoAppare errore(boxWindows, testi::erroreNumero(12883), [&](HWND box) {
         const ConFiltro tasti([box](MSG& msg) { return IsDialogMessageW(box, &msg) != FALSE; });
         premiGiu(VK_RETURN);
         EXPECT_FALSE(IsWindowVisible(box));

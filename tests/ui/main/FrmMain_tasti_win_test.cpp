@@ -1,6 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
 #include "tests/aiuti/spia_win.h"
+#include "tests/aiuti/testi.h"
 
 #include "support/windows/file_win.h"
 
@@ -27,12 +28,11 @@ protected:
         return {60, (r.top + r.bottom) / 2};
     }
     void attendiNessunaSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     void attendiCancellazione(Risposta risposta) {
-        messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
-                         L"Attenzione", Icona::Domanda, Pulsanti::SiNo, risposta);
+        messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
+                         risposta);
     }
     // The editor comes up for this item, and the user gives it another title.
     void attendiEditor(std::wstring_view atteso, std::wstring_view nuovo) {
@@ -157,15 +157,15 @@ TEST_F(FrmMainTasti, SalvareDaTastieraPortaPrimaLeMisureNeiLimiti) {
 TEST_F(FrmMainTasti, F1ApreLaGuidaEDiceSeManca) {
     std::wstring guida = cartellaProgramma() + L'\\' + nomeProgramma();
     guida.replace(guida.rfind(L'.'), std::wstring::npos, L".htm");
-    messaggi.attendi(guida + L": file non trovato!", L"Errore", Icona::Critica);
+    messaggi.attendi(guida + testi::fileNonTrovato, testi::errore, Icona::Critica);
     premi(VK_F1);
 }
 
 TEST_F(FrmMainTasti, UnErroreDellaGuidaSiDiceComeQuelliDegliElementi) {
     // The message about the missing file cannot be shown: for the guide that is an error.
-    messaggi.attendi(fileGuida() + L": file non trovato!", L"Errore", Icona::Critica, Pulsanti::Ok,
-                     Risposta::Ok, [] { solleva(errori::memoriaEsaurita); });
-    messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
+    messaggi.attendi(fileGuida() + testi::fileNonTrovato, testi::errore, Icona::Critica,
+                     Pulsanti::Ok, Risposta::Ok, [] { solleva(errori::memoriaEsaurita); });
+    messaggi.attendi(testi::diErrore(7), testi::erroreDetto(7), Icona::Informazione);
     premi(VK_F1);
 }
 
@@ -240,7 +240,7 @@ TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
         SetFocus(campo(IDC_CMDGETSIZE));
         dialoghi.attendiApri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
                               L"Tutti i file (*.*)|*.*",
-                              4100, L""},
+                              opzioniApri, L""},
                              std::nullopt);
         premi(tasto);
     }
@@ -250,9 +250,9 @@ TEST_F(FrmMainTasti, UnImmagineTroppoLargaEErrore380ELasciaLeMisure) {
     campi.dimensioni(7, 8);
     dialoghi.attendiApri({L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|"
                           L"Tutti i file (*.*)|*.*",
-                          4100, L""},
+                          opzioniApri, L""},
                          cartella.scrivi(L"larga.bmp", immagini::bmp(20000, 1)));
-    messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380", Icona::Informazione);
+    messaggi.attendi(testi::diErrore(380), testi::erroreDetto(380), Icona::Informazione);
     clic(campo(IDC_CMDGETSIZE));
     EXPECT_EQ(campi.txtLarghezza().Valore(), 7);
     EXPECT_EQ(campi.txtAltezza().Valore(), 8);

@@ -1,5 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 
+#include "tests/aiuti/testi.h"
+
 #include <commctrl.h>
 
 #include <array>
@@ -13,7 +15,8 @@ namespace {
 using FrmMainAperta = ProvaFrmMain;
 
 const RichiestaFile richiestaImmagine{
-    L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", 4100, L""};
+    L"File immagine (*.jpg;*.gif;*.jpeg)|*.jpg;*.gif;*.jpeg|Tutti i file (*.*)|*.*", opzioniApri,
+    L""};
 
 // A black picture in the bytes of a file.
 std::string bmp(SIZE misura) {
@@ -367,10 +370,10 @@ TEST_F(FrmMainAperta, LeDimensioniDaUnImmagineSceltaDallUtente) {
     dialoghi.attendiApri(richiestaImmagine, std::nullopt);
     clic(campo(IDC_CMDGETSIZE));
     dialoghi.attendiApri(richiestaImmagine, cartella.scrivi(L"t.txt", "testo"));
-    messaggi.attendi(L"Immagine non valida", L"Errore  481", Icona::Informazione);
+    messaggi.attendi(testi::diErrore(481), testi::erroreDetto(481), Icona::Informazione);
     clic(campo(IDC_CMDGETSIZE));
     dialoghi.attendiApri(richiestaImmagine, cartella.file(L"manca.gif"));
-    messaggi.attendi(L"Impossibile trovare il file", L"Errore  53", Icona::Informazione);
+    messaggi.attendi(testi::diErrore(53), testi::erroreDetto(53), Icona::Informazione);
     clic(campo(IDC_CMDGETSIZE));
     EXPECT_EQ(campi.txtLarghezza().Valore(), 3);
     EXPECT_EQ(campi.txtAltezza().Valore(), 2);
@@ -380,7 +383,7 @@ TEST_F(FrmMainAperta, UnaMisuraOltreIlMassimoLasciaEntrambiICampi) {
     campi.dimensioni(7, 8);
     for (const SIZE misura : {SIZE{1, 10001}, SIZE{10001, 1}}) {
         dialoghi.attendiApri(richiestaImmagine, cartella.scrivi(L"i.bmp", bmp(misura)));
-        messaggi.attendi(L"Valore di proprietà non valido", L"Errore  380", Icona::Informazione);
+        messaggi.attendi(testi::diErrore(380), testi::erroreDetto(380), Icona::Informazione);
         clic(campo(IDC_CMDGETSIZE));
         EXPECT_EQ(campi.txtLarghezza().Valore(), 7);
         EXPECT_EQ(campi.txtAltezza().Valore(), 8);

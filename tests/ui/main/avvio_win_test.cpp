@@ -5,6 +5,7 @@
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -89,7 +90,7 @@ TEST(Avvio, SenzaIlParserLoDiceENonMostraMaiLaFinestra) {
     }));
     EXPECT_FALSE(principale);
     if (viste.avviso != nullptr) {
-        EXPECT_EQ(testo(viste.avviso), L"Attenzione");
+        EXPECT_EQ(testo(viste.avviso), testi::attenzione);
         EXPECT_TRUE(
             testo(GetDlgItem(viste.avviso, 0xFFFF))
                 .starts_with(

@@ -1,6 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 
 #include "support/testi/testo.h"
+#include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
@@ -30,12 +31,10 @@ TEST_F(Salvataggi, DoveNonSiPuoSalvareDicePerche) {
     struct Caso {
         const wchar_t* nome;
         std::int32_t numero;
-        const wchar_t* testo;
     };
-    for (const Caso& caso : {Caso{L"nessuna\\a.xml", 76, L"Impossibile trovare il percorso"},
-                             Caso{L"a?b", 52, L"Nome o numero di file non valido"}}) {
+    for (const Caso& caso : {Caso{L"nessuna\\a.xml", 76}, Caso{L"a?b", 52}}) {
         dialoghi.attendiSalva(richiestaSalva, cartella.file(caso.nome));
-        attendiErrore(caso.numero, caso.testo);
+        attendiErrore(caso.numero);
         EXPECT_FALSE(finestra.Salva(false));
     }
     EXPECT_EQ(documento.percorso(), L"");
@@ -53,7 +52,7 @@ TEST_F(Salvataggi, LElementoCheNonSiSalvaEScelto) {
     ::metti(documento, CampoElemento::Descrizione, 69, L"]]>");
     // Seen while the message is up already.
     messaggi.attendi(inizio + L": sequenza ]]> non ammessa in descrizione dell'elemento 70.",
-                     L"Errore n° 5", Icona::Critica, Pulsanti::Ok, Risposta::Ok, [&] {
+                     testi::erroreNumero(5), Icona::Critica, Pulsanti::Ok, Risposta::Ok, [&] {
                          EXPECT_EQ(finestra.ElementoSelezionato(), 69);
                          EXPECT_NE(ListView_GetItemState(lista, 69, LVIS_SELECTED), 0U);
                          const int cima = ListView_GetTopIndex(lista);

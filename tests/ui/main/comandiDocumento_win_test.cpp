@@ -1,14 +1,11 @@
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <array>
 #include <optional>
 
 namespace {
-
-constexpr const wchar_t* nessunContenuto =
-    L"Per salvare il documento è necessario immettere almeno un contenuto. Salvataggio non "
-    L"consentito.";
 
 class Documenti : public ProvaFrmMain {
 protected:
@@ -75,17 +72,17 @@ TEST_F(Documenti, UnFileRecenteCheMancaEErrore8292ELasciaIlDocumento) {
     metti(L"uno");
     const std::wstring prima = impronta();
     const std::wstring percorso = cartella.file(L"città.xml");
-    attendiErrore(8292, inMaiuscolo(percorso) + L": impossibile trovare il file.");
+    attendiErrore(8292, inMaiuscolo(percorso) + testi::diErrore(8292));
     EXPECT_FALSE(finestra.Apri(percorso));
     EXPECT_EQ(impronta(), prima);
 }
 
 TEST_F(Documenti, UnaCartellaOUnFileNascostoNonSiTrovano) {
-    attendiErrore(8292, inMaiuscolo(cartella.percorso()) + L": impossibile trovare il file.");
+    attendiErrore(8292, inMaiuscolo(cartella.percorso()) + testi::diErrore(8292));
     EXPECT_FALSE(finestra.Apri(cartella.percorso()));
     const std::wstring nascosto = feed(L"n.xml");
     SetFileAttributesW(nascosto.c_str(), FILE_ATTRIBUTE_HIDDEN);
-    attendiErrore(8292, inMaiuscolo(nascosto) + L": impossibile trovare il file.");
+    attendiErrore(8292, inMaiuscolo(nascosto) + testi::diErrore(8292));
     EXPECT_FALSE(finestra.Apri(nascosto));
 }
 
@@ -102,7 +99,7 @@ TEST_F(Documenti, UnFileIllegibileLasciaLaFinestraVuotaEPulita) {
     documento.percorso(L"C:\\vecchio.xml");
     const std::wstring percorso = cartella.scrivi(L"rotto.xml", "<rss>");
     attendiDomanda(Risposta::No);
-    attendiErrore(18343, inMaiuscolo(percorso) + L": impossibile caricare il documento.");
+    attendiErrore(18343, inMaiuscolo(percorso) + testi::diErrore(18343));
     EXPECT_FALSE(finestra.Apri(percorso));
     EXPECT_EQ(titolo(), L"Ostrelle  [Nuovo Documento]");
     EXPECT_EQ(titoliElementi(), L"");
@@ -112,7 +109,7 @@ TEST_F(Documenti, UnFileIllegibileLasciaLaFinestraVuotaEPulita) {
 }
 
 TEST_F(Documenti, UnaDataIllegibileSiDiceUnaVoltaEIlRestoSiCarica) {
-    attendiErrore(4453, L"Formato data/orario non valido (es. Sat, 11 Jun 2005 15:00:00 +0100).");
+    attendiErrore(4453);
     EXPECT_TRUE(finestra.Apri(
         feed(L"d.xml", "<lastBuildDate>ieri</lastBuildDate><webMaster>w</webMaster>")));
     EXPECT_EQ(campi.dataOra(), orologio.locale());
@@ -122,7 +119,7 @@ TEST_F(Documenti, UnaDataIllegibileSiDiceUnaVoltaEIlRestoSiCarica) {
 }
 
 TEST_F(Documenti, UnaDataCheISelettoriNonTengonoSiDiceUnaVolta) {
-    attendiErrore(380, L"Valore di proprietà non valido");
+    attendiErrore(380);
     EXPECT_TRUE(finestra.Apri(
         feed(L"d.xml", "<lastBuildDate>Sat, 01 Jan 1600 00:00:00 +0000</lastBuildDate>")));
     EXPECT_EQ(campi.dataOra(), orologio.locale());
@@ -131,7 +128,7 @@ TEST_F(Documenti, UnaDataCheISelettoriNonTengonoSiDiceUnaVolta) {
 TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
     for (const char* const misura :
          {"<width>10001</width>", "<width>-1</width>", "<height>10001</height>"}) {
-        messaggi.attendi(L"Valore di proprietà non valido", L"Errore n° 380", Icona::Critica,
+        messaggi.attendi(testi::diErrore(380), testi::erroreNumero(380), Icona::Critica,
                          Pulsanti::Ok, Risposta::Ok,
                          [&] { EXPECT_EQ(griglia().righe().elemento(1), -1); });
         const std::wstring percorso =
@@ -153,9 +150,9 @@ TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
 
 TEST_F(Documenti, SalvareSenzaElementiEErrore12883) {
     campi.testo(IDC_TXTTITOLO, L"t");
-    attendiErrore(12883, nessunContenuto);
+    attendiErrore(12883);
     EXPECT_FALSE(finestra.Salva(false));
-    attendiErrore(12883, nessunContenuto);
+    attendiErrore(12883);
     EXPECT_FALSE(finestra.Salva(true));
     EXPECT_TRUE(documento.modificato());
 }
@@ -163,10 +160,10 @@ TEST_F(Documenti, SalvareSenzaElementiEErrore12883) {
 TEST_F(Documenti, RispondereSiSenzaElementiAbbandonaLAzione) {
     campi.testo(IDC_TXTTITOLO, L"t");
     attendiDomanda(Risposta::Si);
-    attendiErrore(12883, nessunContenuto);
+    attendiErrore(12883);
     EXPECT_FALSE(finestra.ChiediSalvataggio());
     attendiDomanda(Risposta::Si);
-    attendiErrore(12883, nessunContenuto);
+    attendiErrore(12883);
     finestra.esegui(mnNuovo);
     EXPECT_EQ(campi.testo(IDC_TXTTITOLO), L"t");
 }
@@ -234,7 +231,7 @@ TEST_F(Documenti, UnSalvataggioFallitoLasciaPercorsoTitoloElencoEModifica) {
     const std::wstring protetto = feed(L"p.xml");
     SetFileAttributesW(protetto.c_str(), FILE_ATTRIBUTE_READONLY);
     dialoghi.attendiSalva(richiestaSalva, protetto);
-    attendiErrore(75, L"Errore di accesso al percorso/file");
+    attendiErrore(75);
     EXPECT_FALSE(finestra.Salva(true));
     EXPECT_NE(leggiTutto(protetto).find("Canale"), std::string::npos);
     EXPECT_EQ(impronta(), prima);
@@ -248,7 +245,7 @@ TEST_F(Documenti, UnElencoCheNonSiScriveSiDiceAFileGiaSalvatoECheRestaModificato
     impostazioni.rifiuta = true;
     const std::wstring percorso = cartella.file(L"r.xml");
     dialoghi.attendiSalva(richiestaSalva, percorso);
-    attendiErrore(75, L"Errore di accesso al percorso/file");
+    attendiErrore(75);
     EXPECT_FALSE(finestra.Salva(false));
     EXPECT_NE(leggiTutto(percorso).find("uno"), std::string::npos);
     EXPECT_EQ(titolo(), L"Ostrelle  [" + percorso + L"]");
@@ -266,7 +263,7 @@ TEST_F(Documenti, UnFileTenutoDaUnAltroProgrammaNonSiSalva) {
                                           OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(tenuto);
     campi.testo(IDC_TXTTITOLO, L"altro");
-    attendiErrore(70, L"Autorizzazione negata");
+    attendiErrore(70);
     EXPECT_FALSE(finestra.Salva(false));
     EXPECT_TRUE(documento.modificato());
 }
@@ -381,7 +378,7 @@ TEST_F(Documenti, OgniStatoOgniComandoOgniRisposta) {
                             attendiDomanda(caso.risposta);
                             prosegue = caso.risposta == Risposta::No;
                             if (caso.risposta == Risposta::Si && vuoto) {
-                                attendiErrore(12883, nessunContenuto);
+                                attendiErrore(12883);
                             } else if (caso.risposta == Risposta::Si) {
                                 prosegue = conNome || !caso.salvataggioAnnullato;
                                 if (!conNome) {

@@ -1,6 +1,7 @@
 #include "tests/aiuti/comandiElementi_prova_win.h"
 #include "tests/aiuti/editor_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <functional>
 #include <string>
@@ -64,7 +65,7 @@ TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato)
 TEST_F(ComandiConEditorVero, LaDataIlleggibileDiUnElementoRestaSeSiAnnulla) {
     metti(banco.griglia.documento, CampoElemento::Data, 1, L"domani");
     banco.seleziona(2);
-    messaggi.attendi(dataNonValida, L"Attenzione", Icona::Informazione);
+    messaggi.attendi(testi::dataReimpostata, testi::attenzione, Icona::Informazione);
     usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_ESCAPE); });
     EXPECT_EQ(banco.campo(CampoElemento::Data, 1), L"domani");
     EXPECT_FALSE(banco.griglia.documento.modificato());

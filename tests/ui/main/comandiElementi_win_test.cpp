@@ -4,6 +4,7 @@
 #include "tests/aiuti/comandiElementi_prova_win.h"
 #include "tests/aiuti/editor_finto.h"
 #include "tests/aiuti/schermo_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <array>
 #include <cstdint>
@@ -231,7 +232,7 @@ TEST_F(ComandiElementiGriglia, SpostaElementoNonToccaIlSegnoDiModifica) {
 TEST_F(ComandiElementiGriglia, ATabellaPienaSiDiceErrore6PrimaDiAprireLEditor) {
     Banco banco(0, editor);
     dimensiona(banco.griglia.documento, 32767);
-    banco.messaggi.attendi(L"Overflow", L"Errore  6", Icona::Informazione);
+    banco.messaggi.attendi(testi::diErrore(6), testi::erroreDetto(6), Icona::Informazione);
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 32767);
     EXPECT_EQ(banco.griglia.documento.ultimaData(), inizio);
@@ -255,12 +256,10 @@ TEST_F(ComandiElementiGriglia, UnFallimentoSiDiceELasciaLaTabellaComEra) {
         solleva(errori::nomeFileNonValido);
     };
     editor.attendi(fallisci);
-    banco.messaggi.attendi(L"Impossibile leggere l'unità specificata.", L"Errore  52",
-                           Icona::Informazione);
+    banco.messaggi.attendi(testi::unitaIllegibile, testi::erroreDetto(52), Icona::Informazione);
     banco.comandi.cmdAggiungi_Click();
     editor.attendi(fallisci);
-    banco.messaggi.attendi(L"Impossibile leggere l'unità specificata.", L"Errore  52",
-                           Icona::Informazione);
+    banco.messaggi.attendi(testi::unitaIllegibile, testi::erroreDetto(52), Icona::Informazione);
     banco.comandi.cmdModifica_Click();
     EXPECT_EQ(banco.griglia.titoli(), (std::vector<std::wstring>{L"titolo 0", L"titolo 1"}));
     EXPECT_FALSE(banco.griglia.documento.modificato());
@@ -273,8 +272,7 @@ TEST_F(ComandiElementiGriglia, UnElementoSparitoSottoLEditorEErrore9) {
         banco.griglia.documento.sostituisci({});
         return inizio;
     });
-    banco.messaggi.attendi(L"Indice non incluso nell'intervallo", L"Errore  9",
-                           Icona::Informazione);
+    banco.messaggi.attendi(testi::diErrore(9), testi::erroreDetto(9), Icona::Informazione);
     banco.comandi.cmdModifica_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 0);
 }
@@ -283,7 +281,7 @@ TEST_F(ComandiElementiGriglia, SeLaGrigliaFallisceLaModificaEComunqueSegnata) {
     Banco banco(1, editor);
     attendiCompilato(L"nuovo");
     banco.fallita.fallisce = true;
-    banco.messaggi.attendi(L"Memoria esaurita", L"Errore  7", Icona::Informazione);
+    banco.messaggi.attendi(testi::diErrore(7), testi::erroreDetto(7), Icona::Informazione);
     banco.comandi.cmdAggiungi_Click();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
     EXPECT_TRUE(banco.griglia.documento.modificato());

@@ -3,6 +3,7 @@
 #include "support/windows/file_win.h"
 #include "tests/aiuti/ambiente_win.h"
 #include "tests/aiuti/comandi_prova_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <array>
 
@@ -24,8 +25,7 @@ protected:
                std::to_wstring(griglia().rigaCorrente());
     }
     void attendiSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     // Exports to a file and leaves it closed; gives what was written.
     [[nodiscard]] std::string esporta(const std::wstring& pagina) {
@@ -40,8 +40,7 @@ protected:
 
 TEST_F(Pagina, EsportareSenzaElementiSiRifiutaSenzaDialogo) {
     finestra.NuovoDocumento();
-    attendiErrore(12883, L"Per salvare il documento è necessario immettere almeno un contenuto. "
-                         L"Salvataggio non consentito.");
+    attendiErrore(12883);
     finestra.esegui(mnsalvahtm);
 }
 
@@ -104,7 +103,7 @@ TEST_F(Pagina, EsportareSuUnaPaginaInSolaLetturaOSuUnaCartellaSiDiceENienteSiPer
     const std::wstring prima = stato();
     for (const std::wstring& dove : {pagina, sotto}) {
         dialoghi.attendiSalva(richiestaPagina, dove);
-        attendiErrore(75, L"Errore di accesso al percorso/file");
+        attendiErrore(75);
         finestra.esegui(mnsalvahtm);
         EXPECT_EQ(stato(), prima);
     }
@@ -120,7 +119,7 @@ TEST_F(Pagina, EsportareSulFeedApertoSiRifiutaENienteSiPerde) {
     const std::wstring prima = stato();
     for (const std::wstring& stesso : {feed, cartella.file(L".\\FEED.XML")}) {
         dialoghi.attendiSalva(richiestaPagina, stesso);
-        attendiErrore(55, L"File già aperto");
+        attendiErrore(55);
         finestra.esegui(mnsalvahtm);
         EXPECT_EQ(leggiTutto(feed), salvato);
         EXPECT_EQ(stato(), prima);
@@ -129,12 +128,12 @@ TEST_F(Pagina, EsportareSulFeedApertoSiRifiutaENienteSiPerde) {
 
 TEST_F(Pagina, SenzaBrowserLaPaginaRestaDovEEdELUnicoMessaggio) {
     const std::wstring prima = stato();
-    const std::wstring perche = L": nessun programma associato a questo tipo di file!";
+    const std::wstring perche = testi::nessunProgramma;
     const std::wstring pagina = cartella.file(L"Pagina.htm");
     registratore.nessunProgramma(L".htm");
     dialoghi.attendiSalva(richiestaPagina, pagina);
     attendiDomandaPagina(Risposta::Si);
-    messaggi.attendi(pagina + perche, L"Errore", Icona::Critica);
+    messaggi.attendi(pagina + perche, testi::errore, Icona::Critica);
     finestra.esegui(mnsalvahtm);
     EXPECT_NE(leggiTutto(pagina).find("tre"), std::string::npos);
     EXPECT_EQ(stato(), prima);
@@ -151,9 +150,8 @@ TEST_F(Pagina, SenzaBrowserLAnteprimaLoDiceENonPerdeNulla) {
         const Ricerca ricerca(FindFirstFileW((temporanea + L"\\*.htm").c_str(), &trovata));
         return ricerca ? temporanea + L'\\' + trovata.cFileName : std::wstring();
     };
-    messaggi.attendiCome(
-        [&] { return pagina() + L": nessun programma associato a questo tipo di file!"; },
-        L"Errore", Icona::Critica);
+    messaggi.attendiCome([&] { return pagina() + testi::nessunProgramma; }, testi::errore,
+                         Icona::Critica);
     finestra.esegui(mnvisualhtml);
     EXPECT_EQ(stato(), prima);
     coda.CancellaFile();
@@ -223,7 +221,7 @@ TEST_F(Pagina, UnaSecondaAnteprimaSiApreMentreIlBrowserTieneLaPrima) {
 TEST_F(Pagina, LAnteprimaCheNonSiPuoScrivereSiDice) {
     const VariabileAmbiente tmp(L"TMP", cartella.file(L"manca"));
     const std::wstring prima = stato();
-    attendiErrore(76, L"Impossibile trovare il percorso");
+    attendiErrore(76);
     finestra.esegui(mnvisualhtml);
     EXPECT_EQ(stato(), prima);
 }

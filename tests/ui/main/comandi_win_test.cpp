@@ -4,6 +4,7 @@
 #include "support/windows/file_win.h"
 #include "tests/aiuti/comandi_prova_win.h"
 #include "tests/aiuti/proprietariaShell_win.h"
+#include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
@@ -207,8 +208,8 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
          }},
         {L"&Contenuto > &Cancella Feed",
          [&] {
-             messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
-                              L"Attenzione", Icona::Domanda, Pulsanti::SiNo, Risposta::Si);
+             messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda,
+                              Pulsanti::SiNo, Risposta::Si);
              esegui_();
              EXPECT_EQ(titoliElementi(), L"uno;tre;");
          }},

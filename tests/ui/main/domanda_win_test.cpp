@@ -2,6 +2,8 @@
 
 #include "tests/aiuti/frmMain_win.h"
 
+#include "tests/aiuti/testi.h"
+
 namespace {
 
 using Domanda = ProvaFrmMain;
@@ -30,11 +32,11 @@ TEST_F(Domanda, UnMessaggioCheNonSiPuoMostrareNonFermaIComandiSeguenti) {
     finestra.ImpostaModificato();
     const auto fallito = [&](UINT messaggio, WPARAM w) {
         // The question cannot be shown, and then the report of that.
-        messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda, Pulsanti::SiNoAnnulla,
-                         Risposta::Annulla, fallisce);
-        messaggi.attendi(L"Memoria esaurita", L"Errore n° 7", Icona::Critica, Pulsanti::Ok,
+        messaggi.attendi(testi::domandaSalvataggio, testi::salvataggio, Icona::Domanda,
+                         Pulsanti::SiNoAnnulla, Risposta::Annulla, fallisce);
+        messaggi.attendi(testi::diErrore(7), testi::erroreNumero(7), Icona::Critica, Pulsanti::Ok,
                          Risposta::Ok, fallisce);
-        attendiErrore(7, L"Memoria esaurita");
+        attendiErrore(7);
         SendMessageW(finestra.hwnd(), messaggio, w, 0);
     };
     fallito(WM_COMMAND, mnNuovo);

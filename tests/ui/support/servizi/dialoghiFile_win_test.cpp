@@ -33,8 +33,8 @@ std::wstring cartellaCorrente() {
     return cartella.data();
 }
 
-const RichiestaFile apertura{L"Prova (*.xml)|*.xml|Tutti (*.*)|*.*", 4100, L""};
-const RichiestaFile salvataggio{L"Prova (*.xml)|*.xml", 2050, L".xml"};
+const RichiestaFile apertura{L"Prova (*.xml)|*.xml|Tutti (*.*)|*.*", opzioniApri, L""};
+const RichiestaFile salvataggio{L"Prova (*.xml)|*.xml", opzioniSalva, L".xml"};
 
 } // namespace
 

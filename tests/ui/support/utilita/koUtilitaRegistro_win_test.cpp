@@ -6,6 +6,7 @@
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/sollevato.h"
+#include "tests/aiuti/testi.h"
 
 #include <windows.h>
 
@@ -65,7 +66,7 @@ TEST(KoUtilitaAppPaths, UnApplicazioneNonRegistrataOSparitaSiDice) {
          {std::wstring(L"OstrelleProva"), std::wstring(L"NonRegistrata.exe"), std::wstring(),
           std::wstring(1000, L'x')}) {
         MessaggiFinti messaggi;
-        messaggi.attendi(nome + L": Applicazione non trovata.", L"Errore", Icona::Critica);
+        messaggi.attendi(nome + testi::applicazioneNonTrovata, testi::errore, Icona::Critica);
         EXPECT_FALSE(koUtilita(messaggi).StartApplicazione(nullptr, nome));
     }
 }

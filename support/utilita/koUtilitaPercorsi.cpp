@@ -1,4 +1,6 @@
-#include "support/utilita/koUtilitaFile.h"
+#include "support/utilita/koUtilitaPercorsi.h"
+
+#include "support/testi/testo.h"
 
 namespace {
 
@@ -10,15 +12,23 @@ std::size_t inizioNome(std::wstring_view percorso) noexcept {
 
 } // namespace
 
-std::wstring koUtilitaFile::DeterminaSoloFileName(std::wstring_view percorso) {
+std::wstring koUtilitaPercorsi::AggiungiSepDir(std::wstring& percorso) {
+    percorso = std::wstring(rifila(percorso));
+    if (!percorso.empty() && percorso.back() != L'\\') {
+        percorso += L'\\';
+    }
+    return percorso;
+}
+
+std::wstring koUtilitaPercorsi::DeterminaSoloFileName(std::wstring_view percorso) {
     return std::wstring(percorso.substr(inizioNome(percorso)));
 }
 
-std::wstring koUtilitaFile::EstraiPath(std::wstring_view percorso) {
+std::wstring koUtilitaPercorsi::EstraiPath(std::wstring_view percorso) {
     return std::wstring(percorso.substr(0, inizioNome(percorso)));
 }
 
-std::wstring koUtilitaFile::EstraiEstensione(std::wstring_view nome) {
+std::wstring koUtilitaPercorsi::EstraiEstensione(std::wstring_view nome) {
     nome.remove_prefix(inizioNome(nome));
     const auto punto = nome.find_last_of(L'.');
     return punto == std::wstring_view::npos ? std::wstring() : std::wstring(nome.substr(punto));
