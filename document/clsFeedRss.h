@@ -7,7 +7,9 @@
 #include <string_view>
 
 class ClsCodaEliminazione;
+class CustodeFile;
 class NodoXml;
+struct EsitoLettura;
 
 // Reads and writes the feed document. Keeps nothing between calls. Each operation has a form that
 // takes the channel whole and one that takes its strings apart: title, link, description, language,
@@ -18,7 +20,9 @@ public:
     // (cannot be loaded), 18344 (no RSS document), 18345 (more than one image), 6 (more than 32767
     // items, a width beyond 32 bits); what was filled until then stays, and a file that cannot be
     // loaded leaves everything empty.
-    void LeggiDocumentoRSS(const std::wstring& path, Canale& canale, TabellaElementi& items) const;
+    // `esito` is filled when the file could be loaded.
+    void LeggiDocumentoRSS(const std::wstring& path, Canale& canale, TabellaElementi& items,
+                           EsitoLettura* esito = nullptr) const;
     void LeggiDocumentoRSS(const std::wstring& path, std::wstring& title, std::wstring& link,
                            std::wstring& description, std::wstring& language,
                            std::wstring& copyright, std::wstring& lastBuildDate,
@@ -27,8 +31,9 @@ public:
     // Writes every item up to the table's upper bound. The file on disk is touched once the tree is
     // complete: deleted, then saved. Raises 5 for a text that a feed cannot hold, 61 when the
     // disk was full, else what kept a file from being deleted or made there, or the DOM's failure.
+    // `custode` may keep the file that is deleted.
     void CreaDocumentoRSS(const std::wstring& path, const Canale& canale,
-                          const TabellaElementi& items) const;
+                          const TabellaElementi& items, CustodeFile* custode = nullptr) const;
     void CreaDocumentoRSS(const std::wstring& path, const std::wstring& title,
                           const std::wstring& link, const std::wstring& description,
                           const std::wstring& language, const std::wstring& copyright,
@@ -39,7 +44,7 @@ public:
     // file of that name is deleted first; a page that cannot be written whole is not left on disk.
     // Raises the run-time error of the failure.
     void CreaDocumentoHTML(const std::wstring& path, const Canale& canale,
-                           const TabellaElementi& items) const;
+                           const TabellaElementi& items, CustodeFile* custode = nullptr) const;
     void CreaDocumentoHTML(const std::wstring& path, const std::wstring& title,
                            const std::wstring& link, const std::wstring& description,
                            const std::wstring& language, const std::wstring& copyright,

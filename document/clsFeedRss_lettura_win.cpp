@@ -4,6 +4,7 @@
 #include "document/caratteriXml.h"
 #include "document/clsItemRss.h"
 #include "document/deposito.h"
+#include "document/esitoLettura_win.h"
 #include "support/errori/errore.h"
 #include "support/programma/prodotto.h"
 #include "support/testi/numeri.h"
@@ -160,14 +161,26 @@ Feed trovaFeed(const DocumentoXml& documento, const std::wstring& percorso) {
     return {radici.front(), canali.front()};
 }
 
+// The bytes go as soon as the document is there.
+void carica(const DocumentoXml& documento, const std::wstring& percorso, EsitoLettura* esito) {
+    const ContenutoFile contenuto(percorso);
+    EsameFeed esame = esaminaFeed(contenuto.byte());
+    if (esame.smisurato || !documento.carica(contenuto)) {
+        solleva(errori::feedNonCaricabile, maiuscolo(percorso));
+    }
+    if (esito != nullptr) {
+        *esito = {std::move(esame.perdite), statoFile(percorso, contenuto.byte())};
+    }
+}
+
 std::int32_t misura(const NodoXml& nodo) {
     return aInt32(valoreIniziale(nodo.testo().vista()));
 }
 
 } // namespace
 
-void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
-                                   TabellaElementi& items) const {
+void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale, TabellaElementi& items,
+                                   EsitoLettura* esito) const {
     canale = Canale();
     items.svuota();
 
@@ -176,9 +189,7 @@ void clsFeedRss::LeggiDocumentoRSS(const std::wstring& path, Canale& canale,
     const auto deposito = std::make_shared<Deposito>();
     {
         const DocumentoXml documento;
-        if (!documento.carica(path)) {
-            solleva(errori::feedNonCaricabile, maiuscolo(path));
-        }
+        carica(documento, path, esito);
         const Feed feed = trovaFeed(documento, path);
         const bool nostro = feed.rss.dopoCommento(prodotto::commentoFeed());
         const CanaleLetto letto =

@@ -1,6 +1,7 @@
 #include "datetime/ClsUTC.h"
 #include "document/clsFeedRss.h"
 #include "document/paginaWeb.h"
+#include "document/salvataggio_win.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/testi/ansi_win.h"
 #include "support/testi/formato.h"
@@ -11,10 +12,10 @@
 namespace {
 
 // The bytes are complete before the disk is touched.
-void scriviPagina(const std::wstring& path, const std::wstring& testo) {
+void scriviPagina(const std::wstring& path, const std::wstring& testo, CustodeFile* custode) {
     const std::string byte = inAnsiHtml(testo);
     if (fileEsiste(path)) {
-        cancellaFile(path);
+        cancellaConservando(path, custode);
     }
     FileNuovo file(path);
     file.scrivi(byte);
@@ -24,8 +25,8 @@ void scriviPagina(const std::wstring& path, const std::wstring& testo) {
 } // namespace
 
 void clsFeedRss::CreaDocumentoHTML(const std::wstring& path, const Canale& canale,
-                                   const TabellaElementi& items) const {
-    scriviPagina(path, paginaFeed(canale, items, ClsUTC(), formatoUtente()));
+                                   const TabellaElementi& items, CustodeFile* custode) const {
+    scriviPagina(path, paginaFeed(canale, items, ClsUTC(), formatoUtente()), custode);
 }
 
 std::wstring clsFeedRss::VisualizzaItemHTML(const TabellaElementi& items,
@@ -34,6 +35,6 @@ std::wstring clsFeedRss::VisualizzaItemHTML(const TabellaElementi& items,
     coda.Push(temporaneo);
     std::wstring pagina = temporaneo + L".htm";
     coda.Push(pagina);
-    scriviPagina(pagina, paginaElementi(items, ClsUTC(), formatoUtente()));
+    scriviPagina(pagina, paginaElementi(items, ClsUTC(), formatoUtente()), nullptr);
     return pagina;
 }

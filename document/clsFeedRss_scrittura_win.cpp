@@ -26,7 +26,7 @@ void verificaElementi(const TabellaElementi& items, const std::wstring& percorso
 } // namespace
 
 void clsFeedRss::CreaDocumentoRSS(const std::wstring& path, const Canale& canale,
-                                  const TabellaElementi& items) const {
+                                  const TabellaElementi& items, CustodeFile* custode) const {
     for (const VoceCanale& voce : vociCanale) {
         verificaTesto(canale.*voce.membro, {voce.nome}, path);
     }
@@ -56,5 +56,5 @@ void clsFeedRss::CreaDocumentoRSS(const std::wstring& path, const Canale& canale
         channel.aggiungi(elemento.getNodoItem(documento));
     }
     documento.aggiungi(rss);
-    sostituisciFile(documento, path);
+    sostituisciFile(documento, path, custode);
 }

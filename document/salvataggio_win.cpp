@@ -1,5 +1,6 @@
 #include "document/salvataggio_win.h"
 
+#include "document/custodeFile.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/fileNuovo_win.h"
 #include "support/windows/file_win.h"
@@ -34,9 +35,17 @@ std::string coda(const std::wstring& percorso) {
 
 } // namespace
 
-void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso) {
+void cancellaConservando(const std::wstring& percorso, CustodeFile* custode) {
+    if (custode != nullptr) {
+        custode->conserva(percorso);
+    }
+    cancellaFile(percorso);
+}
+
+void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso,
+                     CustodeFile* custode) {
     if (fileEsiste(percorso)) {
-        cancellaFile(percorso);
+        cancellaConservando(percorso, custode);
     } else {
         // The DOM's own error for a path that cannot be written says nothing of it.
         provaCreazione(percorso);

@@ -58,36 +58,6 @@ void scriviRiserva(std::span<char> byte) {
     }
 }
 
-// All the bytes of a file, as an array that the DOM takes; false when it cannot be read.
-bool leggiByte(const std::wstring& percorso, Variante& contenuto) {
-    const ManigliaFile file(CreateFileW(
-        percorso.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-        nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    LARGE_INTEGER lunghezza{};
-    if (!file || !GetFileSizeEx(file.get(), &lunghezza) ||
-        lunghezza.QuadPart > std::numeric_limits<LONG>::max()) {
-        return false;
-    }
-    const auto quanti = static_cast<DWORD>(lunghezza.QuadPart);
-    const DWORD riserva = quanti >= fileGrande ? riservaInFondo : 0;
-    VARIANT* const variante = contenuto.riempi();
-    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti + riserva);
-    if (variante->parray == nullptr) {
-        solleva(errori::memoriaEsaurita);
-    }
-    variante->vt = VT_ARRAY | VT_UI1;
-    void* dati = nullptr;
-    verifica(SafeArrayAccessData(variante->parray, &dati));
-    DWORD letti = 0;
-    const bool riuscito =
-        ReadFile(file.get(), dati, quanti, &letti, nullptr) != FALSE && letti == quanti;
-    if (riserva != 0) {
-        scriviRiserva({static_cast<char*>(dati), std::size_t{quanti} + riserva});
-    }
-    verifica(SafeArrayUnaccessData(variante->parray));
-    return riuscito;
-}
-
 // Whether an entity is referred to anywhere in an element. It may be deeper than the stack.
 bool contieneRiferimenti(NodoXml elemento) {
     std::vector<NodoXml> daGuardare{std::move(elemento)};
@@ -108,6 +78,35 @@ bool contieneRiferimenti(NodoXml elemento) {
 }
 
 } // namespace
+
+// As an array that the DOM takes: given the path, it would unescape it as if it were an address,
+// and take its time to fetch a large file.
+ContenutoFile::ContenutoFile(const std::wstring& percorso) {
+    const ManigliaFile file(CreateFileW(
+        percorso.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+        nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    LARGE_INTEGER lunghezza{};
+    if (!file || !GetFileSizeEx(file.get(), &lunghezza) ||
+        lunghezza.QuadPart > std::numeric_limits<LONG>::max()) {
+        return;
+    }
+    const auto quanti = static_cast<DWORD>(lunghezza.QuadPart);
+    const DWORD riserva = quanti >= fileGrande ? riservaInFondo : 0;
+    VARIANT* const variante = variante_.riempi();
+    variante->parray = SafeArrayCreateVector(VT_UI1, 0, quanti + riserva);
+    if (variante->parray == nullptr) {
+        solleva(errori::memoriaEsaurita);
+    }
+    variante->vt = VT_ARRAY | VT_UI1;
+    // Nobody else can move the array: its bytes stay where they are.
+    auto* const dati = static_cast<char*>(variante->parray->pvData);
+    DWORD letti = 0;
+    letto_ = ReadFile(file.get(), dati, quanti, &letti, nullptr) != FALSE && letti == quanti;
+    byte_ = std::as_bytes(std::span(dati, quanti));
+    if (riserva != 0) {
+        scriviRiserva({dati, std::size_t{quanti} + riserva});
+    }
+}
 
 Bstr NodoXml::nome() const {
     Bstr nome;
@@ -184,16 +183,10 @@ DocumentoXml::DocumentoXml() : documento_(creaDocumento()) {
     verifica(documento_->put_resolveExternals(VARIANT_FALSE));
 }
 
-bool DocumentoXml::carica(const std::wstring& percorso) const {
-    // Bytes and not the path: the DOM would unescape a path as if it were an address, and take its
-    // time to fetch a large file.
-    Variante contenuto;
-    if (!leggiByte(percorso, contenuto)) {
-        return false;
-    }
+bool DocumentoXml::carica(const ContenutoFile& contenuto) const {
     VARIANT_BOOL riuscito = VARIANT_FALSE;
-    return documento_->load(contenuto.get(), &riuscito) == S_OK && riuscito != VARIANT_FALSE &&
-           riferimentiNoti();
+    return contenuto && documento_->load(contenuto.variante_.get(), &riuscito) == S_OK &&
+           riuscito != VARIANT_FALSE && riferimentiNoti();
 }
 
 // Where there is a DOCTYPE the DOM passes over what it knows no replacement of. Its declarations it

@@ -4,6 +4,8 @@
 
 #include <msxml2.h>
 
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -49,15 +51,32 @@ public:
     using NodoXml::NodoXml;
 };
 
+// All the bytes of a file, read into memory once for whoever looks at them.
+class ContenutoFile {
+public:
+    // Raises error 7 when there is no memory for it.
+    explicit ContenutoFile(const std::wstring& percorso);
+
+    // Whether the file could be read.
+    explicit operator bool() const noexcept { return letto_; }
+    [[nodiscard]] std::span<const std::byte> byte() const noexcept { return byte_; }
+
+private:
+    friend class DocumentoXml;
+
+    Variante variante_;
+    std::span<const std::byte> byte_;
+    bool letto_ = false;
+};
+
 // A document without any reach outside itself: synchronous, no validation, no external entities.
 class DocumentoXml {
 public:
     // Raises error 429 when the parser is not installed.
     DocumentoXml();
 
-    // Whether the file could be loaded, with every reference in it replaced. Any name that the file
-    // system takes will do.
-    [[nodiscard]] bool carica(const std::wstring& percorso) const;
+    // Whether what the file holds could be loaded, with every reference in it replaced.
+    [[nodiscard]] bool carica(const ContenutoFile& contenuto) const;
     // Raises the failure, also where the DOM reports a part success.
     void salva(const std::wstring& percorso) const;
 

@@ -57,7 +57,7 @@ protected:
     std::string scritto() {
         d.scrivi(percorso);
         const DocumentoXml xml;
-        EXPECT_TRUE(xml.carica(percorso));
+        EXPECT_TRUE(xml.carica(ContenutoFile(percorso)));
         const auto radici = xml.elementi(L"rss");
         EXPECT_EQ(radici.size(), 1U);
         return radici.empty() ? "" : albero(radici.front());

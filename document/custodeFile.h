@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+// Keeps what a file holds before another one takes its place.
+class CustodeFile {
+public:
+    CustodeFile() = default;
+    CustodeFile(const CustodeFile&) = delete;
+    CustodeFile& operator=(const CustodeFile&) = delete;
+
+    // Called right before a file that is there is deleted; whatever comes of it, it will be.
+    virtual void conserva(const std::wstring& percorso) noexcept = 0;
+
+protected:
+    ~CustodeFile() = default;
+};
