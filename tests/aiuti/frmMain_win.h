@@ -51,6 +51,10 @@ protected:
     void attendiErrore(std::int32_t numero, std::wstring testo) {
         messaggi.attendi(std::move(testo), L"Errore n° " + std::to_wstring(numero), Icona::Critica);
     }
+    void attendiNessunaSelezione() {
+        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
+                         Icona::Informazione);
+    }
 
     // A control of the channel's frame.
     [[nodiscard]] HWND campo(int id) { return campi.controllo(id); }

@@ -25,8 +25,6 @@ public:
     // A double click, on that row; 0 on the header and below the last row. Outside the header the
     // row has become the current one.
     virtual void grigliaDoppioClic(int riga) = 0;
-    // Another row is the current one.
-    virtual void grigliaRigaCambiata(int riga) = 0;
     // A dragged item was released on another. The table has to be changed and the grid filled
     // again, or neither; the grid then brings back its top row and selects the row of `a`.
     virtual void grigliaSposta(int da, int a) = 0;
@@ -56,7 +54,8 @@ public:
 
     // The list view itself.
     [[nodiscard]] HWND lista() const noexcept { return lista_; }
-    [[nodiscard]] const RigheGriglia& righe() const noexcept { return righe_; }
+    // The item of a row, or -1.
+    [[nodiscard]] int elemento(int riga) const noexcept { return righe_.elemento(riga); }
 
     // Only the header is left, with these captions; no row is the current one.
     void intesta(std::vector<std::wstring> titoli, int colonne);
@@ -68,9 +67,7 @@ public:
     // The current row; 0 when there is none.
     [[nodiscard]] int rigaCorrente() const noexcept { return rigaCorrente_; }
     // The item of the current row, or -1.
-    [[nodiscard]] int ElementoSelezionato() const noexcept {
-        return righe_.elemento(rigaCorrente_);
-    }
+    [[nodiscard]] int ElementoSelezionato() const noexcept { return elemento(rigaCorrente_); }
     // Makes a row the current and selected one; when no part of it was visible it becomes the top
     // row (the rows below permitting). A row outside the grid changes nothing.
     void seleziona(int riga);

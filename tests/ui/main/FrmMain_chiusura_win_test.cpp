@@ -250,5 +250,5 @@ TEST_F(FrmMainChiusura, UnCambioDelleImpostazioniRinnovaIlCarattereDellaGriglia)
     const auto dopo = reinterpret_cast<HFONT>(SendMessageW(lista, WM_GETFONT, 0, 0));
     EXPECT_NE(dopo, nullptr);
     EXPECT_NE(dopo, prima);
-    EXPECT_EQ(griglia().righe().righe(), 50);
+    EXPECT_EQ(ListView_GetItemCount(griglia().lista()), 49);
 }

@@ -32,10 +32,6 @@ protected:
         ListView_GetItemRect(griglia().lista(), riga - 1, &r, LVIR_BOUNDS);
         return {200, (r.top + r.bottom) / 2};
     }
-    void attendiNessunaSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
-    }
     void attendiCancellazione() {
         messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
                          L"Attenzione", Icona::Domanda, Pulsanti::SiNo, Risposta::Si);

@@ -18,17 +18,13 @@ protected:
     }
     [[nodiscard]] HWND lista() { return griglia().lista(); }
     [[nodiscard]] HWND pulsante(int id) {
-        return GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), id);
+        return GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), id);
     }
     // A point of a grid row.
     [[nodiscard]] POINT punto(int riga) {
         RECT r{};
         ListView_GetItemRect(lista(), riga - 1, &r, LVIR_BOUNDS);
         return {60, (r.top + r.bottom) / 2};
-    }
-    void attendiNessunaSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
     }
     void attendiCancellazione(Risposta risposta) {
         messaggi.attendi(L"Si desidera cancellare realmente il contenuto selezionato?",
@@ -234,7 +230,7 @@ TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
 TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
     riempi();
     for (const WORD tasto : {WORD{VK_RETURN}, WORD{VK_SPACE}}) {
-        SetFocus(pulsante(mnDelFeed));
+        SetFocus(pulsante(cmdCancella));
         attendiCancellazione(Risposta::No);
         premi(tasto);
         SetFocus(campo(IDC_CMDGETSIZE));

@@ -47,7 +47,7 @@ TEST_F(FrmMainAperta, AllAvvioMostraUnDocumentoNuovoEPulito) {
     EXPECT_FALSE(documento.modificato());
     EXPECT_TRUE(documento.nuovo());
     EXPECT_EQ(documento.elementi().conteggio(), 0);
-    EXPECT_EQ(griglia().righe().righe(), 50);
+    EXPECT_EQ(ListView_GetItemCount(griglia().lista()), 49);
     for (const int id : campiTesto) {
         EXPECT_EQ(testoDi(campo(id)), L"") << id;
     }
@@ -151,7 +151,7 @@ TEST_F(FrmMainAperta, IlNuovoDocumentoRiportaTuttoAlVuoto) {
     EXPECT_EQ(campi.dataOra(), orologio.locale());
     EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
     EXPECT_EQ(documento.elementi().conteggio(), 0);
-    EXPECT_EQ(griglia().righe().elemento(1), -1);
+    EXPECT_EQ(griglia().elemento(1), -1);
     EXPECT_FALSE(documento.modificato());
 }
 
@@ -291,8 +291,8 @@ TEST_F(FrmMainAperta, ITreCampiDellImmagineHannoLaStessaLarghezzaFinoAQuellaDelT
 }
 
 TEST_F(FrmMainAperta, IPulsantiDegliElementiSonoImpilatiELarghiQuantoLaStriscia) {
-    const HWND striscia = GetParent(
-        GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed));
+    const HWND striscia =
+        GetParent(GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), cmdAggiungi));
     RECT interno{};
     GetClientRect(striscia, &interno);
     LONG alto = 0;

@@ -23,10 +23,6 @@ protected:
                std::to_wstring(impostazioni.valori.size()) + L'|' +
                std::to_wstring(griglia().rigaCorrente());
     }
-    void attendiSelezione() {
-        messaggi.attendi(L"E' necessario selezionare un elemento dalla griglia.", L"Attenzione",
-                         Icona::Informazione);
-    }
     // Exports to a file and leaves it closed; gives what was written.
     [[nodiscard]] std::string esporta(const std::wstring& pagina) {
         dialoghi.attendiSalva(richiestaPagina, pagina);
@@ -164,12 +160,12 @@ TEST_F(Pagina, LAnteprimaSenzaElementoDiceDiSceglierneUnoENonScriveNulla) {
     const std::wstring temporanea = cartella.file(L"tmp");
     CreateDirectoryW(temporanea.c_str(), nullptr);
     const VariabileAmbiente tmp(L"TMP", temporanea);
-    attendiSelezione();
+    attendiNessunaSelezione();
     finestra.NuovoDocumento();
     finestra.esegui(mnvisualhtml);
     riparti();
     finestra.SelezionaRiga(10); // a filler row
-    attendiSelezione();
+    attendiNessunaSelezione();
     finestra.esegui(mnvisualhtml);
     EXPECT_TRUE(RemoveDirectoryW(temporanea.c_str())) << "not empty";
 }
