@@ -82,6 +82,16 @@ std::wstring testoCella(HWND lista, int riga, int colonna) {
     return voce.pszText;
 }
 
+bool rigaVisibile(HWND lista, int riga) {
+    RECT posto{};
+    RECT interno{};
+    RECT testata{};
+    GetClientRect(lista, &interno);
+    GetWindowRect(ListView_GetHeader(lista), &testata);
+    return ListView_GetItemRect(lista, riga - 1, &posto, LVIR_BOUNDS) &&
+           posto.top < interno.bottom && posto.bottom > testata.bottom - testata.top;
+}
+
 std::wstring GrigliaProva::titolo(int colonna) const {
     std::array<wchar_t, 100> testo{};
     LVCOLUMNW c{};

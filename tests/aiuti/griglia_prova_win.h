@@ -48,6 +48,9 @@ private:
 // What a list view shows in a cell; row 1 is its first.
 [[nodiscard]] std::wstring testoCella(HWND lista, int riga, int colonna);
 
+// Whether any part of a row is in sight below the header.
+[[nodiscard]] bool rigaVisibile(HWND lista, int riga);
+
 // A window on the screen with a filled grid, and a user's hands. Points are the screen's, in
 // pixels.
 class GrigliaProva final : private Finestra {

@@ -291,7 +291,7 @@ void Scimmia::confronta() {
             std::max(RigheGriglia::minime - 1, int{tabella.conteggio()})) {
         segnala("the grid shows other rows");
     }
-    if (griglia().trascinato() >= 0) {
+    if (GetCapture() == griglia().lista()) {
         segnala("a drag that has no end");
     }
 }

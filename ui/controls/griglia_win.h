@@ -74,11 +74,7 @@ public:
     // The first row in sight under the header, at least 1.
     [[nodiscard]] int rigaInCima() const noexcept;
     void rigaInCima(int riga) noexcept;
-    [[nodiscard]] bool visibile(int riga) const noexcept;
 
-    // 0, 12 or 99, and the item being dragged, or -1.
-    [[nodiscard]] Puntatore puntatore() const noexcept { return trascinamento_.puntatore(); }
-    [[nodiscard]] int trascinato() const noexcept { return trascinamento_.trascinato(); }
     // Gives up a drag, if there is one; for a command that begins during it.
     void abbandona() noexcept;
 
@@ -128,6 +124,7 @@ private:
     void deseleziona() noexcept;
     void numeroRighe() noexcept;
 
+    [[nodiscard]] bool visibile(int riga) const noexcept;
     [[nodiscard]] int altezzaRiga() const noexcept;
     [[nodiscard]] int altezzaTestata() const noexcept;
     // The row at a height of the list; 0 on the header, -1 below the last row.

@@ -4,6 +4,7 @@
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/tabella_prova.h"
+#include "tests/aiuti/puntatore_win.h"
 #include "ui/main/GUI_win.h"
 
 #include <windows.h>
@@ -98,7 +99,7 @@ TEST(Griglia, UnaRigaFuoriVistaDiventaLaPrimaInAlto) {
     GUI::SelezionaRiga(p.griglia, 50);
     EXPECT_EQ(p.griglia.rigaInCima(), 50);
     GUI::SelezionaRiga(p.griglia, 200);
-    EXPECT_TRUE(p.griglia.visibile(200));
+    EXPECT_TRUE(rigaVisibile(p.griglia.lista(), 200));
     EXPECT_LT(p.griglia.rigaInCima(), 200);
     // Rows that are none change nothing.
     for (const int riga : {0, -1, 201, 100000}) {
@@ -113,15 +114,15 @@ TEST(Griglia, UnaRigaDiCuiNonSiVedeNullaNonEVisibile) {
     ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);
     const int altezza = r.bottom - r.top;
     p.alta(r.top + 5 * altezza);
-    EXPECT_TRUE(p.griglia.visibile(5));
-    EXPECT_FALSE(p.griglia.visibile(6));
+    EXPECT_TRUE(rigaVisibile(p.griglia.lista(), 5));
+    EXPECT_FALSE(rigaVisibile(p.griglia.lista(), 6));
     p.griglia.seleziona(6);
     EXPECT_EQ(p.griglia.rigaInCima(), 6);
-    EXPECT_FALSE(p.griglia.visibile(5));
+    EXPECT_FALSE(rigaVisibile(p.griglia.lista(), 5));
     // One pixel is enough.
     p.griglia.rigaInCima(1);
     p.alta(r.top + 5 * altezza + 1);
-    EXPECT_TRUE(p.griglia.visibile(6));
+    EXPECT_TRUE(rigaVisibile(p.griglia.lista(), 6));
     p.griglia.seleziona(1);
     p.griglia.seleziona(6);
     EXPECT_EQ(p.griglia.rigaInCima(), 1);
@@ -159,8 +160,8 @@ TEST(Griglia, UnClicSullaRigaVisibileAMetaNonScorre) {
     const int ultima = (r.bottom - prima.top) / altezza + 1;
     // Half of the last row is in sight, or the height of the list is made to show it so.
     p.alta(prima.top + (ultima - 1) * altezza + altezza / 2 + 4);
-    ASSERT_TRUE(p.griglia.visibile(ultima));
-    ASSERT_FALSE(p.griglia.visibile(ultima + 1));
+    ASSERT_TRUE(rigaVisibile(p.griglia.lista(), ultima));
+    ASSERT_FALSE(rigaVisibile(p.griglia.lista(), ultima + 1));
     p.clic(p.punto(ultima, -altezza / 4));
     EXPECT_EQ(p.griglia.rigaCorrente(), ultima);
     EXPECT_EQ(p.griglia.rigaInCima(), 1);
@@ -185,7 +186,7 @@ TEST(Griglia, IlDoppioClicDiceLaRiga) {
     p.doppioClic(bordo);
     EXPECT_EQ(p.osservatore.doppi(),
               (std::vector<std::wstring>{L"doppio 2", L"doppio 7", L"doppio 0", L"doppio 3"}));
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_TRUE(p.osservatore.mosse().empty());
 }
 
@@ -238,7 +239,7 @@ TEST(Griglia, IlMenuDaTastieraSiApreNellaGrigliaAncheSeLaRigaNonSiVede) {
     for (const int cima : {100, 1}) {
         p.griglia.seleziona(50);
         p.griglia.rigaInCima(cima);
-        ASSERT_FALSE(p.griglia.visibile(50));
+        ASSERT_FALSE(rigaVisibile(p.griglia.lista(), 50));
         p.premiTasto(VK_APPS);
         ASSERT_FALSE(p.osservatore.menu.empty());
         EXPECT_TRUE(PtInRect(&r, p.osservatore.menu.back()));

@@ -1,6 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
 #include "tests/aiuti/spia_win.h"
+#include "tests/aiuti/puntatore_win.h"
 
 #include "support/windows/file_win.h"
 
@@ -143,7 +144,7 @@ TEST_F(FrmMainTasti, CtrlNOESOvunqueStiaIlFuoco) {
 
 TEST_F(FrmMainTasti, SalvareDaTastieraPortaPrimaLeMisureNeiLimiti) {
     metti(L"uno");
-    SetFocus(campi.txtLarghezza().txtnumero());
+    SetFocus(txtnumeroDi(campi.txtLarghezza()));
     scrivi(L"25000");
     dialoghi.attendiSalva(richiestaSalva, std::nullopt);
     premi(L'S', {VK_CONTROL});
@@ -188,7 +189,7 @@ TEST_F(FrmMainTasti, ITastiDuranteUnTrascinamentoNonContano) {
     riempi();
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(2));
-    ASSERT_EQ(griglia().trascinato(), 0);
+    ASSERT_EQ(puntatoreVisto(), Puntatore::Trascina);
     premi(VK_DELETE);
     premi(VK_RETURN);
     premi(VK_INSERT);
@@ -205,7 +206,7 @@ TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     premi(VK_ESCAPE);
-    EXPECT_EQ(griglia().trascinato(), -1);
+    EXPECT_NE(puntatoreVisto(), Puntatore::Trascina);
     EXPECT_EQ(griglia().rigaCorrente(), 1);
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
@@ -217,8 +218,7 @@ TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     const QuandoAppare menu(L"#32768", L"", [&](HWND) {
-        EXPECT_EQ(griglia().trascinato(), -1);
-        EXPECT_EQ(griglia().puntatore(), Puntatore::Predefinito);
+        EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
         EndMenu();
     });
     premi(VK_APPS);

@@ -178,7 +178,7 @@ TEST_F(FrmMainAperta, LeMisureSonoPixelInteriFinoADiecimila) {
     EXPECT_EQ(larghezza.Massimo(), 10000);
     EXPECT_EQ(larghezza.Minimo(), 0);
     EXPECT_EQ(larghezza.Incremento(), 1);
-    EXPECT_EQ(testoDi(larghezza.txtnumero()), L"0");
+    EXPECT_EQ(testoDi(txtnumeroDi(larghezza)), L"0");
 }
 
 TEST_F(FrmMainAperta, LOrarioSiLeggeSulleVentiquattroOre) {
@@ -225,8 +225,8 @@ TEST_F(FrmMainAperta, IlTabulatoreSegueLOcchio) {
                             campo(IDC_TXTLOGO),
                             campo(IDC_TXTURL),
                             campo(IDC_TXTLINKIMG),
-                            campi.txtLarghezza().txtnumero(),
-                            campi.txtAltezza().txtnumero(),
+                            txtnumeroDi(campi.txtLarghezza()),
+                            txtnumeroDi(campi.txtAltezza()),
                             campo(IDC_CMDGETSIZE),
                             griglia().lista()};
     SetFocus(ordine.front());

@@ -67,7 +67,7 @@ TEST_F(ComandiElementiGriglia, AggiungiMetteInFondoConGuidESeleziona) {
     EXPECT_TRUE(identificativo(std::wstring_view(guid).substr(davanti.size())))
         << testing::PrintToString(guid);
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 61);
-    EXPECT_TRUE(banco.griglia.griglia.visibile(61));
+    EXPECT_TRUE(rigaVisibile(banco.griglia.griglia.lista(), 61));
     EXPECT_EQ(banco.griglia.testo(61, 1), L"t nuovo\r\nd nuovo");
     EXPECT_EQ(banco.griglia.documento.ultimaData(), ieri);
     EXPECT_TRUE(banco.griglia.documento.modificato());
