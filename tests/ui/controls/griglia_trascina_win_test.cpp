@@ -1,6 +1,6 @@
 #include "tests/aiuti/griglia_prova_win.h"
-#include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/puntatore_win.h"
+#include "tests/aiuti/schermo_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"
 
@@ -220,6 +220,24 @@ TEST(GrigliaTrascina, GliAltriTastiNonContano) {
     }
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, DopoEscUnaPressioneSulBordoNonLoRiprende) {
+    GrigliaProva p(4);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(4));
+    p.premiTasto(VK_ESCAPE);
+    {
+        // Let go over another program.
+        const ConFiltro perso([](MSG& msg) { return msg.message == WM_LBUTTONUP; });
+        p.pulsante(MOUSEEVENTF_LEFTUP);
+    }
+    POINT bordo = p.punto(1);
+    bordo.x = p.sinistra() + 4;
+    p.trascina(bordo, p.punto(3));
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
 }
 
 TEST(GrigliaTrascina, CatturaPersaFuocoPersoOComandoLoAbbandonano) {

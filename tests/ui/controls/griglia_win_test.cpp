@@ -2,9 +2,9 @@
 
 #include "support/windows/errori_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/puntatore_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/tabella_prova.h"
-#include "tests/aiuti/puntatore_win.h"
 #include "ui/main/GUI_win.h"
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
-#include "tests/aiuti/spia_win.h"
 #include "tests/aiuti/puntatore_win.h"
+#include "tests/aiuti/spia_win.h"
 
 #include "support/windows/file_win.h"
 

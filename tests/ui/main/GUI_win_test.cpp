@@ -82,7 +82,8 @@ TEST(GuiSfondo, UnImmagineGuastaLasciaLoSfondoLiscio) {
         const auto percorso = cartella.scrivi(L"sfondo.bmp", contenuto);
         // The other one is for a folder without this one.
         static_cast<void>(cartella.scrivi(L"sfondo.jpg", jpg()));
-        EXPECT_EQ(dipinto(GUI::ApplicaSfondo(cartella.percorso()), 0, 0), bianco) << contenuto.size();
+        EXPECT_EQ(dipinto(GUI::ApplicaSfondo(cartella.percorso()), 0, 0), bianco)
+            << contenuto.size();
         try {
             static_cast<void>(caricaImmagine(percorso));
             ADD_FAILURE() << "no error for " << contenuto.size() << " bytes";
