@@ -41,7 +41,7 @@
 #define IDC_CMDSALVA 1
 #define IDC_CMDANNULLA 2
 
-// The about box.
+// The about box. Its OK has the number that Enter presses.
 #define IDD_FRMABOUT 300
 #define IDC_PICICON 3001
 #define IDC_IMAGE1 3002
@@ -52,6 +52,7 @@
 #define IDC_LBLAUTORE 3007
 #define IDC_LBLSITO 3008
 #define IDC_CMDSYSINFO 3009
+#define IDC_CMDOK 1
 // A picture of the type "GIF".
 #define IDR_LOGO 301
 

@@ -6,8 +6,18 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <string>
 #include <string_view>
+
+// The parts of a numeric control, found as a user finds them.
+[[nodiscard]] inline HWND txtnumeroDi(const KOInputNumerico& numero) noexcept {
+    return FindWindowExW(numero.hwnd(), nullptr, L"EDIT", nullptr);
+}
+[[nodiscard]] inline HWND UPNumDi(const KOInputNumerico& numero) noexcept {
+    return FindWindowExW(numero.hwnd(), nullptr, UPDOWN_CLASSW, nullptr);
+}
 
 // The channel's frame of a main window, found as a user finds it.
 class CampiProva {

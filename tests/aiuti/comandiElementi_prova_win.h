@@ -29,14 +29,11 @@ inline const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
 // The commands on a grid of `elementi` items.
 struct Banco {
     Banco(int elementi, EditorElementi& editor)
-        : griglia(elementi), comandi(messaggi, editor, griglia.griglia, griglia.documento) {
+        : griglia(elementi), comandi(messaggi, editor, griglia.documento) {
         griglia.documento.ultimaData(inizio);
         griglia.documento.osserva(fallita);
     }
 
-    void attendiSelezione() {
-        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
-    }
     void attendiDomanda(Risposta risposta) {
         messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
                          risposta);
@@ -45,6 +42,9 @@ struct Banco {
         return std::wstring(griglia.tabella(campo, indice));
     }
     [[nodiscard]] int selezionato() const { return griglia.griglia.ElementoSelezionato(); }
+    // On the selected item.
+    void modifica() { comandi.cmdModifica_Click(selezionato()); }
+    void cancella() { comandi.cmdCancella_Click(selezionato()); }
     void seleziona(int riga) { GUI::SelezionaRiga(griglia.griglia, riga); }
 
     MessaggiFinti messaggi;

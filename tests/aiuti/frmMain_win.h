@@ -50,6 +50,9 @@ protected:
         messaggi.attendi(std::move(testo), testi::erroreNumero(numero), Icona::Critica);
     }
     void attendiErrore(std::int32_t numero) { attendiErrore(numero, testi::diErrore(numero)); }
+    void attendiNessunaSelezione() {
+        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
+    }
 
     // A control of the channel's frame.
     [[nodiscard]] HWND campo(int id) { return campi.controllo(id); }

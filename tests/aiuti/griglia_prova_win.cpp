@@ -14,10 +14,6 @@ void OsservatoreProva::grigliaDoppioClic(int riga) {
     eventi.push_back(L"doppio " + std::to_wstring(riga));
 }
 
-void OsservatoreProva::grigliaRigaCambiata(int riga) {
-    eventi.push_back(L"riga " + std::to_wstring(riga));
-}
-
 void OsservatoreProva::grigliaSposta(int da, int a) {
     eventi.push_back(L"sposta " + std::to_wstring(da) + L" " + std::to_wstring(a));
     if (fallisce) {
@@ -75,15 +71,25 @@ void GrigliaProva::aggiungi(const std::wstring& titolo, const std::wstring& desc
     documento.applica(documento.aggiunta(elemento), Causa::Trascinamento);
 }
 
-std::wstring GrigliaProva::testo(int riga, int colonna) const {
+std::wstring testoCella(HWND lista, int riga, int colonna) {
     std::array<wchar_t, 4096> testo{};
     LVITEMW voce{};
     voce.iSubItem = colonna;
     voce.pszText = testo.data();
     voce.cchTextMax = static_cast<int>(testo.size());
-    SendMessageW(lista(), LVM_GETITEMTEXTW, static_cast<WPARAM>(riga - 1),
+    SendMessageW(lista, LVM_GETITEMTEXTW, static_cast<WPARAM>(riga - 1),
                  reinterpret_cast<LPARAM>(&voce));
     return voce.pszText;
+}
+
+bool rigaVisibile(HWND lista, int riga) {
+    RECT posto{};
+    RECT interno{};
+    RECT testata{};
+    GetClientRect(lista, &interno);
+    GetWindowRect(ListView_GetHeader(lista), &testata);
+    return ListView_GetItemRect(lista, riga - 1, &posto, LVIR_BOUNDS) &&
+           posto.top < interno.bottom && posto.bottom > testata.bottom - testata.top;
 }
 
 std::wstring GrigliaProva::titolo(int colonna) const {

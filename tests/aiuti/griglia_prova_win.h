@@ -19,7 +19,6 @@ public:
     void lega(Griglia& griglia) { griglia_ = &griglia; }
 
     void grigliaDoppioClic(int riga) override;
-    void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override {
         menu.push_back(punto);
@@ -46,6 +45,12 @@ private:
     Griglia* griglia_ = nullptr;
 };
 
+// What a list view shows in a cell; row 1 is its first.
+[[nodiscard]] std::wstring testoCella(HWND lista, int riga, int colonna);
+
+// Whether any part of a row is in sight below the header.
+[[nodiscard]] bool rigaVisibile(HWND lista, int riga);
+
 // A window on the screen with a filled grid, and a user's hands. Points are the screen's, in
 // pixels.
 class GrigliaProva final : private Finestra {
@@ -66,7 +71,9 @@ public:
     [[nodiscard]] HWND cornice() const noexcept { return hwnd(); }
 
     // What is shown.
-    [[nodiscard]] std::wstring testo(int riga, int colonna) const;
+    [[nodiscard]] std::wstring testo(int riga, int colonna) const {
+        return testoCella(lista(), riga, colonna);
+    }
     [[nodiscard]] std::wstring titolo(int colonna) const;
     [[nodiscard]] std::vector<int> selezionate() const;
     [[nodiscard]] std::vector<std::wstring> titoli() const;

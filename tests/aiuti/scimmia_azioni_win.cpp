@@ -3,6 +3,7 @@
 #include "document/elementi.h"
 #include "res/risorse.h"
 #include "support/testi/testo.h"
+#include "tests/aiuti/puntatore_win.h"
 #include "tests/aiuti/scimmia_win.h"
 
 #include <commctrl.h>
@@ -160,6 +161,8 @@ void Scimmia::trascinaInGriglia() {
     // Between the pages of a pair of clicks a double click would open the editor.
     clic(campi_.hwnd(), {1, 1});
     premiMouse(lista, *inizio);
+    const int preso =
+        puntatoreVisto() == Puntatore::Trascina ? finestra_.ElementoSelezionato() : -1;
     for (int i = caso(6); i > 0; --i) {
         muoviMouse(lista, puntoGriglia().value_or(*inizio));
     }
@@ -167,7 +170,7 @@ void Scimmia::trascinaInGriglia() {
         constexpr std::array<WORD, 4> tasti{VK_ESCAPE, VK_DELETE, VK_DOWN, VK_INSERT};
         premi(tasti[static_cast<std::size_t>(caso(4))]);
     }
-    const int da = griglia().trascinato();
+    const int da = GetCapture() == lista ? preso : -1;
     const int a = finestra_.ElementoSelezionato();
     lasciaMouse();
     static_cast<void>(sposta(da, a));

@@ -286,10 +286,11 @@ void Scimmia::confronta() {
     }
     const int scelto = finestra_.ElementoSelezionato();
     if (scelto >= tabella.conteggio() ||
-        griglia().righe().righe() != std::max(RigheGriglia::minime, tabella.conteggio() + 1)) {
+        ListView_GetItemCount(griglia().lista()) !=
+            std::max(RigheGriglia::minime - 1, int{tabella.conteggio()})) {
         segnala("the grid shows other rows");
     }
-    if (griglia().trascinato() >= 0) {
+    if (GetCapture() == griglia().lista()) {
         segnala("a drag that has no end");
     }
 }

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-// The numeric control's properties, and its container's store of them.
+// The numeric control's properties, and how they go to a bag of properties and back.
 
 namespace {
 

@@ -54,7 +54,7 @@ public:
     [[nodiscard]] bool Locked() const noexcept;
     void Locked(bool valore);
 
-    // Takes the properties from the container's store; limits are not checked against each other,
+    // Takes the properties from a bag; limits are not checked against each other,
     // the value is checked against them.
     void leggi(const BorsaProprieta& borsa);
     void scrivi(BorsaProprieta& borsa) const;
@@ -64,9 +64,6 @@ public:
     // The same for the numeric box that has the focus, if one has: commands come from menus and
     // accelerators, which leave the focus alone.
     static void lasciaQuelloColFuoco();
-
-    [[nodiscard]] HWND txtnumero() const noexcept { return txtnumero_; }
-    [[nodiscard]] HWND UPNum() const noexcept { return UPNum_; }
 
 protected:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;

@@ -23,7 +23,7 @@ struct FontProprieta {
 
 using ValoreProprieta = std::variant<bool, std::int16_t, double, std::uint32_t, FontProprieta>;
 
-// Where a control's container stores its properties, by key.
+// A bag of a control's properties, by key.
 class BorsaProprieta {
 public:
     BorsaProprieta() = default;

@@ -179,7 +179,7 @@ void Griglia::premi(POINT punto) {
     MapWindowPoints(lista_, hwnd(), &nella, 1);
     if (iniziaTrascinamento(area(), nella.x, nella.y)) {
         trascinamento_.premi(ElementoSelezionato());
-        puntatori_.mostra(puntatore());
+        puntatori_.mostra(trascinamento_.puntatore());
     }
 }
 
@@ -206,7 +206,7 @@ void Griglia::segui(POINT punto) {
     seleziona(rigaVicina(punto.y));
     trascinamento_.segui(ElementoSelezionato());
     if (trascinamento_.attivo()) {
-        puntatori_.mostra(puntatore());
+        puntatori_.mostra(trascinamento_.puntatore());
     }
 }
 
@@ -215,7 +215,7 @@ void Griglia::lascia() {
     Trascinamento::Esito esito;
     if (trascinamento_.attivo()) {
         esito = trascinamento_.rilascia(ElementoSelezionato());
-        puntatori_.mostra(puntatore());
+        puntatori_.mostra(trascinamento_.puntatore());
     }
     abbandona();
     if (!premutaQui) {

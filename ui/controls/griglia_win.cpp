@@ -225,9 +225,7 @@ void Griglia::seleziona(int riga) {
     ListView_SetSelectionMark(lista_, riga - 1);
     allineando_ = prima;
     rigaInCima(cima);
-    if (std::exchange(rigaCorrente_, riga) != riga) {
-        osservatore_.grigliaRigaCambiata(riga);
-    }
+    rigaCorrente_ = riga;
 }
 
 void Griglia::deseleziona() noexcept {

@@ -25,8 +25,6 @@ public:
     // A double click, on that row; 0 on the header and below the last row. Outside the header the
     // row has become the current one.
     virtual void grigliaDoppioClic(int riga) = 0;
-    // Another row is the current one.
-    virtual void grigliaRigaCambiata(int riga) = 0;
     // A dragged item was released on another. The table has to be changed and the grid filled
     // again, or neither; the grid then brings back its top row and selects the row of `a`.
     virtual void grigliaSposta(int da, int a) = 0;
@@ -56,7 +54,8 @@ public:
 
     // The list view itself.
     [[nodiscard]] HWND lista() const noexcept { return lista_; }
-    [[nodiscard]] const RigheGriglia& righe() const noexcept { return righe_; }
+    // The item of a row, or -1.
+    [[nodiscard]] int elemento(int riga) const noexcept { return righe_.elemento(riga); }
 
     // Only the header is left, with these captions; no row is the current one.
     void intesta(std::vector<std::wstring> titoli, int colonne);
@@ -68,20 +67,14 @@ public:
     // The current row; 0 when there is none.
     [[nodiscard]] int rigaCorrente() const noexcept { return rigaCorrente_; }
     // The item of the current row, or -1.
-    [[nodiscard]] int ElementoSelezionato() const noexcept {
-        return righe_.elemento(rigaCorrente_);
-    }
+    [[nodiscard]] int ElementoSelezionato() const noexcept { return elemento(rigaCorrente_); }
     // Makes a row the current and selected one; when no part of it was visible it becomes the top
     // row (the rows below permitting). A row outside the grid changes nothing.
     void seleziona(int riga);
     // The first row in sight under the header, at least 1.
     [[nodiscard]] int rigaInCima() const noexcept;
     void rigaInCima(int riga) noexcept;
-    [[nodiscard]] bool visibile(int riga) const noexcept;
 
-    // 0, 12 or 99, and the item being dragged, or -1.
-    [[nodiscard]] Puntatore puntatore() const noexcept { return trascinamento_.puntatore(); }
-    [[nodiscard]] int trascinato() const noexcept { return trascinamento_.trascinato(); }
     // Gives up a drag, if there is one; for a command that begins during it.
     void abbandona() noexcept;
 
@@ -131,6 +124,7 @@ private:
     void deseleziona() noexcept;
     void numeroRighe() noexcept;
 
+    [[nodiscard]] bool visibile(int riga) const noexcept;
     [[nodiscard]] int altezzaRiga() const noexcept;
     [[nodiscard]] int altezzaTestata() const noexcept;
     // The row at a height of the list; 0 on the header, -1 below the last row.

@@ -33,7 +33,7 @@ struct ProprietaNumerico {
 void scriviProprieta(BorsaProprieta& borsa, const ProprietaNumerico& proprieta,
                      const FontProprieta& ambiente);
 
-// What the control publishes of a property to form designers; an empty text where it says nothing.
+// What the control says of a property; an empty text where it says nothing.
 struct DescrizioneProprieta {
     std::wstring_view nome;
     std::wstring_view descrizione;

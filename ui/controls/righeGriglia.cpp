@@ -13,7 +13,7 @@ constexpr std::wstring_view quattroSpazi = L"    ";
 // Twips kept for the vertical scroll bar.
 constexpr double posto = 300;
 
-// A tab would split a row of a grid whose rows are tab-separated texts.
+// A tab is shown as four blanks; the stored text keeps it.
 std::wstring senzaTabulazioni(std::wstring_view testo) {
     return sostituisci(rifila(testo), L"\t", quattroSpazi);
 }

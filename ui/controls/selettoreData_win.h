@@ -27,8 +27,6 @@ public:
     // For DTN_DATETIMECHANGE: whether the value differs from the last one seen.
     [[nodiscard]] bool cambiato();
 
-    [[nodiscard]] HWND hwnd() const noexcept { return controllo_; }
-
 private:
     HWND controllo_ = nullptr;
     DataOra ultimo_;

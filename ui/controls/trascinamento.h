@@ -27,12 +27,11 @@ public:
     void abbandona() noexcept;
 
     [[nodiscard]] bool attivo() const noexcept { return attivo_; }
-    // The item being dragged, or -1.
-    [[nodiscard]] int trascinato() const noexcept { return trascinato_; }
     [[nodiscard]] Puntatore puntatore() const noexcept { return puntatore_; }
 
 private:
     bool attivo_ = false;
+    // The item being dragged, or -1.
     int trascinato_ = -1;
     Puntatore puntatore_ = Puntatore::Predefinito;
 };

@@ -11,7 +11,7 @@ class Messaggi;
 class Orologio;
 
 // The modal dialog that edits one item: fill Elemento, then mostra, then read Annullato and, where
-// it is False, Elemento and DataOra. The three stay readable after the window is gone.
+// it is false, Elemento and DataOra. The three stay readable after the window is gone.
 class FrmEditFeed final : public Dialogo {
 public:
     // An item without a date is proposed with `ultimaData`. The services outlive the dialog.

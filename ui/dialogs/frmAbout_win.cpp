@@ -133,7 +133,7 @@ bool frmAbout::inizializza() {
     misuraLogo();
 
     // The link comes first in the order of Tab; Enter is to close the box at once.
-    SetFocus(controllo(IDOK));
+    SetFocus(controllo(IDC_CMDOK));
     return false;
 }
 
@@ -161,7 +161,7 @@ void frmAbout::eccezione() noexcept {
 }
 
 bool frmAbout::comando(WORD id, WORD notifica) {
-    if (id == IDOK || id == IDCANCEL) {
+    if (id == IDC_CMDOK || id == IDCANCEL) {
         cmdOK_Click();
         return true;
     }
@@ -180,7 +180,7 @@ bool frmAbout::comando(WORD id, WORD notifica) {
             SendMessageW(hwnd(), DM_SETDEFID, IDC_LBLSITO, 0);
             break;
         case BN_KILLFOCUS:
-            SendMessageW(hwnd(), DM_SETDEFID, IDOK, 0);
+            SendMessageW(hwnd(), DM_SETDEFID, IDC_CMDOK, 0);
             break;
         default:
             break;
@@ -191,7 +191,7 @@ bool frmAbout::comando(WORD id, WORD notifica) {
 }
 
 void frmAbout::cmdOK_Click() {
-    chiudi(IDOK);
+    chiudi(IDC_CMDOK);
 }
 
 void frmAbout::cmdSysInfo_Click() const {

@@ -91,11 +91,14 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
     : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
       campi_(*this, documento), griglia_(documento.elementi(), *this), vista_(documento, griglia_),
-      comandiDocumento_(servizi, *this, documento, campi_, recenti_),
-      comandiElementi_(servizi.messaggi, servizi.editor, griglia_, documento),
-      pagina_(servizi, *this, documento, campi_, griglia_), aiuto_(servizi.messaggi),
-      acceleratori_(creaAcceleratori(scorciatoie())),
-      acceleratoriGriglia_(creaAcceleratori(scorciatoieGriglia())) {
+      parti_{*this,
+             {servizi, *this, documento, campi_, recenti_},
+             {servizi.messaggi, servizi.editor, documento},
+             {servizi, *this, documento, campi_},
+             {servizi.messaggi, *this}},
+      esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
+      acceleratori_(creaAcceleratori(Tasto::Ovunque)),
+      acceleratoriGriglia_(creaAcceleratori(Tasto::Griglia)) {
     documento.ultimaData(servizi.orologio.adesso().locale);
 }
 
@@ -161,12 +164,12 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         creaControlli();
         // Everything in its place before it is filled and seen: moved later, it would all be worked
         // out and painted twice.
-        DisponiFinestra();
+        Form_Resize();
         Form_Load();
         return 0;
     case WM_SIZE:
         SendMessageW(StatusBar1_, WM_SIZE, w, l);
-        DisponiFinestra();
+        Form_Resize();
         return 0;
     case WM_GETMINMAXINFO:
         reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = scalata(misuraMinima, areaDiLavoro());
@@ -184,12 +187,14 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         }
         break;
     case WM_CLOSE:
-        if (Form_QueryUnload()) {
-            distruggi();
-        }
+        esegui(mnChiudi);
         return 0;
-    case WM_QUERYENDSESSION:
-        return Form_QueryUnload() ? TRUE : FALSE;
+    case WM_QUERYENDSESSION: {
+        // While a dialog is up over an unfinished command the answer stays no.
+        bool chiudere = false;
+        esecutore_.daSolo([&] { chiudere = Form_QueryUnload(); });
+        return chiudere ? TRUE : FALSE;
+    }
     case WM_ENDSESSION:
         if (w != FALSE) {
             // The process does not come back from here: what goes at its end goes now.
@@ -309,7 +314,7 @@ void FrmMain::riportaErrore() noexcept {
     riportaSePuo([this] { MostraErrore(); });
 }
 
-void FrmMain::DisponiFinestra() {
+void FrmMain::Form_Resize() {
     const Dpi dpi = dpiDi(hwnd());
     const double twipsX = twipsAlPollice / dpi.x;
     const double twipsY = twipsAlPollice / dpi.y;

@@ -7,13 +7,10 @@
 #include "ui/main/GUI_win.h"
 #include "ui/main/barraStrumenti_win.h"
 #include "ui/main/campiCanale_win.h"
-#include "ui/main/comandi.h"
-#include "ui/main/comandiAiuto_win.h"
-#include "ui/main/comandiDocumento_win.h"
-#include "ui/main/comandiElementi_win.h"
-#include "ui/main/comandiPagina_win.h"
+#include "ui/main/esecutoreComandi_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/menu_win.h"
+#include "ui/main/partiComandi_win.h"
 #include "ui/main/recenti.h"
 #include "ui/main/servizi.h"
 #include "ui/main/strisciaComandi_win.h"
@@ -50,7 +47,7 @@ public:
     void ImpostaStato(std::wstring_view testo);
     void ImpostaModificato() noexcept { documento_.modificato(true); }
     void NuovoDocumento() override;
-    void RiempiGriglia(bool soloIntestazioni);
+    void RiempiGriglia(bool soloIntestazioni) override;
     // A row of the grid: row r shows item r - 1.
     void SelezionaRiga(int riga) override { GUI::SelezionaRiga(griglia_, riga); }
     // The item of the grid's current row, -1 when the row shows none.
@@ -61,46 +58,36 @@ public:
     void MostraErrore() override;
 
     // See ComandiDocumento.
-    [[nodiscard]] bool ChiediSalvataggio() { return comandiDocumento_.ChiediSalvataggio(); }
-    bool Apri(const std::wstring& percorso) { return comandiDocumento_.Apri(percorso); }
-    bool Salva(bool conNome) { return comandiDocumento_.Salva(conNome); }
+    [[nodiscard]] bool ChiediSalvataggio() { return parti_.documento.ChiediSalvataggio(); }
+    bool Apri(const std::wstring& percorso) { return parti_.documento.Apri(percorso); }
+    bool Salva(bool conNome) { return parti_.documento.Salva(conNome); }
 
-    // Runs a command as menu, toolbar and keys do. Ignored while another one is at work: a message
-    // box or a file dialog runs messages of its own.
-    void esegui(int comando);
+    // Runs a command as menu, toolbar and keys do, on the current row. Ignored while another one is
+    // at work.
+    void esegui(int comando) { esecutore_.esegui(comando, griglia_.rigaCorrente()); }
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
     void onEccezione() noexcept override { riportaErrore(); }
     void riportaErrore() noexcept override;
     void cmdGetSize_Click() override;
+    void mnChiudi_Click() override;
     [[nodiscard]] HWND proprietaria() const noexcept override { return hwnd(); }
 
     void grigliaDoppioClic(int riga) override;
-    void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override;
     void grigliaEccezione() noexcept override { riportaErrore(); }
 
     void Form_Load();
+    void Form_Resize();
     // False cancels the close.
-    [[nodiscard]] bool Form_QueryUnload();
+    [[nodiscard]] bool Form_QueryUnload() { return ChiediSalvataggio(); }
     void Form_Unload() noexcept;
-
-    // Runs an action that may show a dialog; nothing while another one is at work. An action raises
-    // only what befell the report of its failure.
-    template <class Azione>
-    void occupando(Azione azione);
 
     void creaControlli();
     // Runs the command of a key of the grid, when it is one and the grid has the focus.
     [[nodiscard]] bool acceleraGriglia(MSG& messaggio);
-    void comando(int id);
-    // What a command of an item says where the mouse found none, whichever row is the current one.
-    void avvisaNessunaRiga();
-    // The selected item goes to index `a`, where the table has one; counts as a modification.
-    void spostaSelezionato(int a);
-    void DisponiFinestra();
 
     Servizi servizi_;
     Documento& documento_;
@@ -111,13 +98,10 @@ private:
     StrisciaComandi striscia_;
     BarraStrumenti Toolbar1_;
     VistaElementi vista_;
-    ComandiDocumento comandiDocumento_;
-    ComandiElementi comandiElementi_;
-    ComandiPagina pagina_;
-    ComandiAiuto aiuto_;
+    PartiComandi parti_;
+    EsecutoreComandi esecutore_;
     Acceleratori acceleratori_;
     Acceleratori acceleratoriGriglia_;
     HWND StatusBar1_ = nullptr;
     HWND fuoco_ = nullptr;
-    bool occupata_ = false;
 };

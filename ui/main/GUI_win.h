@@ -18,8 +18,6 @@ public:
     Sfondo(ManigliaBitmap bitmap, SIZE misura) noexcept
         : bitmap_(std::move(bitmap)), misura_(misura) {}
 
-    explicit operator bool() const noexcept { return static_cast<bool>(bitmap_); }
-    [[nodiscard]] SIZE misura() const noexcept { return misura_; }
     // Paints the picture in its own size at the upper left corner.
     void disegna(HDC dc) const noexcept;
 

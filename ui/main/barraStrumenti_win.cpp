@@ -4,7 +4,6 @@
 #include "support/windows/errori_win.h"
 #include "ui/main/comandi.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace {
@@ -44,10 +43,13 @@ void BarraStrumenti::crea(HWND padre, int id, int dpi) {
     SendMessageW(barra_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(MiaLista_.get()));
 
     std::vector<TBBUTTON> pulsanti;
-    for (const PulsanteBarra& p : pulsantiBarra()) {
+    for (const RigaComando& riga : comandi()) {
+        if (riga.barra.chiave.empty()) {
+            continue;
+        }
         TBBUTTON pulsante{};
-        pulsante.iBitmap = static_cast<int>(pulsanti.size());
-        pulsante.idCommand = comandoDaChiave(p.chiave);
+        pulsante.iBitmap = riga.barra.figura;
+        pulsante.idCommand = comandoDaChiave(riga.barra.chiave);
         pulsante.fsState = TBSTATE_ENABLED;
         pulsante.fsStyle = BTNS_BUTTON;
         pulsanti.push_back(pulsante);
@@ -65,10 +67,9 @@ int BarraStrumenti::disponi() const noexcept {
 }
 
 void BarraStrumenti::suggerimento(NMTTDISPINFOW& richiesta) noexcept {
-    const auto comando = static_cast<Comando>(richiesta.hdr.idFrom);
-    const auto trovato = std::ranges::find(pulsantiBarra(), comando, &PulsanteBarra::comando);
-    if (trovato != pulsantiBarra().end()) {
+    const RigaComando* const riga = rigaDel(static_cast<int>(richiesta.hdr.idFrom));
+    if (riga != nullptr && !riga->barra.chiave.empty()) {
         // The table's texts are literals: they end with a character 0 and outlive the tooltip.
-        richiesta.lpszText = const_cast<wchar_t*>(trovato->suggerimento.data());
+        richiesta.lpszText = const_cast<wchar_t*>(riga->barra.suggerimento.data());
     }
 }

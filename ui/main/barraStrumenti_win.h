@@ -21,8 +21,6 @@ public:
     // vertical. Raises the failure to make it.
     void crea(HWND padre, int id, int dpi);
 
-    [[nodiscard]] HWND hwnd() const noexcept { return barra_; }
-
     // Follows the parent's width; gives its own height in pixels.
     int disponi() const noexcept;
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 // The commands of the main window: their numbers, and the one table from which menus, toolbar,
-// context menu and keys take what they show and run.
+// buttons and keys take what they show and run.
 
 enum Comando : std::uint16_t {
     nessunComando = 0,
@@ -35,50 +35,68 @@ enum Comando : std::uint16_t {
     spostaInFondo,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
+    ultimoRecente = mnrec + 10,
+    // The buttons of PicCmd bear the numbers of what they run.
+    cmdAggiungi = mnaddFeed,
+    cmdModifica = mnEditFeed,
+    cmdCancella = mnDelFeed,
 };
-inline constexpr std::uint16_t ultimoRecente = mnrec + 10;
 
 inline constexpr std::wstring_view nessunaVoce = L"nessuna voce in elenco";
 
-// An entry of a menu; a separator has the caption "-" and no command.
-struct VoceMenu {
-    Comando comando;
-    std::wstring_view didascalia;
-};
+// The top menus, from left to right. `mnContenuto` is the grid's context menu too.
+enum class Menu : std::uint8_t { Nessuno, mnFile, mnContenuto, mnHelp };
 
-// A top menu.
 struct MenuPrincipale {
+    Menu menu;
     std::wstring_view didascalia;
-    std::span<const VoceMenu> voci;
 };
-
 [[nodiscard]] std::span<const MenuPrincipale> menuPrincipali() noexcept;
 
-// The menu mnContenuto, which is the grid's context menu too.
-[[nodiscard]] const MenuPrincipale& mnContenuto() noexcept;
+// A key that runs a command: a virtual key code, 0 for none.
+struct Tasto {
+    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt };
+    // Wherever the focus is, or while the grid has it.
+    enum Dove : std::uint8_t { Ovunque, Griglia };
+    std::uint16_t codice = 0;
+    Modificatore modificatore = Nessuno;
+    Dove dove = Ovunque;
+};
 
-// A button of the toolbar, with the place of its picture in the strip.
+// A button of the toolbar, with the place of its picture in the strip of pictures.
 struct PulsanteBarra {
     std::wstring_view chiave;
     std::wstring_view suggerimento;
-    Comando comando;
+    int figura = 0;
 };
 
-[[nodiscard]] std::span<const PulsanteBarra> pulsantiBarra() noexcept;
+// A button of the strip PicCmd.
+struct PulsanteStriscia {
+    std::uint16_t id = 0;
+    std::wstring_view didascalia;
+};
+
+struct PartiComandi;
+
+// A command; what it has not is left empty. One without a number is a separator of its menu.
+struct RigaComando {
+    Comando comando = nessunComando;
+    Menu menu = Menu::Nessuno;
+    std::wstring_view didascalia{};
+    Tasto tasto{};
+    PulsanteBarra barra{};
+    PulsanteStriscia striscia{};
+    // Where there is no item, the user is told to select one, and nothing runs.
+    bool vuoleElemento = false;
+    // Runs it, on the item of that index; -1 where there is none.
+    void (*esegui)(PartiComandi& parti, int elemento) = nullptr;
+};
+
+// In the order of the menus, which is that of the toolbar and of the strip.
+[[nodiscard]] std::span<const RigaComando> comandi() noexcept;
+
+// The row of a command; null for a number that has none.
+[[nodiscard]] const RigaComando* rigaDel(int comando) noexcept;
 
 // The command of a toolbar key, compared exactly; none for a key that is unknown.
 [[nodiscard]] Comando comandoDaChiave(std::wstring_view chiave) noexcept;
-
-// A key that runs a command.
-struct Scorciatoia {
-    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt };
-    // A virtual key code.
-    std::uint16_t tasto;
-    Modificatore modificatore;
-    Comando comando;
-};
-
-// Wherever the focus is.
-[[nodiscard]] std::span<const Scorciatoia> scorciatoie() noexcept;
-// While the grid has it.
-[[nodiscard]] std::span<const Scorciatoia> scorciatoieGriglia() noexcept;

@@ -6,6 +6,7 @@
 #include "support/windows/file_win.h"
 #include "support/windows/guardia_win.h"
 #include "ui/dialogs/frmAbout_win.h"
+#include "ui/main/finestraPrincipale_win.h"
 
 std::wstring fileGuida() {
     std::wstring cartella = cartellaProgramma();
@@ -15,37 +16,36 @@ std::wstring fileGuida() {
     return fileEsiste(base + L".hlp") ? base + L".hlp" : base + L".htm";
 }
 
-void ComandiAiuto::mnGuida_Click(HWND finestra) {
+void ComandiAiuto::mnGuida_Click() {
     const koUtilita utilita(messaggi_);
-    protetto([&] { utilita.EseguiEx(finestra, fileGuida()); }, [&] { utilita.PrintErrore(); });
+    protetto([&] { utilita.EseguiEx(finestra_.proprietaria(), fileGuida()); },
+             [&] { utilita.PrintErrore(); });
 }
 
-bool ComandiAiuto::esegui(Comando comando, HWND finestra) {
-    const std::wstring sito(prodotto::sito);
-    switch (comando) {
-    case mnGuida:
-        mnGuida_Click(finestra);
-        return true;
-    case mniaco:
-        koUtilita::Homepage(finestra);
-        return true;
-    case mnguidaonline:
-        koUtilita::GoWeb(finestra, sito + L"/home/guide.htm");
-        return true;
-    case mnautore:
-        koUtilita::EMail(finestra);
-        return true;
-    case mnVerificaUpgrade:
-        koUtilita::GoWeb(finestra, sito + L"/ostrelle.asp?ver=" + prodotto::versione(L'+'));
-        return true;
-    case mnBug:
-        koUtilita::GoWeb(finestra, sito + L"/bug.asp?prg=" + std::wstring(prodotto::titolo) +
-                                       L"%20v" + prodotto::versione());
-        return true;
-    case mninfo:
-        frmAbout(messaggi_).mostra(finestra);
-        return true;
-    default:
-        return false;
-    }
+void ComandiAiuto::mniaco_Click() {
+    koUtilita::Homepage(finestra_.proprietaria());
+}
+
+void ComandiAiuto::mnguidaonline_Click() {
+    koUtilita::GoWeb(finestra_.proprietaria(), std::wstring(prodotto::sito) + L"/home/guide.htm");
+}
+
+void ComandiAiuto::mnautore_Click() {
+    koUtilita::EMail(finestra_.proprietaria());
+}
+
+void ComandiAiuto::mnVerificaUpgrade_Click() {
+    koUtilita::GoWeb(finestra_.proprietaria(), std::wstring(prodotto::sito) +
+                                                   L"/ostrelle.asp?ver=" +
+                                                   prodotto::versione(L'+'));
+}
+
+void ComandiAiuto::mnBug_Click() {
+    koUtilita::GoWeb(finestra_.proprietaria(), std::wstring(prodotto::sito) + L"/bug.asp?prg=" +
+                                                   std::wstring(prodotto::titolo) + L"%20v" +
+                                                   prodotto::versione());
+}
+
+void ComandiAiuto::mninfo_Click() {
+    frmAbout(messaggi_).mostra(finestra_.proprietaria());
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "ui/main/comandi.h"
-
-#include <windows.h>
-
 #include <string>
 
+class FinestraPrincipale;
 class Messaggi;
 
 // The help file of the program: its own path with ".hlp" for ".exe", or with ".htm" where there is
@@ -16,13 +13,19 @@ class Messaggi;
 // box. Failures are reported.
 class ComandiAiuto {
 public:
-    explicit ComandiAiuto(Messaggi& messaggi) noexcept : messaggi_(messaggi) {}
+    // Both outlive the commands; the window owns what is shown.
+    ComandiAiuto(Messaggi& messaggi, FinestraPrincipale& finestra) noexcept
+        : messaggi_(messaggi), finestra_(finestra) {}
 
-    // Whether the command was one of these. `finestra` owns what is shown.
-    bool esegui(Comando comando, HWND finestra);
+    void mnGuida_Click();
+    void mniaco_Click();
+    void mnguidaonline_Click();
+    void mnautore_Click();
+    void mnVerificaUpgrade_Click();
+    void mnBug_Click();
+    void mninfo_Click();
 
 private:
-    void mnGuida_Click(HWND finestra);
-
     Messaggi& messaggi_;
+    FinestraPrincipale& finestra_;
 };

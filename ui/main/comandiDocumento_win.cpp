@@ -49,6 +49,12 @@ void ComandiDocumento::mnNuovo_Click() {
     }
 }
 
+void ComandiDocumento::mnrec_Click(std::size_t posizione) {
+    // A copy: the list is read anew while the file opens.
+    const std::wstring percorso = recenti_.voci().at(posizione - 1);
+    Apri(percorso);
+}
+
 bool ComandiDocumento::Apri(const std::wstring& percorso) {
     bool aperto = false;
     protetto(

@@ -2,6 +2,7 @@
 
 #include "ui/main/servizi.h"
 
+#include <cstddef>
 #include <string>
 
 class CampiCanale;
@@ -21,14 +22,19 @@ public:
     // Whether the document may be discarded: unmodified, empty, saved on Yes, or given up on No.
     [[nodiscard]] bool ChiediSalvataggio();
 
-    // Opens a file; asks for one when `percorso` is empty. Failures are reported; True on success.
+    // Opens a file; asks for one when `percorso` is empty. Failures are reported; true on success.
     bool Apri(const std::wstring& percorso);
 
-    // Saves; asks for the file with `conNome` or when there is none. Failures are reported; True
+    // Saves; asks for the file with `conNome` or when there is none. Failures are reported; true
     // on success.
     bool Salva(bool conNome);
 
     void mnNuovo_Click();
+    void mnApri_Click() { Apri(L""); }
+    void mnsalva_Click() { Salva(false); }
+    void mnSalvaCon_Click() { Salva(true); }
+    // An entry of the recent files, from 1.
+    void mnrec_Click(std::size_t posizione);
 
 private:
     // False when a field refused what it was given, which was told; the items are there all the

@@ -6,33 +6,15 @@
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/guardia_win.h"
-#include "ui/controls/griglia_win.h"
 #include "ui/dialogs/editorElementi.h"
 
-void avvisaNessunaSelezione(Messaggi& messaggi) {
-    messaggi.avvisa(L"E' necessario selezionare un elemento dalla griglia.", titoli::attenzione,
-                    Icona::Informazione);
-}
-
-template <class Comando>
-void ComandiElementi::esegui(Comando comando) {
-    protetto(comando, [&] { koUtilita(messaggi_).PrintErrore(); });
-}
-
-template <class Comando>
-void ComandiElementi::conSelezionato(Comando comando) {
-    esegui([&] {
-        const int selezionato = griglia_.ElementoSelezionato();
-        if (selezionato < 0) {
-            avvisaNessunaSelezione(messaggi_);
-            return;
-        }
-        comando(selezionato);
-    });
+template <class Azione>
+void ComandiElementi::riportando(Azione azione) {
+    protetto(azione, [&] { koUtilita(messaggi_).PrintErrore(); });
 }
 
 void ComandiElementi::cmdAggiungi_Click() {
-    esegui([&] {
+    riportando([&] {
         // Told before the user has written what could not be kept.
         richiediPosto(documento_.elementi());
         clsItemRss nuovo;
@@ -47,26 +29,32 @@ void ComandiElementi::cmdAggiungi_Click() {
     });
 }
 
-void ComandiElementi::cmdModifica_Click() {
-    conSelezionato([&](int selezionato) {
+void ComandiElementi::cmdModifica_Click(int elemento) {
+    riportando([&] {
         // The editor knows nothing of the guid, which stays the table's.
-        const std::wstring guid(documento_.elementi()(CampoElemento::Guid, selezionato));
-        clsItemRss elemento;
-        elemento.riempi(*documento_.elementi().elemento(selezionato));
-        elemento.sGuid(L"");
-        if (!editor_.modifica(elemento, documento_.ultimaData())) {
+        const std::wstring guid(documento_.elementi()(CampoElemento::Guid, elemento));
+        clsItemRss modificato;
+        modificato.riempi(*documento_.elementi().elemento(elemento));
+        modificato.sGuid(L"");
+        if (!editor_.modifica(modificato, documento_.ultimaData())) {
             return;
         }
-        elemento.sGuid(guid);
-        documento_.applica(documento_.cambio(selezionato, elemento.elemento()));
+        modificato.sGuid(guid);
+        documento_.applica(documento_.cambio(elemento, modificato.elemento()));
     });
 }
 
-void ComandiElementi::cmdCancella_Click() {
-    conSelezionato([&](int selezionato) {
+void ComandiElementi::cmdCancella_Click(int elemento) {
+    riportando([&] {
         if (messaggi_.mostra(L"Si desidera cancellare realmente il contenuto selezionato?",
                              titoli::attenzione, Icona::Domanda, Pulsanti::SiNo) == Risposta::Si) {
-            documento_.applica(documento_.rimozione(selezionato));
+            documento_.applica(documento_.rimozione(elemento));
         }
     });
+}
+
+void ComandiElementi::SpostaElemento(int da, int a, Causa causa) {
+    if (da >= 0 && a != da && a >= 0 && a <= ultimo()) {
+        documento_.applica(documento_.spostamento(da, a), causa);
+    }
 }

@@ -3,41 +3,33 @@
 #include "document/documento.h"
 
 class EditorElementi;
-class Griglia;
 class Messaggi;
-
-// Says that a command needs an item selected in the grid.
-void avvisaNessunaSelezione(Messaggi& messaggi);
 
 // Add, edit, delete and move, on the document. A command that fails is reported and leaves the
 // items as they were.
 class ComandiElementi {
 public:
-    // All outlive the commands; the grid is asked for the selected item only. Each added item
-    // leaves its date as the document's last one.
-    ComandiElementi(Messaggi& messaggi, EditorElementi& editor, const Griglia& griglia,
-                    Documento& documento) noexcept
-        : messaggi_(messaggi), editor_(editor), griglia_(griglia), documento_(documento) {}
+    // All outlive the commands. Each added item leaves its date as the document's last one.
+    ComandiElementi(Messaggi& messaggi, EditorElementi& editor, Documento& documento) noexcept
+        : messaggi_(messaggi), editor_(editor), documento_(documento) {}
 
     void cmdAggiungi_Click();
-    void cmdModifica_Click();
-    void cmdCancella_Click();
+    void cmdModifica_Click(int elemento);
+    void cmdCancella_Click(int elemento);
 
-    // The item at `da` ends at index `a`, the others keep their order. Raises error 9.
-    void SpostaElemento(int da, int a, Causa causa) {
-        documento_.applica(documento_.spostamento(da, a), causa);
-    }
+    // The item at `da` ends at index `a`, the others keep their order; nothing where there is no
+    // such item, or no other place.
+    void SpostaElemento(int da, int a, Causa causa);
+
+    // The last item; -1 when there is none.
+    [[nodiscard]] int ultimo() const noexcept { return documento_.elementi().conteggio() - 1; }
 
 private:
-    // Runs a command; reports its failure.
-    template <class Comando>
-    void esegui(Comando comando);
-    // Runs `comando` with the selected item, or says that one has to be selected.
-    template <class Comando>
-    void conSelezionato(Comando comando);
+    // Runs an action; reports its failure.
+    template <class Azione>
+    void riportando(Azione azione);
 
     Messaggi& messaggi_;
     EditorElementi& editor_;
-    const Griglia& griglia_;
     Documento& documento_;
 };

@@ -9,10 +9,8 @@
 #include "support/utilita/koUtilita.h"
 #include "support/windows/file_win.h"
 #include "support/windows/guardia_win.h"
-#include "ui/controls/griglia_win.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
-#include "ui/main/comandiElementi_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 
 namespace {
@@ -45,16 +43,11 @@ void ComandiPagina::EsportaHTML() {
         [&] { finestra_.MostraErrore(); });
 }
 
-void ComandiPagina::mnvisualhtml_Click() {
+void ComandiPagina::mnvisualhtml_Click(int elemento) {
     protetto(
         [&] {
-            const int indice = griglia_.ElementoSelezionato();
-            if (indice < 0) {
-                avvisaNessunaSelezione(servizi_.messaggi);
-                return;
-            }
             TabellaElementi scelto;
-            scelto.riempi({documento_.elementi().elemento(indice)});
+            scelto.riempi({documento_.elementi().elemento(elemento)});
             const std::wstring pagina = clsFeedRss().VisualizzaItemHTML(scelto, servizi_.coda);
             koUtilita(servizi_.messaggi).EseguiEx(finestra_.proprietaria(), pagina);
         },

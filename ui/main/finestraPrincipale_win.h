@@ -14,9 +14,11 @@ public:
     virtual void NuovoDocumento() = 0;
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
     virtual void CaricaRecenti() = 0;
+    virtual void RiempiGriglia(bool soloIntestazioni) = 0;
     // A row that the grid lacks changes nothing.
     virtual void SelezionaRiga(int riga) = 0;
     virtual void cmdGetSize_Click() = 0;
+    virtual void mnChiudi_Click() = 0;
     // Owns what the shell shows.
     [[nodiscard]] virtual HWND proprietaria() const noexcept = 0;
     // Report the exception being handled; the second where nothing may be raised.

@@ -19,20 +19,6 @@ void aggiungiSottomenu(HMENU menu, ManigliaMenu sottomenu, std::wstring_view did
     static_cast<void>(sottomenu.cedi());
 }
 
-ManigliaMenu creaMenu(const MenuPrincipale& principale) {
-    ManigliaMenu menu(CreatePopupMenu());
-    for (const VoceMenu& voce : principale.voci) {
-        if (voce.comando == nessunComando) {
-            aggiungi(menu.get(), MF_SEPARATOR, 0, L"");
-        } else if (voce.comando == mnrecenti) {
-            aggiungiSottomenu(menu.get(), ManigliaMenu(CreatePopupMenu()), voce.didascalia);
-        } else {
-            aggiungi(menu.get(), MF_STRING, voce.comando, std::wstring(voce.didascalia));
-        }
-    }
-    return menu;
-}
-
 // The only submenu of the first menu.
 HMENU sottomenuRecenti(HMENU barra) {
     const HMENU file = GetSubMenu(barra, 0);
@@ -46,16 +32,36 @@ HMENU sottomenuRecenti(HMENU barra) {
 
 } // namespace
 
-Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie) {
+ManigliaMenu creaMenu(Menu menu) {
+    ManigliaMenu fatto(CreatePopupMenu());
+    for (const RigaComando& riga : comandi()) {
+        if (riga.menu != menu) {
+            continue;
+        }
+        if (riga.comando == nessunComando) {
+            aggiungi(fatto.get(), MF_SEPARATOR, 0, L"");
+        } else if (riga.comando == mnrecenti) {
+            aggiungiSottomenu(fatto.get(), ManigliaMenu(CreatePopupMenu()), riga.didascalia);
+        } else {
+            aggiungi(fatto.get(), MF_STRING, riga.comando, std::wstring(riga.didascalia));
+        }
+    }
+    return fatto;
+}
+
+Acceleratori creaAcceleratori(Tasto::Dove dove) {
     std::vector<ACCEL> voci;
-    for (const Scorciatoia& s : scorciatoie) {
+    for (const RigaComando& riga : comandi()) {
+        if (riga.tasto.codice == 0 || riga.tasto.dove != dove) {
+            continue;
+        }
         BYTE come = FVIRTKEY;
-        if (s.modificatore == Scorciatoia::Controllo) {
+        if (riga.tasto.modificatore == Tasto::Controllo) {
             come |= FCONTROL;
-        } else if (s.modificatore == Scorciatoia::Alt) {
+        } else if (riga.tasto.modificatore == Tasto::Alt) {
             come |= FALT;
         }
-        voci.push_back({come, s.tasto, s.comando});
+        voci.push_back({come, riga.tasto.codice, riga.comando});
     }
     Acceleratori tabella(CreateAcceleratorTableW(voci.data(), static_cast<int>(voci.size())));
     if (!tabella) {
@@ -67,7 +73,7 @@ Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie) {
 ManigliaMenu creaBarraMenu() {
     ManigliaMenu barra(CreateMenu());
     for (const MenuPrincipale& principale : menuPrincipali()) {
-        aggiungiSottomenu(barra.get(), creaMenu(principale), principale.didascalia);
+        aggiungiSottomenu(barra.get(), creaMenu(principale.menu), principale.didascalia);
     }
     return barra;
 }
@@ -84,8 +90,4 @@ void mostraRecenti(HMENU barra, std::span<const std::wstring> voci) {
     for (const std::wstring& voce : voci) {
         aggiungi(menu, MF_STRING, ++id, didascaliaMenu(voce));
     }
-}
-
-ManigliaMenu creaMenuContenuto() {
-    return creaMenu(mnContenuto());
 }

@@ -13,7 +13,8 @@ struct TrattiAcceleratori {
 };
 using Acceleratori = Maniglia<TrattiAcceleratori>;
 
-[[nodiscard]] Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie);
+// The keys of all commands that work there.
+[[nodiscard]] Acceleratori creaAcceleratori(Tasto::Dove dove);
 
 // The main window's menu bar, made from the table of commands.
 [[nodiscard]] ManigliaMenu creaBarraMenu();
@@ -21,5 +22,5 @@ using Acceleratori = Maniglia<TrattiAcceleratori>;
 // Rebuilds the submenu of recent files: the disabled placeholder alone, or the files.
 void mostraRecenti(HMENU barra, std::span<const std::wstring> voci);
 
-// The menu mnContenuto as a context menu, on its own.
-[[nodiscard]] ManigliaMenu creaMenuContenuto();
+// A top menu, on its own.
+[[nodiscard]] ManigliaMenu creaMenu(Menu menu);

@@ -6,7 +6,7 @@
 
 class Impostazioni;
 
-// The list of recently saved files, the most recent first, in the settings store: section "url",
+// The list of recently saved files, the most recent first, in the settings: section "url",
 // keys "murl1" to "murl10", paths in lower case.
 class ElencoRecenti {
 public:
@@ -18,7 +18,7 @@ public:
     void CaricaRecenti();
 
     // Puts a path at the top, stores the list as it was read and reads it again. A path stands
-    // once, whatever its case. What the store holds below that list stays. Raises the store's
+    // once, whatever its case. What the settings hold below that list stays. Raises the settings'
     // failure.
     void AggiungiRecente(std::wstring_view path);
 

@@ -1,26 +1,14 @@
 #include "ui/main/strisciaComandi_win.h"
 
+#include "res/risorse.h"
 #include "support/windows/errori_win.h"
 #include "ui/main/comandi.h"
 
-#include <algorithm>
-#include <array>
+#include <string>
 
 namespace {
 
 constexpr const wchar_t* classe = L"OstrellePicCmd";
-
-struct Pulsante {
-    Comando comando;
-    const wchar_t* didascalia;
-};
-
-// From top to bottom: cmdAggiungi, cmdModifica, cmdCancella.
-constexpr std::array pulsanti{
-    Pulsante{mnaddFeed, L"Aggiungi Feed"},
-    Pulsante{mnEditFeed, L"Modifica Feed"},
-    Pulsante{mnDelFeed, L"Cancella Feed"},
-};
 
 } // namespace
 
@@ -31,12 +19,16 @@ void StrisciaComandi::crea(HWND padre, HFONT carattere) {
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registra(descrizione);
     Finestra::crea(classe, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
-                   RECT{}, padre);
+                   RECT{}, padre, reinterpret_cast<HMENU>(UINT_PTR{IDC_PICCMD}));
 
-    for (const Pulsante& p : pulsanti) {
+    for (const RigaComando& riga : comandi()) {
+        if (riga.striscia.id == 0) {
+            continue;
+        }
         const HWND pulsante =
-            CreateWindowExW(0, L"BUTTON", p.didascalia, WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 0,
-                            0, hwnd(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(p.comando)),
+            CreateWindowExW(0, L"BUTTON", std::wstring(riga.striscia.didascalia).c_str(),
+                            WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 0, 0, hwnd(),
+                            reinterpret_cast<HMENU>(UINT_PTR{riga.striscia.id}),
                             GetModuleHandleW(nullptr), nullptr);
         if (pulsante == nullptr) {
             sollevaWin32();
@@ -51,10 +43,12 @@ LRESULT StrisciaComandi::messaggio(UINT codice, WPARAM w, LPARAM l) {
     }
     if (codice == WM_SIZE) {
         int alto = 0;
-        for (const Pulsante& p : pulsanti) {
-            SetWindowPos(GetDlgItem(hwnd(), p.comando), nullptr, 0, alto, LOWORD(l),
-                         altezzaPulsante_, SWP_NOZORDER | SWP_NOACTIVATE);
-            alto += altezzaPulsante_;
+        for (const RigaComando& riga : comandi()) {
+            if (riga.striscia.id != 0) {
+                SetWindowPos(GetDlgItem(hwnd(), riga.striscia.id), nullptr, 0, alto, LOWORD(l),
+                             altezzaPulsante_, SWP_NOZORDER | SWP_NOACTIVATE);
+                alto += altezzaPulsante_;
+            }
         }
         return 0;
     }

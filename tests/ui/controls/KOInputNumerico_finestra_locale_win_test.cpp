@@ -67,10 +67,10 @@ TEST_F(NumericoFinestra, DisabilitatoCambiaSfondoEPulsanti) {
     EXPECT_EQ(pennello(WM_CTLCOLOREDIT), GetSysColorBrush(COLOR_WINDOW));
     numero->Enabled(false);
     EXPECT_FALSE(IsWindowEnabled(casella));
-    EXPECT_FALSE(IsWindowEnabled(numero->UPNum()));
+    EXPECT_FALSE(IsWindowEnabled(UPNumDi(*numero)));
     EXPECT_EQ(pennello(WM_CTLCOLORSTATIC), GetSysColorBrush(COLOR_BTNFACE));
     numero->Enabled(true);
-    EXPECT_TRUE(IsWindowEnabled(numero->UPNum()));
+    EXPECT_TRUE(IsWindowEnabled(UPNumDi(*numero)));
     EXPECT_EQ(pennello(WM_CTLCOLOREDIT), GetSysColorBrush(COLOR_WINDOW));
     EnableWindow(numero->hwnd(), FALSE);
     EXPECT_FALSE(numero->Enabled());
@@ -86,7 +86,7 @@ TEST_F(NumericoFinestra, IlColoreDelTestoArrivaAlDipinto) {
 
 TEST_F(NumericoFinestra, IPulsantiStannoADestraDelTesto) {
     RECT pulsanti{};
-    GetWindowRect(numero->UPNum(), &pulsanti);
+    GetWindowRect(UPNumDi(*numero), &pulsanti);
     const int proprio = pulsanti.right - pulsanti.left;
     for (const auto& [largo, alto] : std::vector<std::pair<int, int>>{{200, 30}, {90, 18}}) {
         SetWindowPos(numero->hwnd(), nullptr, 0, 0, largo, alto, SWP_NOZORDER | SWP_NOMOVE);
@@ -94,7 +94,7 @@ TEST_F(NumericoFinestra, IPulsantiStannoADestraDelTesto) {
         RECT testoR{};
         GetWindowRect(numero->hwnd(), &controllo);
         GetWindowRect(casella, &testoR);
-        GetWindowRect(numero->UPNum(), &pulsanti);
+        GetWindowRect(UPNumDi(*numero), &pulsanti);
         EXPECT_EQ(testoR.left, controllo.left);
         EXPECT_EQ(testoR.top, controllo.top);
         EXPECT_EQ(testoR.right - testoR.left, largo - proprio);
@@ -107,7 +107,7 @@ TEST_F(NumericoFinestra, IPulsantiStannoADestraDelTesto) {
     SetWindowPos(numero->hwnd(), nullptr, 0, 0, 1, 1, SWP_NOZORDER | SWP_NOMOVE);
     RECT testoR{};
     GetWindowRect(casella, &testoR);
-    GetWindowRect(numero->UPNum(), &pulsanti);
+    GetWindowRect(UPNumDi(*numero), &pulsanti);
     EXPECT_EQ(testoR.right - testoR.left, 90 - proprio);
     EXPECT_EQ(pulsanti.left, testoR.right);
     EXPECT_EQ(pulsanti.right - pulsanti.left, proprio);

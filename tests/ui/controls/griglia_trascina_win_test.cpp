@@ -1,4 +1,5 @@
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/puntatore_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"
@@ -22,8 +23,7 @@ TEST(GrigliaTrascina, IlPrimoSulTerzo) {
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
     EXPECT_EQ(p.selezionate(), std::vector<int>{3});
     EXPECT_EQ(p.testo(3, 1), L"titolo 0\r\ndescrizione 0");
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
-    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
@@ -37,25 +37,20 @@ TEST(GrigliaTrascina, LUltimoSulSecondo) {
 TEST(GrigliaTrascina, PuntatoreERigaCorrenteSeguonoIlMouse) {
     GrigliaProva p(4);
     p.vai(p.punto(2));
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
-    EXPECT_EQ(p.griglia.trascinato(), 1);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     EXPECT_EQ(GetCapture(), p.lista());
     p.vai(p.punto(3));
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
     EXPECT_EQ(p.selezionate(), std::vector<int>{3});
     p.vai(p.punto(6));
     EXPECT_EQ(p.griglia.rigaCorrente(), 6);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Vietato);
-    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_NO));
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Vietato);
     p.vai(p.punto(4));
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
-    EXPECT_NE(GetCursor(), LoadCursorW(nullptr, IDC_NO));
-    EXPECT_NE(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     p.pulsante(MOUSEEVENTF_LEFTUP);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
-    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 3"});
 }
 
@@ -75,10 +70,10 @@ TEST(GrigliaTrascina, IlPuntatoreCambiaAllaPressioneETornaAlRilascioSenzaAltriMo
     // On a row that is no item.
     p.vai(p.punto(7));
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Vietato);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Vietato);
     EXPECT_EQ(GetCursor(), vietato);
     p.vai(p.punto(3));
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Trascina);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     SendMessageW(p.lista(), WM_CANCELMODE, 0, 0);
     EXPECT_EQ(GetCursor(), freccia);
     p.pulsante(MOUSEEVENTF_LEFTUP);
@@ -97,7 +92,7 @@ TEST(GrigliaTrascina, SuSeStessoOSuUnaRigaVuotaNonCambiaNulla) {
     EXPECT_EQ(p.griglia.rigaCorrente(), 2);
     EXPECT_EQ(p.titoli(), prima);
     EXPECT_TRUE(p.osservatore.mosse().empty());
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
 }
 
 TEST(GrigliaTrascina, NonDaiBordiNeDallIntestazione) {
@@ -166,8 +161,7 @@ TEST(GrigliaTrascina, EscLoAbbandonaETornaLaRigaCheEraSelezionata) {
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
     p.vai(p.punto(4));
     p.premiTasto(VK_ESCAPE);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
-    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(p.griglia.rigaCorrente(), 2);
     EXPECT_EQ(p.selezionate(), std::vector<int>{2});
@@ -189,7 +183,7 @@ TEST(GrigliaTrascina, ConEscTornaAncheLaVista) {
         p.vai({x + i, r.bottom - 4});
     }
     p.rotella(-5);
-    ASSERT_FALSE(p.griglia.visibile(52));
+    ASSERT_FALSE(rigaVisibile(p.griglia.lista(), 52));
     p.premiTasto(VK_ESCAPE);
     EXPECT_EQ(p.griglia.rigaInCima(), 50);
     EXPECT_EQ(p.griglia.rigaCorrente(), 52);
@@ -206,10 +200,10 @@ TEST(GrigliaTrascina, EscArrivaAllaGrigliaAncheInUnDialogo) {
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
     p.vai(p.punto(3));
     p.premiTasto(VK_TAB);
-    EXPECT_EQ(p.griglia.trascinato(), 0);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     EXPECT_EQ(GetFocus(), p.lista());
     p.premiTasto(VK_ESCAPE);
-    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_NE(puntatoreVisto(), Puntatore::Trascina);
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(p.osservatore.mosse().empty());
 }
@@ -222,10 +216,28 @@ TEST(GrigliaTrascina, GliAltriTastiNonContano) {
     for (const int tasto : {VK_DOWN, VK_HOME, VK_END, VK_RETURN, VK_DELETE, VK_SPACE}) {
         p.premiTasto(static_cast<WORD>(tasto));
         EXPECT_EQ(p.griglia.rigaCorrente(), 3);
-        EXPECT_EQ(p.griglia.trascinato(), 0);
+        EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     }
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 0 2"});
+}
+
+TEST(GrigliaTrascina, DopoEscUnaPressioneSulBordoNonLoRiprende) {
+    GrigliaProva p(4);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    p.vai(p.punto(4));
+    p.premiTasto(VK_ESCAPE);
+    {
+        // Let go over another program.
+        const ConFiltro perso([](MSG& msg) { return msg.message == WM_LBUTTONUP; });
+        p.pulsante(MOUSEEVENTF_LEFTUP);
+    }
+    POINT bordo = p.punto(1);
+    bordo.x = p.sinistra() + 4;
+    p.trascina(bordo, p.punto(3));
+    EXPECT_TRUE(p.osservatore.mosse().empty());
+    EXPECT_EQ(p.griglia.rigaCorrente(), 3);
 }
 
 TEST(GrigliaTrascina, CatturaPersaFuocoPersoOComandoLoAbbandonano) {
@@ -241,10 +253,9 @@ TEST(GrigliaTrascina, CatturaPersaFuocoPersoOComandoLoAbbandonano) {
         p.vai(p.punto(1));
         p.pulsante(MOUSEEVENTF_LEFTDOWN);
         p.vai(p.punto(3));
-        ASSERT_EQ(p.griglia.trascinato(), 0);
+        ASSERT_EQ(puntatoreVisto(), Puntatore::Trascina);
         modo(p);
-        EXPECT_EQ(p.griglia.trascinato(), -1);
-        EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+        EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
         p.pulsante(MOUSEEVENTF_LEFTUP);
         p.pulsante(MOUSEEVENTF_RIGHTUP);
         EXPECT_TRUE(p.osservatore.mosse().empty());
@@ -269,7 +280,7 @@ TEST(GrigliaTrascina, LaRotellaScorreEIlRilascioUsaLaRigaSottoIlPuntatore) {
     const int cima = p.griglia.rigaInCima();
     EXPECT_GT(cima, 1);
     EXPECT_EQ(p.griglia.rigaCorrente(), cima + 1);
-    EXPECT_EQ(p.griglia.trascinato(), 1);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Trascina);
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 " + std::to_wstring(cima)});
     EXPECT_EQ(p.griglia.rigaInCima(), cima);
@@ -327,10 +338,9 @@ TEST(GrigliaTrascina, UnRilascioCheNessunoHaVistoLoAbbandona) {
         const ConFiltro perso([](MSG& msg) { return msg.message == WM_LBUTTONUP; });
         p.pulsante(MOUSEEVENTF_LEFTUP);
     }
-    ASSERT_EQ(p.griglia.trascinato(), 0);
+    ASSERT_EQ(puntatoreVisto(), Puntatore::Trascina);
     p.vai(p.punto(2));
-    EXPECT_EQ(p.griglia.trascinato(), -1);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(p.griglia.rigaCorrente(), 3);
     EXPECT_TRUE(p.osservatore.mosse().empty());
@@ -351,7 +361,7 @@ TEST(GrigliaTrascina, UnTrascinamentoDuranteUnaFinestraModale) {
     p.quandoPerdeIlFuoco([&p] { p.pulsante(MOUSEEVENTF_LEFTUP); });
     p.vai(p.punto(2));
     p.pulsante(MOUSEEVENTF_LEFTDOWN);
-    EXPECT_EQ(p.griglia.trascinato(), -1);
+    EXPECT_NE(puntatoreVisto(), Puntatore::Trascina);
     EXPECT_EQ(GetCapture(), nullptr);
     p.vai(p.punto(4));
     EXPECT_EQ(p.griglia.rigaCorrente(), 2);
@@ -363,7 +373,7 @@ TEST(GrigliaTrascina, UnErroreDelProprietarioNonEsceDallaGriglia) {
     p.osservatore.fallisce = true;
     p.trascina(p.punto(1), p.punto(3));
     EXPECT_EQ(p.osservatore.eccezioni, 1);
-    EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
+    EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     p.osservatore.fallisce = false;
     p.trascina(p.punto(1), p.punto(3));
     EXPECT_EQ(p.osservatore.mosse(), (Testi{L"sposta 0 2", L"sposta 0 2"}));

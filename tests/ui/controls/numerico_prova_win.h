@@ -4,6 +4,7 @@
 
 #include "support/windows/com_win.h"
 #include "support/windows/errori_win.h"
+#include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/schermo_win.h"
 
@@ -142,7 +143,7 @@ protected:
         ASSERT_NE(dialogo, nullptr) << GetLastError();
         numero = Finestra::da<KOInputNumerico>(GetDlgItem(dialogo, idNumero));
         ASSERT_NE(numero, nullptr);
-        casella = numero->txtnumero();
+        casella = txtnumeroDi(*numero);
         portaAvanti(dialogo);
         numero->osserva(&registro);
         SetFocus(GetDlgItem(dialogo, idPrima));
@@ -175,8 +176,8 @@ protected:
     [[nodiscard]] std::pair<DWORD, DWORD> selezione() const { return selezioneDi(casella); }
     void clicPulsante(Verso verso) const {
         RECT r{};
-        GetClientRect(numero->UPNum(), &r);
-        clic(numero->UPNum(), {r.right / 2, verso == Verso::Su ? r.bottom / 4 : r.bottom * 3 / 4});
+        GetClientRect(UPNumDi(*numero), &r);
+        clic(UPNumDi(*numero), {r.right / 2, verso == Verso::Su ? r.bottom / 4 : r.bottom * 3 / 4});
     }
     // What the window asks the container to paint itself with.
     [[nodiscard]] HBRUSH pennello(UINT codice) const {

@@ -6,7 +6,6 @@ TEST(Trascinamento, IlRilascioSuUnAltroElementoSposta) {
     Trascinamento t;
     t.premi(0);
     EXPECT_TRUE(t.attivo());
-    EXPECT_EQ(t.trascinato(), 0);
     EXPECT_EQ(t.puntatore(), Puntatore::Trascina);
     t.segui(1);
     t.segui(2);
@@ -15,7 +14,6 @@ TEST(Trascinamento, IlRilascioSuUnAltroElementoSposta) {
     EXPECT_EQ(esito.da, 0);
     EXPECT_EQ(esito.a, 2);
     EXPECT_FALSE(t.attivo());
-    EXPECT_EQ(t.trascinato(), -1);
     EXPECT_EQ(t.puntatore(), Puntatore::Predefinito);
 }
 
@@ -47,7 +45,6 @@ TEST(Trascinamento, UnaPressioneSuUnaRigaSenzaElementoNonTrascinaNulla) {
     Trascinamento t;
     t.premi(-1);
     EXPECT_EQ(t.puntatore(), Puntatore::Vietato);
-    EXPECT_EQ(t.trascinato(), -1);
     t.segui(2);
     const auto esito = t.rilascia(2);
     EXPECT_FALSE(esito.sposta);

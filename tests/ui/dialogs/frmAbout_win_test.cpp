@@ -29,7 +29,7 @@ protected:
         ShowWindow(about.hwnd(), SW_SHOW);
         portaAvanti(about.hwnd());
         UpdateWindow(about.hwnd());
-        ASSERT_EQ(fuoco(), IDOK);
+        ASSERT_EQ(fuoco(), IDC_CMDOK);
     }
 
     [[nodiscard]] HWND controllo(int id) const { return GetDlgItem(about.hwnd(), id); }
@@ -107,7 +107,7 @@ TEST_F(frmAboutAperta, MostraITestiDelProdotto) {
     EXPECT_EQ(testo(IDC_LBLPRODOTTO), L"Autore:");
     EXPECT_EQ(testo(IDC_LBLAUTORE), prodotto::autore);
     EXPECT_EQ(testo(IDC_LBLSITO), prodotto::sito);
-    EXPECT_EQ(testo(IDOK), L"OK");
+    EXPECT_EQ(testo(IDC_CMDOK), L"OK");
     EXPECT_EQ(testo(IDC_CMDSYSINFO), L"&System Info...");
 }
 
@@ -135,7 +135,7 @@ TEST_F(frmAboutAperta, SulCollegamentoSiVedeIlFuoco) {
     const auto prima = bordo();
     SetFocus(controllo(IDC_LBLSITO));
     EXPECT_NE(bordo(), prima);
-    SetFocus(controllo(IDOK));
+    SetFocus(controllo(IDC_CMDOK));
     EXPECT_EQ(bordo(), prima);
 }
 
@@ -156,7 +156,7 @@ TEST_F(frmAboutAperta, TabPassaPerCollegamentoOkEInformazioni) {
     premi(VK_TAB);
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
     premi(VK_TAB);
-    EXPECT_EQ(fuoco(), IDOK);
+    EXPECT_EQ(fuoco(), IDC_CMDOK);
     premi(VK_TAB, {VK_SHIFT});
     EXPECT_EQ(fuoco(), IDC_LBLSITO);
 }
@@ -173,7 +173,7 @@ TEST_F(frmAboutAperta, EscChiudeDaOgniControllo) {
 }
 
 TEST_F(frmAboutAperta, UnClicSuOkChiude) {
-    clic(controllo(IDOK));
+    clic(controllo(IDC_CMDOK));
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
 
@@ -195,8 +195,8 @@ TEST_F(frmAboutAperta, IlCollegamentoSiApreColMouseEConLaTastiera) {
 TEST_F(frmAboutAperta, DopoIlCollegamentoInvioTornaAOk) {
     SetFocus(controllo(IDC_LBLSITO));
     EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDC_LBLSITO);
-    SetFocus(controllo(IDOK));
-    EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDOK);
+    SetFocus(controllo(IDC_CMDOK));
+    EXPECT_EQ(LOWORD(SendMessageW(about.hwnd(), DM_GETDEFID, 0, 0)), IDC_CMDOK);
     premi(VK_RETURN);
     EXPECT_TRUE(attendi([this] { return about.hwnd() == nullptr; }));
 }
@@ -214,7 +214,7 @@ TEST_F(frmAboutAperta, SulCollegamentoIlPuntatoreEUnaMano) {
     SendMessageW(sito, WM_SETCURSOR, reinterpret_cast<WPARAM>(sito),
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_HAND));
-    const HWND ok = controllo(IDOK);
+    const HWND ok = controllo(IDC_CMDOK);
     SendMessageW(ok, WM_SETCURSOR, reinterpret_cast<WPARAM>(ok),
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));

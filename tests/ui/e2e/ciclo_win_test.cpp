@@ -172,7 +172,7 @@ public:
     }
 
     void aggiungi(const std::wstring& nome) {
-        clic(pulsante(mnaddFeed));
+        clic(pulsante(cmdAggiungi));
         const HWND editor = attendiFinestra(L"#32770", L"");
         scriviIn(GetDlgItem(editor, IDC_EDITTITOLO), nome);
         scriviIn(GetDlgItem(editor, IDC_EDITLINK), L"https://e.example/" + nome);
@@ -263,7 +263,7 @@ TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
         clic(programma.lista(), programma.punto(3));
         programma.attendiScelta(3);
         for (const int risposta : {IDNO, IDYES}) {
-            clic(programma.pulsante(mnDelFeed));
+            clic(programma.pulsante(cmdCancella));
             programma.rispondi(testi::attenzione, risposta);
         }
         programma.attendiScelta(2);

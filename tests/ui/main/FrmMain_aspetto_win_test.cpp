@@ -29,7 +29,7 @@ TEST_F(FrmMainAspetto, UnCambioDeiColoriArrivaAiControlliERinnovaLaGriglia) {
         EXPECT_EQ(avvisati[controllo], 1);
     }
     EXPECT_NE(SendMessageW(lista, WM_GETFONT, 0, 0), prima);
-    EXPECT_EQ(griglia().righe().righe(), 50);
+    EXPECT_EQ(ListView_GetItemCount(griglia().lista()), 49);
 }
 
 TEST_F(FrmMainAspetto, LaRigaSceltaSiVedeAncheDaUnPulsanteInOgniSchema) {
@@ -37,8 +37,7 @@ TEST_F(FrmMainAspetto, LaRigaSceltaSiVedeAncheDaUnPulsanteInOgniSchema) {
         metti(titolo);
     }
     const HWND lista = griglia().lista();
-    const HWND cancella =
-        GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnDelFeed);
+    const HWND cancella = GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), cmdCancella);
     // The second row as it is seen.
     const auto seconda = [&] {
         pompa();

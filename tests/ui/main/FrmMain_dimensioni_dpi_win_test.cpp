@@ -50,9 +50,7 @@ protected:
         return r;
     }
     [[nodiscard]] RECT posto(int id) { return posto(campo(id)); }
-    [[nodiscard]] RECT postoStriscia() {
-        return posto(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr));
-    }
+    [[nodiscard]] RECT postoStriscia() { return posto(GetDlgItem(finestra.hwnd(), IDC_PICCMD)); }
     [[nodiscard]] RECT interno() {
         RECT r{};
         GetClientRect(finestra.hwnd(), &r);

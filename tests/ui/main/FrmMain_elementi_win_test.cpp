@@ -1,4 +1,5 @@
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/griglia_prova_win.h"
 
 #include "tests/aiuti/testi.h"
 
@@ -33,9 +34,6 @@ protected:
         RECT r{};
         ListView_GetItemRect(griglia().lista(), riga - 1, &r, LVIR_BOUNDS);
         return {200, (r.top + r.bottom) / 2};
-    }
-    void attendiNessunaSelezione() {
-        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     void attendiCancellazione() {
         messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
@@ -79,7 +77,7 @@ TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura
         finestra.esegui(mnEditFeed);
         EXPECT_EQ(titoloDi(quanti - 1), L"x");
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_TRUE(griglia().visibile(quanti));
+        EXPECT_TRUE(rigaVisibile(griglia().lista(), quanti));
 
         documento.modificato(false);
         attendiCancellazione();
@@ -96,7 +94,7 @@ TEST_F(FrmMainElementi, ModificareTogliereEAggiungereInFondoATabelleDiOgniMisura
         EXPECT_EQ(titoloDi(quanti - 1), L"y");
         EXPECT_EQ(righe(), std::max(49, quanti));
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_TRUE(griglia().visibile(quanti));
+        EXPECT_TRUE(rigaVisibile(griglia().lista(), quanti));
         EXPECT_TRUE(documento.modificato());
         if (quanti < 49) {
             finestra.SelezionaRiga(quanti + 1);
@@ -163,7 +161,7 @@ TEST_F(FrmMainElementi, SpostareInCimaEInFondoPortaLiAncheLaVista) {
         EXPECT_EQ(titoloDi(0), L"1");
         EXPECT_EQ(titoloDi(quanti - 1), L"0");
         EXPECT_EQ(corrente(), quanti);
-        EXPECT_TRUE(griglia().visibile(quanti));
+        EXPECT_TRUE(rigaVisibile(griglia().lista(), quanti));
         finestra.esegui(spostaInCima);
         EXPECT_EQ(titoloDi(0), L"0");
         EXPECT_EQ(titoloDi(quanti - 1), std::to_wstring(quanti - 1));

@@ -178,7 +178,7 @@ TEST_F(FrmMainMenu, DallIntestazioneSiAggiungeMaNonSiToccaLaRigaCorrente) {
     const HWND testata = ListView_GetHeader(griglia().lista());
     // Modify, delete, preview: their places in the menu, from the top.
     for (const int posto : {2, 3, 4}) {
-        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
+        attendiNessunaSelezione();
         scegliDalMenu(testata, posto);
     }
     EXPECT_EQ(titoliElementi(), L"a;b;");
@@ -278,15 +278,13 @@ TEST_F(FrmMainMenu, OgniCampoHaUnNomePerChiLoLegge) {
         {campo(IDC_TXTLOGO), L"Titolo Logo:"},
         {campo(IDC_TXTURL), L"Url:"},
         {campo(IDC_TXTLINKIMG), L"Click Link:"},
-        {campi.txtLarghezza().txtnumero(), L"Larghezza:"},
-        {campi.txtAltezza().txtnumero(), L"Altezza:"},
+        {txtnumeroDi(campi.txtLarghezza()), L"Larghezza:"},
+        {txtnumeroDi(campi.txtAltezza()), L"Altezza:"},
         {campo(IDC_CMDGETSIZE), L"Determina dimensioni"},
         {griglia().lista(), L"Elementi"},
         {finestra.hwnd(), L"Ostrelle  [Nuovo Documento]"},
-        {GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed),
-         L"Aggiungi Feed"},
-        {GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnDelFeed),
-         L"Cancella Feed"},
+        {GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), cmdAggiungi), L"Aggiungi Feed"},
+        {GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), cmdCancella), L"Cancella Feed"},
     }};
     for (const auto& [controllo, nome] : attesi) {
         EXPECT_EQ(nomeAccessibile(controllo), nome) << GetDlgCtrlID(controllo);
@@ -307,9 +305,9 @@ TEST_F(FrmMainMenu, AggiornaListaRileggeLaTabellaETornaAllaPrimaRiga) {
     finestra.SelezionaRiga(2);
     finestra.RiempiGriglia(true);
     finestra.SelezionaRiga(2);
-    EXPECT_EQ(griglia().righe().elemento(2), -1);
+    EXPECT_EQ(griglia().elemento(2), -1);
     finestra.esegui(mnAggiorna);
-    EXPECT_EQ(griglia().righe().elemento(2), 1);
+    EXPECT_EQ(griglia().elemento(2), 1);
     EXPECT_EQ(griglia().rigaCorrente(), 1);
     EXPECT_FALSE(documento.modificato());
 }

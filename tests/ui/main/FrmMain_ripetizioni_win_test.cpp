@@ -27,14 +27,14 @@ protected:
         premiGiu(VK_RETURN);
     }
     [[nodiscard]] HWND pulsante(int id) {
-        return GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), id);
+        return GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), id);
     }
 };
 
 } // namespace
 
 TEST_F(FrmMainRipetizioni, InvioTenutoSuCancellaNonRispondeAllaDomanda) {
-    SetFocus(pulsante(mnDelFeed));
+    SetFocus(pulsante(cmdCancella));
     const QuandoAppare domanda(boxWindows, testi::attenzione, [&](HWND box) {
         tieniEPoiPremi(box);
         EXPECT_FALSE(IsWindowVisible(box));

@@ -1,5 +1,6 @@
 #include "tests/aiuti/frmMain_win.h"
 #include "tests/aiuti/immagini_prova.h"
+#include "tests/aiuti/puntatore_win.h"
 #include "tests/aiuti/spia_win.h"
 #include "tests/aiuti/testi.h"
 
@@ -19,16 +20,13 @@ protected:
     }
     [[nodiscard]] HWND lista() { return griglia().lista(); }
     [[nodiscard]] HWND pulsante(int id) {
-        return GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), id);
+        return GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), id);
     }
     // A point of a grid row.
     [[nodiscard]] POINT punto(int riga) {
         RECT r{};
         ListView_GetItemRect(lista(), riga - 1, &r, LVIR_BOUNDS);
         return {60, (r.top + r.bottom) / 2};
-    }
-    void attendiNessunaSelezione() {
-        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
     }
     void attendiCancellazione(Risposta risposta) {
         messaggi.attendi(testi::domandaCancella, testi::attenzione, Icona::Domanda, Pulsanti::SiNo,
@@ -147,7 +145,7 @@ TEST_F(FrmMainTasti, CtrlNOESOvunqueStiaIlFuoco) {
 
 TEST_F(FrmMainTasti, SalvareDaTastieraPortaPrimaLeMisureNeiLimiti) {
     metti(L"uno");
-    SetFocus(campi.txtLarghezza().txtnumero());
+    SetFocus(txtnumeroDi(campi.txtLarghezza()));
     scrivi(L"25000");
     dialoghi.attendiSalva(richiestaSalva, std::nullopt);
     premi(L'S', {VK_CONTROL});
@@ -192,7 +190,7 @@ TEST_F(FrmMainTasti, ITastiDuranteUnTrascinamentoNonContano) {
     riempi();
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(2));
-    ASSERT_EQ(griglia().trascinato(), 0);
+    ASSERT_EQ(puntatoreVisto(), Puntatore::Trascina);
     premi(VK_DELETE);
     premi(VK_RETURN);
     premi(VK_INSERT);
@@ -209,7 +207,7 @@ TEST_F(FrmMainTasti, EscDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     premi(VK_ESCAPE);
-    EXPECT_EQ(griglia().trascinato(), -1);
+    EXPECT_NE(puntatoreVisto(), Puntatore::Trascina);
     EXPECT_EQ(griglia().rigaCorrente(), 1);
     lasciaMouse();
     EXPECT_EQ(titoliElementi(), L"a;b;c;");
@@ -221,8 +219,7 @@ TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
     premiMouse(lista(), punto(1));
     muoviMouse(lista(), punto(3));
     const QuandoAppare menu(L"#32768", L"", [&](HWND) {
-        EXPECT_EQ(griglia().trascinato(), -1);
-        EXPECT_EQ(griglia().puntatore(), Puntatore::Predefinito);
+        EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
         EndMenu();
     });
     premi(VK_APPS);
@@ -234,7 +231,7 @@ TEST_F(FrmMainTasti, IlMenuDuranteUnTrascinamentoLoAbbandona) {
 TEST_F(FrmMainTasti, InvioESpazioPremonoIlPulsanteColFuoco) {
     riempi();
     for (const WORD tasto : {WORD{VK_RETURN}, WORD{VK_SPACE}}) {
-        SetFocus(pulsante(mnDelFeed));
+        SetFocus(pulsante(cmdCancella));
         attendiCancellazione(Risposta::No);
         premi(tasto);
         SetFocus(campo(IDC_CMDGETSIZE));

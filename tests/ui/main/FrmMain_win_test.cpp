@@ -50,7 +50,7 @@ TEST_F(FrmMainAperta, AllAvvioMostraUnDocumentoNuovoEPulito) {
     EXPECT_FALSE(documento.modificato());
     EXPECT_TRUE(documento.nuovo());
     EXPECT_EQ(documento.elementi().conteggio(), 0);
-    EXPECT_EQ(griglia().righe().righe(), 50);
+    EXPECT_EQ(ListView_GetItemCount(griglia().lista()), 49);
     for (const int id : campiTesto) {
         EXPECT_EQ(testoDi(campo(id)), L"") << id;
     }
@@ -154,7 +154,7 @@ TEST_F(FrmMainAperta, IlNuovoDocumentoRiportaTuttoAlVuoto) {
     EXPECT_EQ(campi.dataOra(), orologio.locale());
     EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
     EXPECT_EQ(documento.elementi().conteggio(), 0);
-    EXPECT_EQ(griglia().righe().elemento(1), -1);
+    EXPECT_EQ(griglia().elemento(1), -1);
     EXPECT_FALSE(documento.modificato());
 }
 
@@ -181,7 +181,7 @@ TEST_F(FrmMainAperta, LeMisureSonoPixelInteriFinoADiecimila) {
     EXPECT_EQ(larghezza.Massimo(), 10000);
     EXPECT_EQ(larghezza.Minimo(), 0);
     EXPECT_EQ(larghezza.Incremento(), 1);
-    EXPECT_EQ(testoDi(larghezza.txtnumero()), L"0");
+    EXPECT_EQ(testoDi(txtnumeroDi(larghezza)), L"0");
 }
 
 TEST_F(FrmMainAperta, LOrarioSiLeggeSulleVentiquattroOre) {
@@ -228,8 +228,8 @@ TEST_F(FrmMainAperta, IlTabulatoreSegueLOcchio) {
                             campo(IDC_TXTLOGO),
                             campo(IDC_TXTURL),
                             campo(IDC_TXTLINKIMG),
-                            campi.txtLarghezza().txtnumero(),
-                            campi.txtAltezza().txtnumero(),
+                            txtnumeroDi(campi.txtLarghezza()),
+                            txtnumeroDi(campi.txtAltezza()),
                             campo(IDC_CMDGETSIZE),
                             griglia().lista()};
     SetFocus(ordine.front());
@@ -294,8 +294,8 @@ TEST_F(FrmMainAperta, ITreCampiDellImmagineHannoLaStessaLarghezzaFinoAQuellaDelT
 }
 
 TEST_F(FrmMainAperta, IPulsantiDegliElementiSonoImpilatiELarghiQuantoLaStriscia) {
-    const HWND striscia = GetParent(
-        GetDlgItem(FindWindowExW(finestra.hwnd(), nullptr, L"OstrellePicCmd", nullptr), mnaddFeed));
+    const HWND striscia =
+        GetParent(GetDlgItem(GetDlgItem(finestra.hwnd(), IDC_PICCMD), cmdAggiungi));
     RECT interno{};
     GetClientRect(striscia, &interno);
     LONG alto = 0;

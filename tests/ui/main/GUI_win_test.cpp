@@ -35,6 +35,8 @@ std::string jpg() {
     return file;
 }
 
+constexpr COLORREF bianco = RGB(255, 255, 255);
+
 // The colour of a pixel after the picture was painted on white, 10 by 10 pixels.
 COLORREF dipinto(const Sfondo& sfondo, int x, int y) {
     const HDC schermo = GetDC(nullptr);
@@ -55,24 +57,20 @@ COLORREF dipinto(const Sfondo& sfondo, int x, int y) {
 
 TEST(GuiSfondo, IlBmpPrimaDelJpg) {
     const CartellaProva cartella;
-    EXPECT_FALSE(GUI::ApplicaSfondo(cartella.percorso()));
+    EXPECT_EQ(dipinto(GUI::ApplicaSfondo(cartella.percorso()), 0, 0), bianco);
     static_cast<void>(cartella.scrivi(L"sfondo.jpg", jpg()));
     const Sfondo grigio = GUI::ApplicaSfondo(cartella.percorso());
-    ASSERT_TRUE(grigio);
-    EXPECT_EQ(grigio.misura().cx, 4);
-    EXPECT_EQ(grigio.misura().cy, 3);
     EXPECT_NEAR(GetRValue(dipinto(grigio, 3, 2)), 127, 8);
-    EXPECT_EQ(dipinto(grigio, 4, 2), RGB(255, 255, 255));
-    EXPECT_EQ(dipinto(grigio, 3, 3), RGB(255, 255, 255));
+    EXPECT_EQ(dipinto(grigio, 4, 2), bianco);
+    EXPECT_EQ(dipinto(grigio, 3, 3), bianco);
     static_cast<void>(cartella.scrivi(L"sfondo.bmp", bmp(5, 2, RGB(200, 100, 50))));
     // With and without the backslash at the end.
     for (const std::wstring& percorso : {cartella.percorso(), cartella.percorso() + L"\\"}) {
         const Sfondo sfondo = GUI::ApplicaSfondo(percorso);
-        ASSERT_TRUE(sfondo);
-        EXPECT_EQ(sfondo.misura().cx, 5);
-        EXPECT_EQ(sfondo.misura().cy, 2);
+        EXPECT_EQ(dipinto(sfondo, 4, 1), RGB(200, 100, 50));
+        EXPECT_EQ(dipinto(sfondo, 0, 2), bianco);
         EXPECT_EQ(dipinto(sfondo, 0, 0), RGB(200, 100, 50));
-        EXPECT_EQ(dipinto(sfondo, 5, 0), RGB(255, 255, 255));
+        EXPECT_EQ(dipinto(sfondo, 5, 0), bianco);
     }
 }
 
@@ -84,7 +82,8 @@ TEST(GuiSfondo, UnImmagineGuastaLasciaLoSfondoLiscio) {
         const auto percorso = cartella.scrivi(L"sfondo.bmp", contenuto);
         // The other one is for a folder without this one.
         static_cast<void>(cartella.scrivi(L"sfondo.jpg", jpg()));
-        EXPECT_FALSE(GUI::ApplicaSfondo(cartella.percorso())) << contenuto.size();
+        EXPECT_EQ(dipinto(GUI::ApplicaSfondo(cartella.percorso()), 0, 0), bianco)
+            << contenuto.size();
         try {
             static_cast<void>(caricaImmagine(percorso));
             ADD_FAILURE() << "no error for " << contenuto.size() << " bytes";
@@ -105,7 +104,7 @@ TEST(GuiSfondo, UnaCartellaConQuelNomeNonConta) {
     const CartellaProva cartella;
     ASSERT_TRUE(CreateDirectoryW(cartella.file(L"sfondo.bmp").c_str(), nullptr));
     static_cast<void>(cartella.scrivi(L"sfondo.jpg", jpg()));
-    EXPECT_TRUE(GUI::ApplicaSfondo(cartella.percorso()));
+    EXPECT_NE(dipinto(GUI::ApplicaSfondo(cartella.percorso()), 0, 0), bianco);
 }
 
 TEST(GuiGriglia, ImpostaColonneLasciaSoloLIntestazione) {

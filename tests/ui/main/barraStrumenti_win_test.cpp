@@ -3,6 +3,7 @@
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/comandi.h"
 
+#include <array>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -21,8 +22,9 @@ public:
     BarraProva& operator=(const BarraProva&) = delete;
     ~BarraProva() { DestroyWindow(madre_); }
 
+    [[nodiscard]] HWND finestra() const { return GetDlgItem(madre_, 7); }
     [[nodiscard]] HIMAGELIST figure() const {
-        return reinterpret_cast<HIMAGELIST>(SendMessageW(barra.hwnd(), TB_GETIMAGELIST, 0, 0));
+        return reinterpret_cast<HIMAGELIST>(SendMessageW(finestra(), TB_GETIMAGELIST, 0, 0));
     }
     // The smallest side of a picture, in pixels.
     [[nodiscard]] std::pair<int, int> lati() const {
@@ -53,14 +55,14 @@ TEST(BarraStrumenti, LeFigureSonoQuelleDelloSchermo) {
 
 TEST(BarraStrumenti, OgniPulsanteHaLaSuaFiguraNellOrdineDellaTabella) {
     const BarraProva p(96);
-    const auto pulsanti = pulsantiBarra();
-    ASSERT_EQ(SendMessageW(p.barra.hwnd(), TB_BUTTONCOUNT, 0, 0),
+    constexpr std::array pulsanti{mnNuovo, mnApri, mnsalva, mnautore, mninfo};
+    ASSERT_EQ(SendMessageW(p.finestra(), TB_BUTTONCOUNT, 0, 0),
               static_cast<LRESULT>(pulsanti.size()));
     for (std::size_t i = 0; i < pulsanti.size(); ++i) {
         TBBUTTON pulsante{};
-        SendMessageW(p.barra.hwnd(), TB_GETBUTTON, i, reinterpret_cast<LPARAM>(&pulsante));
+        SendMessageW(p.finestra(), TB_GETBUTTON, i, reinterpret_cast<LPARAM>(&pulsante));
         EXPECT_EQ(pulsante.iBitmap, static_cast<int>(i));
-        EXPECT_EQ(pulsante.idCommand, pulsanti[i].comando);
+        EXPECT_EQ(pulsante.idCommand, pulsanti[i]);
     }
 }
 

@@ -36,7 +36,7 @@ protected:
                                       std::to_string(altezza) +
                                       "</height></image><item><title>i</title></item>"));
     }
-    [[nodiscard]] HWND larghezza() { return campi.txtLarghezza().txtnumero(); }
+    [[nodiscard]] HWND larghezza() { return txtnumeroDi(campi.txtLarghezza()); }
     // Where the selection in the width begins and ends, and the text.
     [[nodiscard]] std::wstring selezione() {
         const auto [inizio, fine] = selezioneDi(larghezza());
@@ -127,14 +127,14 @@ TEST_F(CampiDelCanale, UnControlloCheRifiutaLAzzeramentoNonFermaGliAltri) {
 
 TEST_F(CampiDelCanale, InvioEdEscNelleMisureNonSonoUnUscita) {
     for (KOInputNumerico* const misura : {&campi.txtLarghezza(), &campi.txtAltezza()}) {
-        SetFocus(misura->txtnumero());
+        SetFocus(txtnumeroDi(*misura));
         scrivi(L"25000");
         for (const WORD tasto : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
             premi(tasto);
-            EXPECT_EQ(testoDi(misura->txtnumero()), L"25000");
+            EXPECT_EQ(testoDi(txtnumeroDi(*misura)), L"25000");
         }
         premi(VK_TAB);
-        EXPECT_EQ(testoDi(misura->txtnumero()), L"10000");
+        EXPECT_EQ(testoDi(txtnumeroDi(*misura)), L"10000");
     }
 }
 

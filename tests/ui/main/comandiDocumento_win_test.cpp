@@ -1,5 +1,6 @@
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/testi.h"
 
 #include <array>
@@ -48,7 +49,7 @@ TEST_F(Documenti, ApreChiedendoIlFileERiempieOgniCampo) {
     EXPECT_EQ(campi.txtLarghezza().Valore(), 120);
     EXPECT_EQ(campi.txtAltezza().Valore(), 60);
     EXPECT_EQ(titoliElementi(), L"uno;");
-    EXPECT_EQ(griglia().righe().elemento(1), 0);
+    EXPECT_EQ(griglia().elemento(1), 0);
     EXPECT_FALSE(documento.modificato());
     EXPECT_FALSE(documento.nuovo());
     // Only a save adds to the recent files.
@@ -129,8 +130,7 @@ TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
     for (const char* const misura :
          {"<width>10001</width>", "<width>-1</width>", "<height>10001</height>"}) {
         messaggi.attendi(testi::diErrore(380), testi::erroreNumero(380), Icona::Critica,
-                         Pulsanti::Ok, Risposta::Ok,
-                         [&] { EXPECT_EQ(griglia().righe().elemento(1), -1); });
+                         Pulsanti::Ok, Risposta::Ok, [&] { EXPECT_EQ(griglia().elemento(1), -1); });
         const std::wstring percorso =
             feed(L"m.xml", "<image><title>t</title>" + std::string(misura) + "</image>");
         EXPECT_FALSE(finestra.Apri(percorso));
@@ -140,8 +140,8 @@ TEST_F(Documenti, UnaMisuraFuoriDaiLimitiSiDiceEPoiLaGrigliaMostraGliElementi) {
         EXPECT_EQ(campi.txtLarghezza().Valore(), 0);
         EXPECT_EQ(campi.txtAltezza().Valore(), 0);
         EXPECT_EQ(titoliElementi(), L"uno;");
-        EXPECT_EQ(griglia().righe().elemento(1), 0);
-        EXPECT_EQ(griglia().righe().cella(1, 1), L"uno\r\n");
+        EXPECT_EQ(griglia().elemento(1), 0);
+        EXPECT_EQ(testoCella(griglia().lista(), 1, 1), L"uno\r\n");
         EXPECT_TRUE(documento.modificato());
         EXPECT_FALSE(documento.nuovo());
         finestra.NuovoDocumento();

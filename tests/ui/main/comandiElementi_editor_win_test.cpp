@@ -54,7 +54,7 @@ TEST_F(ComandiConEditorVero, ModificareSenzaToccareRiscriveSoloCioCheVaRifilato)
     metti(documento, CampoElemento::Autore, 1, L" autore ");
     metti(documento, CampoElemento::Guid, 1, L" guid ");
     banco.seleziona(2);
-    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_RETURN); });
+    usa([this] { banco.modifica(); }, [] { premi(VK_RETURN); });
     EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"titolo");
     EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"riga\r\n\tseconda");
     EXPECT_EQ(banco.campo(CampoElemento::Autore, 1), L" autore ");
@@ -66,7 +66,7 @@ TEST_F(ComandiConEditorVero, LaDataIlleggibileDiUnElementoRestaSeSiAnnulla) {
     metti(banco.griglia.documento, CampoElemento::Data, 1, L"domani");
     banco.seleziona(2);
     messaggi.attendi(testi::dataReimpostata, testi::attenzione, Icona::Informazione);
-    usa([this] { banco.comandi.cmdModifica_Click(); }, [] { premi(VK_ESCAPE); });
+    usa([this] { banco.modifica(); }, [] { premi(VK_ESCAPE); });
     EXPECT_EQ(banco.campo(CampoElemento::Data, 1), L"domani");
     EXPECT_FALSE(banco.griglia.documento.modificato());
 }

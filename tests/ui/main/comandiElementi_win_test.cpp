@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -67,7 +68,7 @@ TEST_F(ComandiElementiGriglia, AggiungiMetteInFondoConGuidESeleziona) {
     EXPECT_TRUE(identificativo(std::wstring_view(guid).substr(davanti.size())))
         << testing::PrintToString(guid);
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 61);
-    EXPECT_TRUE(banco.griglia.griglia.visibile(61));
+    EXPECT_TRUE(rigaVisibile(banco.griglia.griglia.lista(), 61));
     EXPECT_EQ(banco.griglia.testo(61, 1), L"t nuovo\r\nd nuovo");
     EXPECT_EQ(banco.griglia.documento.ultimaData(), ieri);
     EXPECT_TRUE(banco.griglia.documento.modificato());
@@ -116,9 +117,9 @@ TEST_F(ComandiElementiGriglia, AnnullareNonCambiaNulla) {
         elemento.sTitle(L"buttato");
         return std::nullopt;
     });
-    banco.comandi.cmdModifica_Click();
+    banco.modifica();
     banco.attendiDomanda(Risposta::No);
-    banco.comandi.cmdCancella_Click();
+    banco.cancella();
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 2);
@@ -146,7 +147,7 @@ TEST_F(ComandiElementiGriglia, ModificaRiscriveLaColonnaETieneIlGuid) {
         elemento.sGuid(L"non passa");
         return DataOra::daParti(2001, 1, 1);
     });
-    banco.comandi.cmdModifica_Click();
+    banco.modifica();
     EXPECT_EQ(banco.campo(CampoElemento::Titolo, 1), L"altro");
     EXPECT_EQ(banco.campo(CampoElemento::Descrizione, 1), L"a\tb");
     EXPECT_EQ(banco.campo(CampoElemento::Guid, 1), L"il guid");
@@ -161,34 +162,17 @@ TEST_F(ComandiElementiGriglia, ConfermareSenzaCambiareNullaEUnaModifica) {
     Banco banco(3, editor);
     banco.seleziona(2);
     editor.attendi([](clsItemRss&, DataOra ultima) { return ultima; });
-    banco.comandi.cmdModifica_Click();
+    banco.modifica();
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2"}));
     EXPECT_TRUE(banco.griglia.documento.modificato());
-}
-
-TEST_F(ComandiElementiGriglia, SenzaElementoModificaECancellaLoDicono) {
-    Banco vuoto(0, editor);
-    vuoto.attendiSelezione();
-    vuoto.comandi.cmdModifica_Click();
-    vuoto.attendiSelezione();
-    vuoto.comandi.cmdCancella_Click();
-
-    Banco banco(2, editor);
-    banco.seleziona(3); // a filler row
-    banco.attendiSelezione();
-    banco.comandi.cmdModifica_Click();
-    banco.attendiSelezione();
-    banco.comandi.cmdCancella_Click();
-    EXPECT_EQ(banco.griglia.tabella.conteggio(), 2);
-    EXPECT_FALSE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, CancellaSelezionaLaRigaSopra) {
     Banco banco(5, editor);
     banco.seleziona(4); // item 3
     banco.attendiDomanda(Risposta::Si);
-    banco.comandi.cmdCancella_Click();
+    banco.cancella();
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 1", L"titolo 2", L"titolo 4"}));
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 3);
@@ -200,7 +184,7 @@ TEST_F(ComandiElementiGriglia, CancellatoIlPrimoSiSelezionaIlNuovoPrimo) {
     Banco banco(3, editor);
     banco.seleziona(1);
     banco.attendiDomanda(Risposta::Si);
-    banco.comandi.cmdCancella_Click();
+    banco.cancella();
     EXPECT_EQ(banco.griglia.griglia.rigaCorrente(), 1);
     EXPECT_EQ(banco.griglia.testo(1, 1), L"titolo 1\r\ndescrizione 1");
 }
@@ -208,7 +192,7 @@ TEST_F(ComandiElementiGriglia, CancellatoIlPrimoSiSelezionaIlNuovoPrimo) {
 TEST_F(ComandiElementiGriglia, CancellatoLUnicoRestaLaTabellaVuota) {
     Banco banco(1, editor);
     banco.attendiDomanda(Risposta::Si);
-    banco.comandi.cmdCancella_Click();
+    banco.cancella();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 0);
     EXPECT_EQ(banco.griglia.tabella.limiteSuperiore(), 0);
     EXPECT_EQ(banco.campo(CampoElemento::Titolo, 0), L"");
@@ -227,6 +211,18 @@ TEST_F(ComandiElementiGriglia, SpostaElementoNonToccaIlSegnoDiModifica) {
     EXPECT_EQ(banco.griglia.titoli(),
               (std::vector<std::wstring>{L"titolo 0", L"titolo 3", L"titolo 1", L"titolo 2"}));
     EXPECT_FALSE(banco.griglia.documento.modificato());
+}
+
+TEST_F(ComandiElementiGriglia, DoveNonCENienteDaSpostareSpostaElementoNonFaNulla) {
+    Banco banco(2, editor);
+    for (const auto& [da, a] : {std::pair{-1, 0}, std::pair{-1, -2}, std::pair{0, 0},
+                                std::pair{0, -1}, std::pair{1, 2}}) {
+        banco.comandi.SpostaElemento(da, a, Causa::Comando);
+        EXPECT_EQ(banco.griglia.titoli(), (std::vector<std::wstring>{L"titolo 0", L"titolo 1"}));
+        EXPECT_FALSE(banco.griglia.documento.modificato()) << da << ' ' << a;
+    }
+    banco.comandi.SpostaElemento(0, 1, Causa::Comando);
+    EXPECT_TRUE(banco.griglia.documento.modificato());
 }
 
 TEST_F(ComandiElementiGriglia, ATabellaPienaSiDiceErrore6PrimaDiAprireLEditor) {
@@ -260,7 +256,7 @@ TEST_F(ComandiElementiGriglia, UnFallimentoSiDiceELasciaLaTabellaComEra) {
     banco.comandi.cmdAggiungi_Click();
     editor.attendi(fallisci);
     banco.messaggi.attendi(testi::unitaIllegibile, testi::erroreDetto(52), Icona::Informazione);
-    banco.comandi.cmdModifica_Click();
+    banco.modifica();
     EXPECT_EQ(banco.griglia.titoli(), (std::vector<std::wstring>{L"titolo 0", L"titolo 1"}));
     EXPECT_FALSE(banco.griglia.documento.modificato());
 }
@@ -273,7 +269,7 @@ TEST_F(ComandiElementiGriglia, UnElementoSparitoSottoLEditorEErrore9) {
         return inizio;
     });
     banco.messaggi.attendi(testi::diErrore(9), testi::erroreDetto(9), Icona::Informazione);
-    banco.comandi.cmdModifica_Click();
+    banco.modifica();
     EXPECT_EQ(banco.griglia.tabella.conteggio(), 0);
 }
 
@@ -307,14 +303,14 @@ TEST_F(ComandiElementiGriglia, DopoOgniSequenzaLaGrigliaMostraIlModello) {
             const int i = scelto();
             banco.seleziona(i + 1);
             attendiCompilato(nome);
-            banco.comandi.cmdModifica_Click();
+            banco.modifica();
             modello[static_cast<std::size_t>(i)] = nome;
             ASSERT_EQ(banco.selezionato(), i);
         } else if (azione < (cala ? 7U : 6U)) {
             const int i = scelto();
             banco.seleziona(i + 1);
             banco.attendiDomanda(Risposta::Si);
-            banco.comandi.cmdCancella_Click();
+            banco.cancella();
             modello.erase(modello.begin() + i);
             ASSERT_EQ(banco.griglia.griglia.rigaCorrente(), i > 0 ? i : 1);
         } else {

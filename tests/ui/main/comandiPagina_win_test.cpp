@@ -24,9 +24,6 @@ protected:
                std::to_wstring(impostazioni.valori.size()) + L'|' +
                std::to_wstring(griglia().rigaCorrente());
     }
-    void attendiSelezione() {
-        messaggi.attendi(testi::nessunaSelezione, testi::attenzione, Icona::Informazione);
-    }
     // Exports to a file and leaves it closed; gives what was written.
     [[nodiscard]] std::string esporta(const std::wstring& pagina) {
         dialoghi.attendiSalva(richiestaPagina, pagina);
@@ -162,12 +159,12 @@ TEST_F(Pagina, LAnteprimaSenzaElementoDiceDiSceglierneUnoENonScriveNulla) {
     const std::wstring temporanea = cartella.file(L"tmp");
     CreateDirectoryW(temporanea.c_str(), nullptr);
     const VariabileAmbiente tmp(L"TMP", temporanea);
-    attendiSelezione();
+    attendiNessunaSelezione();
     finestra.NuovoDocumento();
     finestra.esegui(mnvisualhtml);
     riparti();
     finestra.SelezionaRiga(10); // a filler row
-    attendiSelezione();
+    attendiNessunaSelezione();
     finestra.esegui(mnvisualhtml);
     EXPECT_TRUE(RemoveDirectoryW(temporanea.c_str())) << "not empty";
 }

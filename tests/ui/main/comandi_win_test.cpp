@@ -222,9 +222,9 @@ TEST_F(Comandi, OgniVoceDiMenuFaIlSuoLavoro) {
         {L"&Contenuto > &Aggiorna Lista",
          [&] {
              finestra.RiempiGriglia(true);
-             EXPECT_EQ(griglia().righe().elemento(3), -1);
+             EXPECT_EQ(griglia().elemento(3), -1);
              esegui_();
-             EXPECT_EQ(griglia().righe().elemento(3), 2);
+             EXPECT_EQ(griglia().elemento(3), 2);
          }},
         {L"? > &Guida",
          [&] {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ui/main/comandiAiuto_win.h"
+#include "ui/main/comandiDocumento_win.h"
+#include "ui/main/comandiElementi_win.h"
+#include "ui/main/comandiPagina_win.h"
+
+class FinestraPrincipale;
+
+// What the rows of the table of commands work with.
+struct PartiComandi {
+    FinestraPrincipale& finestra;
+    ComandiDocumento documento;
+    ComandiElementi elementi;
+    ComandiPagina pagina;
+    ComandiAiuto aiuto;
+};
