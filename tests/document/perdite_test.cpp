@@ -36,15 +36,16 @@ std::string ripetuto(std::string_view testo, int volte) {
 using Attese = std::map<std::string, int>;
 
 TEST(Perdite, CioCheIlSalvataggioRiscriveNonSiPerde) {
-    EXPECT_EQ(perdite("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n"
-                      "<!--Feed RSS creato con Ostrelle di Quorvex (https://www.quorvex.example)-->\r\n"
-                      "<rss version=\"2.0\"><channel><title>t</title><link>l</link>"
-                      "<description>d &amp; d</description><language>it</language><copyright/>"
-                      "<lastBuildDate>x</lastBuildDate><webMaster></webMaster>"
-                      "<image><title/><url/><link/><width>1</width><height>2</height></image>"
-                      "<item><title>a</title><link/><description><![CDATA[<b>x</b>]]></description>"
-                      "<author/><pubDate/><guid/></item></channel></rss>"),
-              Attese{});
+    EXPECT_EQ(
+        perdite("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n"
+                "<!--Feed RSS creato con Ostrelle di Quorvex (https://www.quorvex.example)-->\r\n"
+                "<rss version=\"2.0\"><channel><title>t</title><link>l</link>"
+                "<description>d &amp; d</description><language>it</language><copyright/>"
+                "<lastBuildDate>x</lastBuildDate><webMaster></webMaster>"
+                "<image><title/><url/><link/><width>1</width><height>2</height></image>"
+                "<item><title>a</title><link/><description><![CDATA[<b>x</b>]]></description>"
+                "<author/><pubDate/><guid/></item></channel></rss>"),
+        Attese{});
 }
 
 TEST(Perdite, GliElementiSconosciutiSonoContatiPerNome) {

@@ -15,8 +15,8 @@ void EsecutoreComandi::esegui(int comando, int riga) {
         }
         const int elemento = griglia_.elemento(riga);
         if (scelto->vuoleElemento && elemento < 0) {
-            messaggi_.avvisa(L"E' necessario selezionare un elemento dalla griglia.", titoli::attenzione,
-                             Icona::Informazione);
+            messaggi_.avvisa(L"E' necessario selezionare un elemento dalla griglia.",
+                             titoli::attenzione, Icona::Informazione);
             return;
         }
         scelto->esegui(parti_, elemento);
