@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include <exception>
+#include <utility>
 
 // The hourglass while something long runs on the window's thread; the pointer comes back when the
 // scope ends.
@@ -19,16 +19,17 @@ private:
     HCURSOR prima_;
 };
 
-// Sets a flag for its life.
+// Sets a flag for its life; then the flag is what it was. They nest.
 class Alzata {
 public:
-    explicit Alzata(bool& segno) noexcept : segno_(segno) { segno = true; }
+    explicit Alzata(bool& segno) noexcept : segno_(segno), prima_(std::exchange(segno, true)) {}
     Alzata(const Alzata&) = delete;
     Alzata& operator=(const Alzata&) = delete;
-    ~Alzata() { segno_ = false; }
+    ~Alzata() { segno_ = prima_; }
 
 private:
     bool& segno_;
+    bool prima_;
 };
 
 // The trap at the end of every handler: runs `azione`; when it fails, restores the pointer and,
@@ -45,15 +46,5 @@ bool protetto(Azione azione, Riporta riporta) {
             riporta();
         }
         return false;
-    }
-}
-
-// Reports where nothing may be raised, at a boundary with Windows: what fails in `riporta` ends
-// here.
-template <class Riporta>
-void riportaSePuo(Riporta riporta) noexcept {
-    try {
-        riporta();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
     }
 }

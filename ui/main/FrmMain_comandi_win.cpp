@@ -115,7 +115,7 @@ void FrmMain::cmdGetSize_Click() {
     occupando([&] {
         protetto(
             [&] {
-                const UnitaDiFinestra unita(hwnd());
+                const UnitaDiFinestra unita(dpiDi(nullptr));
                 ImmagineNascosta ImgDim;
                 ClsSizerImg misura;
                 misura.objForm(unita);

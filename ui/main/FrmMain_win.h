@@ -71,8 +71,7 @@ public:
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
-    void onEccezione() noexcept override { riportaErrore(); }
-    void riportaErrore() noexcept override;
+    void onEccezione() noexcept override;
     void cmdGetSize_Click() override;
     [[nodiscard]] HWND proprietaria() const noexcept override { return hwnd(); }
 
@@ -80,7 +79,6 @@ private:
     void grigliaRigaCambiata(int riga) override;
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override;
-    void grigliaEccezione() noexcept override { riportaErrore(); }
 
     void Form_Load();
     // False cancels the close.

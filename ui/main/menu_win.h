@@ -6,13 +6,6 @@
 #include <span>
 #include <string>
 
-struct TrattiAcceleratori {
-    using Tipo = HACCEL;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo tabella) noexcept { DestroyAcceleratorTable(tabella); }
-};
-using Acceleratori = Maniglia<TrattiAcceleratori>;
-
 [[nodiscard]] Acceleratori creaAcceleratori(std::span<const Scorciatoia> scorciatoie);
 
 // The main window's menu bar, made from the table of commands.

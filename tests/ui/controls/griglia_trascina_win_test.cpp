@@ -1,4 +1,5 @@
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/pixel_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/main/GUI_win.h"
@@ -57,6 +58,24 @@ TEST(GrigliaTrascina, PuntatoreERigaCorrenteSeguonoIlMouse) {
     EXPECT_EQ(p.griglia.puntatore(), Puntatore::Predefinito);
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 3"});
+}
+
+TEST(GrigliaTrascina, IlPuntatoreEQuelloDisegnatoPerLaRiga) {
+    constexpr COLORREF sfondo = RGB(255, 0, 0);
+    GrigliaProva p(4);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    const Immagine allaPressione = puntatore(sfondo);
+    p.vai(p.punto(3));
+    const Immagine inMovimento = puntatore(sfondo);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    const Puntatori puntatori;
+    puntatori.mostra(Puntatore::Trascina);
+    const Immagine disegnato = puntatore(sfondo);
+    puntatori.mostra(Puntatore::Predefinito);
+    EXPECT_EQ(allaPressione, disegnato);
+    EXPECT_EQ(inMovimento, disegnato);
+    EXPECT_NE(puntatore(sfondo), disegnato);
 }
 
 TEST(GrigliaTrascina, IlPuntatoreCambiaAllaPressioneETornaAlRilascioSenzaAltriMovimenti) {
