@@ -62,8 +62,5 @@
 #define IDB_BARRA24 402
 #define IDB_BARRA32 403
 
-// The pointer while a row of the grid is dragged.
-#define IDCUR_TRASCINA 411
-
 // The icon of the program and of its windows.
 #define IDI_OSTRELLE 1

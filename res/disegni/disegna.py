@@ -186,21 +186,6 @@ def info(lato):
     return t
 
 
-def trascina(lato):
-    """The pointer of a row on its way: an arrow that carries a row of the grid."""
-    t = Tela(lato, 32)
-    t.arrotondato(9, 17, 31, 27, 1.5, NOTTE)
-    t.arrotondato(10, 18, 30, 26, 1, CARTA)
-    t.rettangolo(12, 20, 14, 22, AMBRA)
-    t.rettangolo(16, 20, 27, 21, NOTTE)
-    t.rettangolo(12, 23, 24, 24, RIGA)
-    freccia = [(0, 0), (0, 17), (4, 13.2), (6.6, 19.4), (9.6, 18.2), (7, 12.2), (12.2, 12.2)]
-    t.poligono(freccia, '#000000', scatto=False)
-    t.poligono([(1, 2.5), (1, 14.6), (4.4, 11.4), (7.2, 18), (8.2, 17.6), (5.5, 11.2),
-                (9.8, 11.2)], '#ffffff', scatto=False)
-    return t
-
-
 # ---------------------------------------------------------------------------------- the containers
 
 def bmp_dati(rgba, largo, alto):
@@ -230,14 +215,13 @@ def dib_icona(t):
     return testa + dati + bytes(maschera)
 
 
-def contenitore(nome, tele, punto=None):
-    """An .ico, or a .cur where `punto` is its hot spot in pixels. 256 pixels go in as PNG."""
+def contenitore(nome, tele):
+    """An .ico. 256 pixels go in as PNG."""
     dati = [t.png() if t.lato >= 256 else dib_icona(t) for t in tele]
-    testa = struct.pack('<HHH', 0, 2 if punto else 1, len(tele))
+    testa = struct.pack('<HHH', 0, 1, len(tele))
     dopo = len(testa) + 16 * len(tele)
     for t, d in zip(tele, dati):
-        quarto = punto if punto else (1, 32)
-        testa += struct.pack('<BBBBHHII', t.lato % 256, t.lato % 256, 0, 0, *quarto, len(d), dopo)
+        testa += struct.pack('<BBBBHHII', t.lato % 256, t.lato % 256, 0, 0, 1, 32, len(d), dopo)
         dopo += len(d)
     (RES / nome).write_bytes(testa + b''.join(dati))
 
@@ -290,7 +274,6 @@ def logo():
 
 def main():
     contenitore('ostrelle.ico', [icona(lato) for lato in (16, 24, 32, 48, 256)])
-    contenitore('trascina.cur', [trascina(32)], punto=(0, 0))
     for lato in (16, 24, 32):
         striscia(f'barra{lato}.bmp', [f(lato) for f in (nuovo, apri, salva, email, info)])
     logo()

@@ -1,9 +1,10 @@
 #include "support/immagini/immagine_win.h"
 
 #include "support/windows/errori_win.h"
-#include "support/windows/maniglie_win.h"
+#include "support/windows/gdi_win.h"
 
 #include <olectl.h>
+#include <shlwapi.h>
 
 #include <algorithm>
 
@@ -11,13 +12,6 @@ namespace {
 
 constexpr double twipsPerPollice = 1440;
 constexpr double himetricPerPollice = 2540;
-
-double pixel(HWND finestra, int asse, double twips) {
-    const HDC dc = GetDC(finestra);
-    const int dpi = GetDeviceCaps(dc, asse);
-    ReleaseDC(finestra, dc);
-    return twips * dpi / twipsPerPollice;
-}
 
 double twips(OLE_XSIZE_HIMETRIC misura) noexcept {
     return misura * twipsPerPollice / himetricPerPollice;
@@ -71,12 +65,10 @@ ComPtr<IStream> flussoDi(const std::wstring& percorso) {
     return flusso;
 }
 
-} // namespace
-
-ComPtr<IPicture> caricaImmagine(const std::wstring& percorso) {
-    const ComPtr<IStream> flusso = flussoDi(percorso);
+// Raises 481 when it is no picture.
+ComPtr<IPicture> carica(IStream& flusso) {
     ComPtr<IPicture> immagine;
-    const HRESULT hr = OleLoadPicture(flusso.get(), 0, FALSE, IID_IPicture,
+    const HRESULT hr = OleLoadPicture(&flusso, 0, FALSE, IID_IPicture,
                                       reinterpret_cast<void**>(immagine.riempi()));
     if (hr == E_OUTOFMEMORY) {
         solleva(errori::memoriaEsaurita);
@@ -92,12 +84,41 @@ ComPtr<IPicture> caricaImmagine(const std::wstring& percorso) {
     return immagine;
 }
 
-double UnitaDiFinestra::pixelOrizzontali(double valore) const {
-    return pixel(finestra_, LOGPIXELSX, valore);
+} // namespace
+
+ComPtr<IPicture> caricaImmagine(const std::wstring& percorso) {
+    return carica(*flussoDi(percorso).get());
 }
 
-double UnitaDiFinestra::pixelVerticali(double valore) const {
-    return pixel(finestra_, LOGPIXELSY, valore);
+ComPtr<IPicture> caricaImmagine(int risorsa, const wchar_t* tipo) {
+    const HMODULE modulo = GetModuleHandleW(nullptr);
+    const HRSRC trovata = FindResourceW(modulo, MAKEINTRESOURCEW(risorsa), tipo);
+    if (trovata == nullptr) {
+        solleva(errori::immagineNonValida);
+    }
+    const void* const dati = LockResource(LoadResource(modulo, trovata));
+    const ComPtr<IStream> flusso(
+        SHCreateMemStream(static_cast<const BYTE*>(dati), SizeofResource(modulo, trovata)));
+    if (!flusso) {
+        solleva(errori::memoriaEsaurita);
+    }
+    return carica(*flusso.get());
+}
+
+HBITMAP bitmapDi(IPicture& immagine) noexcept {
+    short tipo = PICTYPE_NONE;
+    OLE_HANDLE maniglia = 0;
+    if (FAILED(immagine.get_Type(&tipo)) || tipo != PICTYPE_BITMAP ||
+        FAILED(immagine.get_Handle(&maniglia))) {
+        return nullptr;
+    }
+    // The interface narrows the handle; handles are 32 bits wide, with their sign.
+    return reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(static_cast<INT>(maniglia)));
+}
+
+SIZE misuraDi(HBITMAP bitmap) noexcept {
+    const auto dati = datiDi<BITMAP>(bitmap).value_or(BITMAP{});
+    return {dati.bmWidth, dati.bmHeight};
 }
 
 double ImmagineNascosta::Width() const {

@@ -10,7 +10,7 @@ CartelleDati cartelleUtente(std::wstring_view applicazione) {
     wchar_t* cartella = nullptr;
     const HRESULT hr = SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &cartella);
     // To be freed even when the call fails.
-    const MemoriaCom memoria(cartella);
+    const MemoriaCom<wchar_t> memoria(cartella);
     if (FAILED(hr)) {
         return {};
     }

@@ -56,10 +56,6 @@ private:
     std::vector<std::wstring> fatte_;
 };
 
-struct LiberaCom {
-    void operator()(void* memoria) const noexcept { CoTaskMemFree(memoria); }
-};
-
 } // namespace
 
 void koUtilitaCartelle::CreaPercorsoDirectory(const std::wstring& percorso) {
@@ -88,7 +84,7 @@ std::wstring koUtilitaCartelle::Sfoglia_Cartella(HWND hWnd, const std::wstring& 
     richiesta.hwndOwner = hWnd;
     richiesta.lpszTitle = titolo.c_str();
     richiesta.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
-    const std::unique_ptr<ITEMIDLIST, LiberaCom> scelta(SHBrowseForFolderW(&richiesta));
+    const MemoriaCom<ITEMIDLIST> scelta(SHBrowseForFolderW(&richiesta));
     std::wstring percorso(32768, L'\0');
     if (!scelta || !SHGetPathFromIDListEx(scelta.get(), percorso.data(),
                                           static_cast<DWORD>(percorso.size()), GPFIDL_DEFAULT)) {

@@ -15,12 +15,7 @@
 
 namespace {
 
-struct TrattiLz {
-    using Tipo = INT;
-    static Tipo vuota() noexcept { return -1; }
-    static void chiudi(Tipo maniglia) noexcept { LZClose(maniglia); }
-};
-using FileLz = Maniglia<TrattiLz>;
+using FileLz = Maniglia<INT, LZClose, -1>;
 
 // The length that the header of a compressed file tells; none for any other file. Leaves the file
 // at its beginning. Raises error 57 for half a header.

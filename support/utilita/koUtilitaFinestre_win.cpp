@@ -1,6 +1,7 @@
 #include "support/utilita/koUtilitaFinestre.h"
 
 #include "support/windows/errori_win.h"
+#include "support/windows/gdi_win.h"
 #include "support/windows/maniglie_win.h"
 
 #include <windows.h>
@@ -50,17 +51,6 @@ void centra(HWND hWnd, const RECT& dentro, const RECT* limiti) {
         sollevaWin32();
     }
 }
-
-struct ContestoFinestra {
-    explicit ContestoFinestra(HWND finestra) noexcept
-        : hWnd(finestra), dc(GetDCEx(finestra, nullptr, DCX_CACHE | DCX_CLIPCHILDREN)) {}
-    ContestoFinestra(const ContestoFinestra&) = delete;
-    ContestoFinestra& operator=(const ContestoFinestra&) = delete;
-    ~ContestoFinestra() { ReleaseDC(hWnd, dc); }
-
-    HWND hWnd;
-    HDC dc;
-};
 
 // One of red, green and blue at row `y` of `altezza`.
 BYTE tinta(BYTE base, int passoA, int passoB, LONG y, LONG altezza) noexcept {
@@ -117,9 +107,9 @@ void koUtilitaFinestre::SfumaForm(HWND form, std::uint32_t ColoreIniziale, int P
     // Beyond the whole range nothing changes, and the sums stay in theirs.
     const int a = std::clamp(PassoA, -255, 255);
     const int b = std::clamp(PassoB, -255, 255);
-    const ContestoFinestra contesto(form);
+    const DcFinestra dc(form, DCX_CACHE | DCX_CLIPCHILDREN);
     RECT area{};
-    if (contesto.dc == nullptr || !GetClientRect(form, &area)) {
+    if (!dc || !GetClientRect(form, &area)) {
         sollevaWin32();
     }
     for (LONG y = 0; y < area.bottom; ++y) {
@@ -128,7 +118,7 @@ void koUtilitaFinestre::SfumaForm(HWND form, std::uint32_t ColoreIniziale, int P
             CreateSolidBrush(RGB(tinta(GetRValue(colore), a, b, y, area.bottom),
                                  tinta(GetGValue(colore), a, b, y, area.bottom),
                                  tinta(GetBValue(colore), a, b, y, area.bottom))));
-        FillRect(contesto.dc, &riga, pennello.get());
+        FillRect(dc.get(), &riga, pennello.get());
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/errori/errore.h"
+#include "support/windows/maniglie_win.h"
 
 #include <windows.h>
 
@@ -124,3 +125,7 @@ public:
     Apartamento& operator=(const Apartamento&) = delete;
     ~Apartamento();
 };
+
+// What a COM call allocated for its caller.
+template <class T>
+using MemoriaCom = Maniglia<T*, CoTaskMemFree>;

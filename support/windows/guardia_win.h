@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include <exception>
+#include <utility>
 
 // The hourglass while something long runs on the window's thread; the pointer comes back when the
 // scope ends.
@@ -34,15 +34,5 @@ bool protetto(Azione azione, Riporta riporta) {
             riporta();
         }
         return false;
-    }
-}
-
-// Reports where nothing may be raised, at a boundary with Windows: what fails in `riporta` ends
-// here.
-template <class Riporta>
-void riportaSePuo(Riporta riporta) noexcept {
-    try {
-        riporta();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nothing is left to tell with
     }
 }

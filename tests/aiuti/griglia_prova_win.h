@@ -24,7 +24,7 @@ public:
         menu.push_back(punto);
         righeMenu.push_back(riga);
     }
-    void grigliaEccezione() noexcept override { ++eccezioni; }
+    void onEccezione() noexcept override { ++eccezioni; }
 
     // Those that begin with "sposta"; with "doppio".
     [[nodiscard]] std::vector<std::wstring> mosse() const { return scelti(L"sposta"); }

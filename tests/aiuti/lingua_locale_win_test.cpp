@@ -13,12 +13,7 @@
 
 namespace {
 
-struct TrattiServizio {
-    using Tipo = SC_HANDLE;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo servizio) noexcept { CloseServiceHandle(servizio); }
-};
-using Servizio = Maniglia<TrattiServizio>;
+using Servizio = Maniglia<SC_HANDLE, CloseServiceHandle>;
 
 bool arriva(const Servizio& servizio, DWORD stato) {
     return attendiChe([&] {

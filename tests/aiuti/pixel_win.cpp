@@ -70,6 +70,17 @@ Immagine dipinta(int larghezza, int altezza, const std::function<void(HDC)>& pit
     return immagine;
 }
 
+Immagine puntatore(COLORREF sfondo) {
+    const int lato = GetSystemMetrics(SM_CXCURSOR);
+    return dipinta(lato, lato, [&](HDC dc) {
+        const RECT tutto{0, 0, lato, lato};
+        const HBRUSH pennello = CreateSolidBrush(sfondo);
+        FillRect(dc, &tutto, pennello);
+        DeleteObject(pennello);
+        DrawIconEx(dc, 0, 0, GetCursor(), lato, lato, 0, nullptr, DI_NORMAL);
+    });
+}
+
 Immagine sulloSchermo(HWND finestra) {
     UpdateWindow(finestra);
     RECT r{};

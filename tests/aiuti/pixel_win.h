@@ -32,6 +32,9 @@ struct Immagine {
 // What a painter leaves on a canvas of that size.
 [[nodiscard]] Immagine dipinta(int larghezza, int altezza, const std::function<void(HDC)>& pittore);
 
+// The pointer of now, drawn over a colour.
+[[nodiscard]] Immagine puntatore(COLORREF sfondo);
+
 // What a window shows inside, its children with it, after it has painted what it wants to.
 [[nodiscard]] Immagine sulloSchermo(HWND finestra);
 // The same with its frame, caption and menu.

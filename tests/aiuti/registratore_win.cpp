@@ -35,7 +35,7 @@ Registratore::Registratore()
     const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"OstrelleProveRegistratore");
     const DWORD esito = WaitForSingleObject(mutex, 120000);
     EXPECT_TRUE(esito == WAIT_OBJECT_0 || esito == WAIT_ABANDONED);
-    turno_ = Maniglia<TrattiMutex>(mutex);
+    turno_ = Maniglia<HANDLE, lascia>(mutex);
 }
 
 Registratore::~Registratore() {

@@ -48,20 +48,16 @@ public:
     [[nodiscard]] Lancio attendi();
 
 private:
-    struct TrattiMutex {
-        using Tipo = HANDLE;
-        static Tipo vuota() noexcept { return nullptr; }
-        static void chiudi(Tipo mutex) noexcept {
-            ReleaseMutex(mutex);
-            CloseHandle(mutex);
-        }
-    };
+    static void lascia(HANDLE mutex) noexcept {
+        ReleaseMutex(mutex);
+        CloseHandle(mutex);
+    }
 
     // Takes a class away until the end.
     void sgombra(const std::wstring& classe);
     [[nodiscard]] std::string righe() const;
 
-    Maniglia<TrattiMutex> turno_;
+    Maniglia<HANDLE, lascia> turno_;
     CartellaProva cartella_;
     VariabileAmbiente registrazione_;
     std::list<ChiaveSalvata> classi_;

@@ -46,13 +46,6 @@ int quantiFile(const CartellaProva& cartella) {
     return quanti;
 }
 
-struct TrattiOggetto {
-    using Tipo = HANDLE;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo oggetto) noexcept { CloseHandle(oggetto); }
-};
-using Oggetto = Maniglia<TrattiOggetto>;
-
 } // namespace
 
 TEST(PaginaSuDisco, UnaPaginaInteraSostituisceQuellaCheCe) {
@@ -235,7 +228,7 @@ TEST(Anteprima, IFileCiSonoFinoAllaFineDelProgrammaENonOltre) {
     const CartellaProva cartella;
     const std::wstring dove = cartella.file(L"dove.txt");
     const std::wstring nome = L"OstrelleProveAnteprima" + std::to_wstring(GetCurrentProcessId());
-    const Oggetto evento(CreateEventW(nullptr, TRUE, FALSE, nome.c_str()));
+    const ManigliaOggetto evento(CreateEventW(nullptr, TRUE, FALSE, nome.c_str()));
     ASSERT_TRUE(evento);
     std::wstring comando =
         L'"' + cartellaProgramma() + L"\\anteprima.exe\" \"" + dove + L"\" " + nome;
@@ -244,8 +237,8 @@ TEST(Anteprima, IFileCiSonoFinoAllaFineDelProgrammaENonOltre) {
     PROCESS_INFORMATION processo{};
     ASSERT_TRUE(CreateProcessW(nullptr, comando.data(), nullptr, nullptr, FALSE, 0, nullptr,
                                nullptr, &avvio, &processo));
-    const Oggetto thread(processo.hThread);
-    const Oggetto figlio(processo.hProcess);
+    const ManigliaOggetto thread(processo.hThread);
+    const ManigliaOggetto figlio(processo.hProcess);
 
     ASSERT_TRUE(attendiChe([&] { return fileEsiste(dove) && leggiTutto(dove).ends_with(".htm"); }));
     const std::wstring pagina = daUtf8(leggiTutto(dove));

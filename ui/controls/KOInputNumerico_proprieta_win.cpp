@@ -1,6 +1,8 @@
 #include "ui/controls/KOInputNumerico_win.h"
 
 #include "support/errori/errore.h"
+#include "support/windows/dpi_win.h"
+#include "support/windows/gdi_win.h"
 
 #include <windowsx.h>
 
@@ -11,36 +13,28 @@
 
 namespace {
 
-// Points come to pixels with the system's DPI.
-int puntiPerPollice() {
-    const HDC dc = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(dc, LOGPIXELSY);
-    ReleaseDC(nullptr, dc);
-    return dpi;
-}
+constexpr double twipsPerPunto = 20;
 
-FontProprieta descrivi(HFONT font) {
-    LOGFONTW dati{};
-    if (GetObjectW(font != nullptr ? font : GetStockObject(SYSTEM_FONT), sizeof(dati), &dati) ==
-        0) {
+FontProprieta descrivi(HFONT font, Risoluzione verticale) {
+    const auto dati = datiDi<LOGFONTW>(font != nullptr ? font : GetStockObject(SYSTEM_FONT));
+    if (!dati) {
         solleva(errori::valoreProprieta);
     }
     FontProprieta descrizione;
-    descrizione.nome = static_cast<const wchar_t*>(dati.lfFaceName);
-    descrizione.punti = -static_cast<double>(dati.lfHeight) * 72 / puntiPerPollice();
-    descrizione.peso = dati.lfWeight;
-    descrizione.corsivo = dati.lfItalic != 0;
-    descrizione.sottolineato = dati.lfUnderline != 0;
-    descrizione.barrato = dati.lfStrikeOut != 0;
+    descrizione.nome = static_cast<const wchar_t*>(dati->lfFaceName);
+    descrizione.punti = -verticale.twips(dati->lfHeight) / twipsPerPunto;
+    descrizione.peso = dati->lfWeight;
+    descrizione.corsivo = dati->lfItalic != 0;
+    descrizione.sottolineato = dati->lfUnderline != 0;
+    descrizione.barrato = dati->lfStrikeOut != 0;
     return descrizione;
 }
 
-Carattere fai(const FontProprieta& descrizione) {
+Carattere fai(const FontProprieta& descrizione, Risoluzione verticale) {
     LOGFONTW dati{};
     const auto lunghezza = std::min(descrizione.nome.size(), std::size(dati.lfFaceName) - 1);
     std::copy_n(descrizione.nome.begin(), lunghezza, std::begin(dati.lfFaceName));
-    dati.lfHeight = -static_cast<LONG>(descrizione.punti * puntiPerPollice() / 72 +
-                                       (descrizione.punti < 0 ? -0.5 : 0.5));
+    dati.lfHeight = -verticale.pixelVicini(descrizione.punti * twipsPerPunto);
     dati.lfWeight = descrizione.peso;
     dati.lfItalic = descrizione.corsivo ? TRUE : FALSE;
     dati.lfUnderline = descrizione.sottolineato ? TRUE : FALSE;
@@ -123,7 +117,7 @@ void KOInputNumerico::Locked(bool valore) {
 }
 
 FontProprieta KOInputNumerico::fontAmbiente() const {
-    return descrivi(GetWindowFont(GetParent(hwnd())));
+    return descrivi(GetWindowFont(GetParent(hwnd())), dpiDi(hwnd()).y);
 }
 
 void KOInputNumerico::leggi(const BorsaProprieta& borsa) {
@@ -137,7 +131,7 @@ void KOInputNumerico::leggi(const BorsaProprieta& borsa) {
     Carattere nuovo;
     HFONT font = GetWindowFont(GetParent(hwnd()));
     if (p.Font != ambiente) {
-        nuovo = fai(p.Font);
+        nuovo = fai(p.Font, dpiDi(hwnd()).y);
         font = nuovo.get();
     }
     SetWindowFont(txtnumero_, font, TRUE);
@@ -156,7 +150,7 @@ void KOInputNumerico::scrivi(BorsaProprieta& borsa) const {
     p.Massimo = Massimo();
     p.Incremento = Incremento();
     p.Minimo = Minimo();
-    p.Font = descrivi(Font());
+    p.Font = descrivi(Font(), dpiDi(hwnd()).y);
     p.Valore = Valore();
     p.ForeColor = coloreTesto_;
     p.Enabled = Enabled();

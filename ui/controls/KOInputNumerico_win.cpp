@@ -2,6 +2,7 @@
 
 #include "support/utilita/koUtilitaNumeri.h"
 #include "support/windows/errori_win.h"
+#include "support/windows/guardia_win.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -148,7 +149,7 @@ void KOInputNumerico::MinimoSuperato(double vminimo) {
 
 void KOInputNumerico::onEccezione() noexcept {
     if (eventi_ != nullptr) {
-        eventi_->onEccezione(*this);
+        eventi_->onEccezione();
     } else {
         MessageBeep(MB_ICONHAND);
     }
@@ -160,15 +161,7 @@ void KOInputNumerico::lascia() {
         return;
     }
     const Trattenuta trattenuta(*this);
-    struct Uscita {
-        explicit Uscita(bool& segno) noexcept : inCorso(segno) {}
-        Uscita(const Uscita&) = delete;
-        Uscita& operator=(const Uscita&) = delete;
-        ~Uscita() { inCorso = false; }
-        bool& inCorso;
-    };
-    uscendo_ = true;
-    const Uscita uscita(uscendo_);
+    const Alzata uscendo(uscendo_);
     const auto valore = regole_.esci(campo_.testo(), formatoUtente(), *this);
     if (valore && hwnd() != nullptr) {
         // On demand the box stays in use: the caret stands where it stood.

@@ -1,39 +1,13 @@
 #include "ui/controls/aspettoGriglia_win.h"
 
 #include "support/windows/errori_win.h"
+#include "support/windows/gdi_win.h"
 #include "ui/controls/contrasto.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 namespace {
-
-// The window's device context, for measures.
-class ContestoSchermo {
-public:
-    ContestoSchermo() noexcept : dc_(GetDC(nullptr)) {}
-    ContestoSchermo(const ContestoSchermo&) = delete;
-    ContestoSchermo& operator=(const ContestoSchermo&) = delete;
-    ~ContestoSchermo() { ReleaseDC(nullptr, dc_); }
-    [[nodiscard]] HDC get() const noexcept { return dc_; }
-
-private:
-    HDC dc_;
-};
-
-// A font in use; the one before comes back at the end.
-class Selezione {
-public:
-    Selezione(HDC dc, HGDIOBJ oggetto) noexcept : dc_(dc), prima_(SelectObject(dc, oggetto)) {}
-    Selezione(const Selezione&) = delete;
-    Selezione& operator=(const Selezione&) = delete;
-    ~Selezione() { SelectObject(dc_, prima_); }
-
-private:
-    HDC dc_;
-    HGDIOBJ prima_;
-};
 
 int altezza(HDC dc, HFONT carattere) noexcept {
     const Selezione selezione(dc, carattere);
@@ -70,7 +44,7 @@ void incornicia(HDC dc, RECT r, int spessore, int colore) noexcept {
 
 } // namespace
 
-AspettoGriglia::AspettoGriglia() {
+AspettoGriglia::AspettoGriglia(Risoluzione verticale) {
     NONCLIENTMETRICSW misure{};
     misure.cbSize = sizeof(misure);
     if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(misure), &misure, 0)) {
@@ -80,11 +54,11 @@ AspettoGriglia::AspettoGriglia() {
     normale_ = Carattere(CreateFontIndirectW(&font));
     font.lfWeight = FW_BOLD;
     grassetto_ = Carattere(CreateFontIndirectW(&font));
-    const ContestoSchermo schermo;
+    const DcFinestra schermo(nullptr);
     altezzaTesto_ =
         std::max(altezza(schermo.get(), normale_.get()), altezza(schermo.get(), grassetto_.get()));
-    margine_ = twipsInPixel(60, LOGPIXELSY);
-    cornice_ = twipsInPixel(30, LOGPIXELSY);
+    margine_ = verticale.pixelPerEccesso(60);
+    cornice_ = verticale.pixelPerEccesso(30);
     // Two lines, the margins, and the line that ends the row.
     altezzaRiga_ = 2 * altezzaTesto_ + 2 * margine_ + 1;
 }
@@ -131,9 +105,4 @@ void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
             DrawFocusRect(dc, &cornice);
         }
     }
-}
-
-int twipsInPixel(double twips, int asse) noexcept {
-    const ContestoSchermo schermo;
-    return static_cast<int>(std::ceil(twips * GetDeviceCaps(schermo.get(), asse) / 1440));
 }

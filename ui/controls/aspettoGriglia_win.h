@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/windows/dpi_win.h"
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/righeGriglia.h"
 
@@ -9,8 +10,10 @@
 // colours only, a frame around the selected row. Measures in pixels.
 class AspettoGriglia {
 public:
+    // Without fonts: draws nothing.
+    AspettoGriglia() noexcept = default;
     // With the fonts of now.
-    AspettoGriglia();
+    explicit AspettoGriglia(Risoluzione verticale);
 
     [[nodiscard]] HFONT carattere() const noexcept { return normale_.get(); }
     [[nodiscard]] int altezzaRiga() const noexcept { return altezzaRiga_; }
@@ -32,7 +35,3 @@ private:
     int cornice_ = 0;
     int altezzaRiga_ = 0;
 };
-
-// The margin that a length in twips makes on a device, rounded up; `asse` is LOGPIXELSX or
-// LOGPIXELSY.
-[[nodiscard]] int twipsInPixel(double twips, int asse) noexcept;

@@ -1,5 +1,7 @@
 #include "ui/controls/campoTesto_win.h"
 
+#include "support/windows/guardia_win.h"
+
 #include <windowsx.h>
 
 std::wstring testoFinestra(HWND finestra) {
@@ -20,9 +22,10 @@ bool CampoTesto::testo(std::wstring_view valore) {
     if (ultimo_ == valore && testo() == valore) {
         return false;
     }
-    assegnando_ = true;
-    SetWindowTextW(controllo_, std::wstring(valore).c_str());
-    assegnando_ = false;
+    {
+        const Alzata assegnando(assegnando_);
+        SetWindowTextW(controllo_, std::wstring(valore).c_str());
+    }
     std::wstring adesso = testo();
     const bool diverso = adesso != ultimo_;
     ultimo_ = std::move(adesso);

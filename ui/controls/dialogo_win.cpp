@@ -1,14 +1,13 @@
 #include "ui/controls/dialogo_win.h"
 
 #include "support/windows/errori_win.h"
+#include "support/windows/guardia_win.h"
 #include "support/windows/tastiTenuti_win.h"
-
-#include <exception>
 
 // What goes through WM_INITDIALOG: the object, and the way back for what it raises there.
 struct Dialogo::Nascita {
     Dialogo* dialogo;
-    std::exception_ptr errore;
+    Rinvio errore;
 };
 
 Dialogo::~Dialogo() {
@@ -19,17 +18,14 @@ Dialogo::~Dialogo() {
 }
 
 INT_PTR Dialogo::mostraModale(int modello, HWND proprietaria) {
-    Nascita nascita{this, nullptr};
+    Nascita nascita{this, {}};
     const SenzaRipetizioni guardia;
-    modale_ = true;
+    const Alzata modale(modale_);
     const INT_PTR esito =
         DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(modello), proprietaria,
                         procedura, reinterpret_cast<LPARAM>(&nascita));
     const DWORD codice = GetLastError();
-    modale_ = false;
-    if (nascita.errore) {
-        std::rethrow_exception(nascita.errore);
-    }
+    nascita.errore.rilancia();
     if (esito == -1) {
         sollevaWin32(codice);
     }
@@ -37,13 +33,11 @@ INT_PTR Dialogo::mostraModale(int modello, HWND proprietaria) {
 }
 
 void Dialogo::crea(int modello, HWND genitore) {
-    Nascita nascita{this, nullptr};
+    Nascita nascita{this, {}};
     const HWND creata = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(modello),
                                            genitore, procedura, reinterpret_cast<LPARAM>(&nascita));
     const DWORD codice = GetLastError();
-    if (nascita.errore) {
-        std::rethrow_exception(nascita.errore);
-    }
+    nascita.errore.rilancia();
     if (creata == nullptr) {
         sollevaWin32(codice);
     }
@@ -63,19 +57,18 @@ INT_PTR CALLBACK Dialogo::procedura(HWND hwnd, UINT msg, WPARAM wParam, LPARAM l
         Dialogo* const nato = nascita->dialogo;
         nato->hwnd_ = hwnd;
         SetWindowLongPtrW(hwnd, DWLP_USER, reinterpret_cast<LONG_PTR>(nato));
-        try {
-            const bool fuocoASistema = nato->inizializza();
-            if (const HWND proprietaria = GetWindow(hwnd, GW_OWNER);
-                nato->modale_ && proprietaria != nullptr) {
-                // A box shown meanwhile may have enabled the owner again when it closed.
-                EnableWindow(proprietaria, FALSE);
-            }
-            return fuocoASistema ? TRUE : FALSE;
-        } catch (...) {
-            nascita->errore = std::current_exception();
+        const bool fuocoASistema =
+            alConfine(nascita->errore, false, [&] { return nato->inizializza(); });
+        if (nascita->errore) {
             nato->chiudi(-1);
             return FALSE;
         }
+        if (const HWND proprietaria = GetWindow(hwnd, GW_OWNER);
+            nato->modale_ && proprietaria != nullptr) {
+            // A box shown meanwhile may have enabled the owner again when it closed.
+            EnableWindow(proprietaria, FALSE);
+        }
+        return fuocoASistema ? TRUE : FALSE;
     }
     // Messages before WM_INITDIALOG (WM_SETFONT, for one) find no object yet.
     auto* const dialogo = reinterpret_cast<Dialogo*>(GetWindowLongPtrW(hwnd, DWLP_USER));
@@ -87,10 +80,6 @@ INT_PTR CALLBACK Dialogo::procedura(HWND hwnd, UINT msg, WPARAM wParam, LPARAM l
         dialogo->hwnd_ = nullptr;
         return FALSE;
     }
-    try {
-        return dialogo->messaggio(msg, wParam, lParam);
-    } catch (...) {
-        dialogo->eccezione();
-        return FALSE;
-    }
+    return alConfine(*dialogo, INT_PTR{FALSE},
+                     [&] { return dialogo->messaggio(msg, wParam, lParam); });
 }

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "support/errori/trappola.h"
+
 #include <windows.h>
 
 // Base of the windows made from dialog templates: catches its object when the dialog is made, sends
 // it the messages, and lets no exception out to Windows.
-class Dialogo {
+class Dialogo : public Trappola {
 public:
     Dialogo() = default;
     Dialogo(const Dialogo&) = delete;
     Dialogo& operator=(const Dialogo&) = delete;
-    virtual ~Dialogo();
+    ~Dialogo() override;
 
     [[nodiscard]] HWND hwnd() const noexcept { return hwnd_; }
 
@@ -25,8 +27,6 @@ protected:
     virtual bool inizializza() = 0;
     // Any other message; what it returns is the dialog procedure's.
     virtual INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) = 0;
-    // An exception left a handler; called inside the catch. Must not throw.
-    virtual void eccezione() noexcept = 0;
 
     [[nodiscard]] HWND controllo(int id) const noexcept { return GetDlgItem(hwnd_, id); }
     void chiudi(INT_PTR esito) noexcept;

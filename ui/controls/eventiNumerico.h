@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/errori/trappola.h"
 #include "ui/controls/proprietaNumerico.h"
 #include "ui/controls/valoreNumerico.h"
 
@@ -7,15 +8,10 @@
 
 class KOInputNumerico;
 
-// What a numeric control tells its container. An event that a container has no use for does
-// nothing. A handler may show a message box or close the window.
-class EventiNumerico {
+// What a numeric control tells its container; its exceptions too. An event that a container has no
+// use for does nothing. A handler may show a message box or close the window.
+class EventiNumerico : public Trappola {
 public:
-    EventiNumerico() noexcept = default;
-    EventiNumerico(const EventiNumerico&) = delete;
-    EventiNumerico& operator=(const EventiNumerico&) = delete;
-    virtual ~EventiNumerico() = default;
-
     // The box was left holding more than the maximum (less than the minimum): `Valore` still reads
     // what was typed, the limit is written afterwards.
     virtual void MassimoSuperato(KOInputNumerico& /*controllo*/, double /*vmassimo*/) {}
@@ -24,6 +20,4 @@ public:
     virtual void CambioValore(KOInputNumerico& /*controllo*/, double /*valore*/) {}
     // A property was written; its name is that of its key.
     virtual void ProprietaCambiata(KOInputNumerico& /*controllo*/, std::wstring_view /*nome*/) {}
-    // An exception left a handler or the control; called inside the catch.
-    virtual void onEccezione(KOInputNumerico& controllo) noexcept = 0;
 };

@@ -1,6 +1,7 @@
 #include "ui/controls/finestra_win.h"
 
 #include "support/windows/errori_win.h"
+#include "support/windows/guardia_win.h"
 
 #include <array>
 #include <utility>
@@ -26,15 +27,18 @@ Finestra::~Finestra() {
 
 void Finestra::crea(const wchar_t* classe, const wchar_t* titolo, DWORD stile, DWORD stileEsteso,
                     const RECT& posto, HWND padre, HMENU menu) {
-    inCreazione_ = true;
-    const HWND fatta =
-        CreateWindowExW(stileEsteso, classe, titolo, stile, posto.left, posto.top, posto.right,
-                        posto.bottom, padre, menu, GetModuleHandleW(nullptr), this);
-    const DWORD codice = GetLastError();
-    inCreazione_ = false;
-    if (const auto errore = std::exchange(erroreCreazione_, nullptr)) {
+    HWND fatta = nullptr;
+    DWORD codice = ERROR_SUCCESS;
+    {
+        const Alzata inCreazione(inCreazione_);
+        fatta =
+            CreateWindowExW(stileEsteso, classe, titolo, stile, posto.left, posto.top, posto.right,
+                            posto.bottom, padre, menu, GetModuleHandleW(nullptr), this);
+        codice = GetLastError();
+    }
+    if (erroreCreazione_) {
         distruggi();
-        std::rethrow_exception(errore);
+        erroreCreazione_.rilancia();
     }
     if (fatta == nullptr) {
         sollevaWin32(codice);
@@ -92,18 +96,9 @@ LRESULT CALLBACK Finestra::procedura(HWND hwnd, UINT codice, WPARAM w, LPARAM l)
 LRESULT Finestra::instrada(UINT codice, WPARAM w, LPARAM l) noexcept {
     const Trattenuta trattenuta(*this);
     const HWND hwnd = hwnd_;
-    LRESULT esito = 0;
-    try {
-        esito = messaggio(codice, w, l);
-    } catch (...) {
-        // An error during creation is its caller's, where there is one to catch it.
-        if (inCreazione_) {
-            erroreCreazione_ = std::current_exception();
-        } else {
-            onEccezione();
-        }
-        esito = codice == WM_CREATE ? -1 : 0;
-    }
+    const LRESULT esito =
+        alConfine(inCreazione_ ? static_cast<Trappola&>(erroreCreazione_) : *this,
+                  LRESULT{codice == WM_CREATE ? -1 : 0}, [&] { return messaggio(codice, w, l); });
     if (codice == WM_NCDESTROY) {
         lega(hwnd, nullptr);
         hwnd_ = nullptr;

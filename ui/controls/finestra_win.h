@@ -1,8 +1,9 @@
 #pragma once
 
+#include "support/errori/trappola.h"
+
 #include <windows.h>
 
-#include <exception>
 #include <memory>
 #include <string_view>
 
@@ -14,14 +15,14 @@
 // - the window owns the object (classes that a dialog template names): `registraPropria`; the
 //   object is made when the window is, and goes when the window is gone and no call of it is left
 //   on the stack.
-class Finestra {
+class Finestra : public Trappola {
 public:
     Finestra() noexcept = default;
     Finestra(const Finestra&) = delete;
     Finestra& operator=(const Finestra&) = delete;
     // By now the derived part is gone: the window's last messages get the system's answers. A
     // class that wants to see them calls `distruggi` in its own destructor.
-    virtual ~Finestra();
+    ~Finestra() override;
 
     // Null before WM_NCCREATE and after WM_NCDESTROY.
     [[nodiscard]] HWND hwnd() const noexcept { return hwnd_; }
@@ -54,8 +55,6 @@ public:
 protected:
     // Answers a message; what it does not care for goes to `predefinito`.
     virtual LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) = 0;
-    // Called inside the catch of an exception that left `messaggio`: see `erroreCorrente`.
-    virtual void onEccezione() noexcept = 0;
 
     [[nodiscard]] LRESULT predefinito(UINT codice, WPARAM w, LPARAM l) const noexcept {
         return DefWindowProcW(hwnd_, codice, w, l);
@@ -80,9 +79,7 @@ private:
     template <class Classe>
     static LRESULT CALLBACK proceduraPropria(HWND hwnd, UINT codice, WPARAM w, LPARAM l) noexcept {
         if (codice == WM_NCCREATE) {
-            try {
-                adotta(hwnd, std::make_unique<Classe>());
-            } catch (...) {
+            if (!ignorando([&] { adotta(hwnd, std::make_unique<Classe>()); })) {
                 return FALSE;
             }
         }
@@ -99,7 +96,8 @@ private:
 
     HWND hwnd_ = nullptr;
     bool propria_ = false;
+    // While `crea` runs errors are its caller's.
     bool inCreazione_ = false;
+    Rinvio erroreCreazione_;
     int chiamate_ = 0;
-    std::exception_ptr erroreCreazione_;
 };

@@ -2,6 +2,8 @@
 
 #include "ui/controls/griglia_win.h"
 
+#include "support/windows/guardia_win.h"
+
 #include <windowsx.h>
 
 #include <commctrl.h>
@@ -301,12 +303,14 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     }
     // The list brings the row into sight after it has told the change: only then is it known
     // whether it has to become the top row.
-    const bool prima = std::exchange(allineando_, true);
-    if (muove) {
-        deseleziona();
+    LRESULT esito = 0;
+    {
+        const Alzata allineando(allineando_);
+        if (muove) {
+            deseleziona();
+        }
+        esito = inoltra(codice, w, l);
     }
-    const LRESULT esito = inoltra(codice, w, l);
-    allineando_ = prima;
     allinea();
     return esito;
 }

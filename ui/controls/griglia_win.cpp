@@ -1,11 +1,11 @@
 #include "ui/controls/griglia_win.h"
 
 #include "support/windows/errori_win.h"
+#include "support/windows/guardia_win.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -14,13 +14,6 @@ constexpr DWORD stileLista = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDRE
                              LVS_OWNERDATA | LVS_OWNERDRAWFIXED | LVS_SINGLESEL |
                              LVS_SHOWSELALWAYS | LVS_NOSORTHEADER;
 constexpr DWORD stileEsteso = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
-
-double twipsPerPixelX(HWND hwnd) noexcept {
-    const HDC dc = GetDC(hwnd);
-    const int dpi = GetDeviceCaps(dc, LOGPIXELSX);
-    ReleaseDC(hwnd, dc);
-    return 1440.0 / dpi;
-}
 
 } // namespace
 
@@ -62,6 +55,8 @@ void Griglia::creaLista() {
 LRESULT Griglia::messaggio(UINT codice, WPARAM w, LPARAM l) {
     switch (codice) {
     case WM_CREATE:
+        dpi_ = dpiDi(hwnd());
+        aspetto_ = AspettoGriglia(dpi_.y);
         creaLista();
         return 0;
     case WM_DESTROY:
@@ -182,11 +177,10 @@ void Griglia::applicaLarghezze() {
     }
     RECT r{};
     GetClientRect(hwnd(), &r);
-    const double twips = twipsPerPixelX(hwnd());
-    const auto larghezze = larghezzeColonne(r.right * twips, righe_.colonne(), primaLarghezza_);
+    const auto larghezze =
+        larghezzeColonne(dpi_.x.twips(r.right), righe_.colonne(), primaLarghezza_);
     for (int c = 0; c < righe_.colonne(); ++c) {
-        const auto pixel =
-            static_cast<int>(std::lround(larghezze[static_cast<std::size_t>(c)] / twips));
+        const int pixel = dpi_.x.pixelVicini(larghezze[static_cast<std::size_t>(c)]);
         if (ListView_GetColumnWidth(lista_, c) != pixel) {
             ListView_SetColumnWidth(lista_, c, pixel);
         }
@@ -204,9 +198,8 @@ void Griglia::completa() {
 }
 
 void Griglia::numeroRighe() noexcept {
-    const bool prima = std::exchange(allineando_, true);
+    const Alzata allineando(allineando_);
     ListView_SetItemCountEx(lista_, righe_.righe() - 1, 0);
-    allineando_ = prima;
 }
 
 void Griglia::seleziona(int riga) {
@@ -216,14 +209,15 @@ void Griglia::seleziona(int riga) {
     // Some list views scroll a row that gets the focus into full sight: undone, a row that a press
     // selects must stay under the pointer.
     const int cima = visibile(riga) ? rigaInCima() : riga;
-    const bool prima = std::exchange(allineando_, true);
-    if (riga != rigaCorrente_) {
-        deseleziona();
+    {
+        const Alzata allineando(allineando_);
+        if (riga != rigaCorrente_) {
+            deseleziona();
+        }
+        ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
+                              LVIS_SELECTED | LVIS_FOCUSED);
+        ListView_SetSelectionMark(lista_, riga - 1);
     }
-    ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
-                          LVIS_SELECTED | LVIS_FOCUSED);
-    ListView_SetSelectionMark(lista_, riga - 1);
-    allineando_ = prima;
     rigaInCima(cima);
     rigaCorrente_ = riga;
 }
@@ -300,12 +294,12 @@ AreaRighe Griglia::area() const noexcept {
     return {.larghezza = tutta.right - tutta.left,
             .cima = testata.bottom - tutta.top,
             .fondo = tutta.bottom - tutta.top,
-            .margineX = twipsInPixel(100, LOGPIXELSX),
-            .margineY = twipsInPixel(100, LOGPIXELSY)};
+            .margineX = dpi_.x.pixelPerEccesso(100),
+            .margineY = dpi_.y.pixelPerEccesso(100)};
 }
 
 void Griglia::aggiornaAspetto() {
-    aspetto_ = AspettoGriglia();
+    aspetto_ = AspettoGriglia(dpi_.y);
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), TRUE);
     ListView_SetBkColor(lista_, GetSysColor(COLOR_WINDOW));
     // A list view measures its rows when its size changes, or so it believes.

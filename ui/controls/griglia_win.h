@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/errori/trappola.h"
+#include "support/windows/dpi_win.h"
 #include "ui/controls/aspettoGriglia_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/puntatori_win.h"
@@ -15,13 +17,8 @@
 
 // What the grid tells its owner. Rows are the grid's: 0 is the header, r shows item r - 1. The
 // calls are the last thing the grid does for an event, so that a box may be shown in them.
-class OsservatoreGriglia {
+class OsservatoreGriglia : public Trappola {
 public:
-    OsservatoreGriglia() noexcept = default;
-    OsservatoreGriglia(const OsservatoreGriglia&) = delete;
-    OsservatoreGriglia& operator=(const OsservatoreGriglia&) = delete;
-    virtual ~OsservatoreGriglia() = default;
-
     // A double click, on that row; 0 on the header and below the last row. Outside the header the
     // row has become the current one.
     virtual void grigliaDoppioClic(int riga) = 0;
@@ -31,8 +28,6 @@ public:
     // The context menu is asked for, at a point of the screen in pixels and on that row; 0 on the
     // header and below the last row. Any other row means the current one.
     virtual void grigliaMenu(POINT punto, int riga) = 0;
-    // Called inside the catch of an exception that left one of the above: see `erroreCorrente`.
-    virtual void grigliaEccezione() noexcept = 0;
 };
 
 // The item grid: a list view that asks for its texts when it shows them, in a window of its own, so
@@ -96,7 +91,7 @@ public:
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
     LRESULT messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) override;
-    void onEccezione() noexcept override { osservatore_.grigliaEccezione(); }
+    void onEccezione() noexcept override { osservatore_.onEccezione(); }
 
     void creaLista();
     void disponi();
@@ -135,6 +130,8 @@ private:
 
     RigheGriglia righe_;
     OsservatoreGriglia& osservatore_;
+    // Of the window since it was made.
+    Dpi dpi_;
     AspettoGriglia aspetto_;
     Puntatori puntatori_;
     Trascinamento trascinamento_;

@@ -5,13 +5,6 @@
 
 #include <windows.h>
 
-struct TrattiCursore {
-    using Tipo = HCURSOR;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo cursore) noexcept { DestroyCursor(cursore); }
-};
-using Cursore = Maniglia<TrattiCursore>;
-
 // The pointers of a drag: our own for a dragged row, the system's for the others.
 class Puntatori {
 public:

@@ -14,12 +14,7 @@ LRESULT CALLBACK procedura(HWND hwnd, UINT codice, WPARAM w, LPARAM l, UINT_PTR 
     if (codice == WM_NCDESTROY) {
         RemoveWindowSubclass(hwnd, &procedura, identita);
     }
-    try {
-        return g.messaggioDi(hwnd, codice, w, l);
-    } catch (...) {
-        g.onEccezione();
-        return 0;
-    }
+    return alConfine(g, LRESULT{0}, [&] { return g.messaggioDi(hwnd, codice, w, l); });
 }
 
 // One handler subclasses a window once: its address tells its subclassing from others'.

@@ -1,19 +1,14 @@
 #pragma once
 
+#include "support/errori/trappola.h"
+
 #include <windows.h>
 
 // Who sees the messages of another window before that window does.
-class GestoreSottoclasse {
+class GestoreSottoclasse : public Trappola {
 public:
-    GestoreSottoclasse() noexcept = default;
-    GestoreSottoclasse(const GestoreSottoclasse&) = delete;
-    GestoreSottoclasse& operator=(const GestoreSottoclasse&) = delete;
-    virtual ~GestoreSottoclasse() = default;
-
     // Answers a message; what it does not care for goes to DefSubclassProc.
     virtual LRESULT messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) = 0;
-    // Called inside the catch of an exception that left `messaggioDi`: see `erroreCorrente`.
-    virtual void onEccezione() noexcept = 0;
 };
 
 // The subclassing of one window by one handler, for the life of this object or of the window,

@@ -3,6 +3,7 @@
 #include "datetime/ClsUTC.h"
 #include "document/caratteriXml.h"
 #include "res/risorse.h"
+#include "support/errori/trappola.h"
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
@@ -50,18 +51,12 @@ INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM /*lParam*/) {
     }
 }
 
-void FrmEditFeed::eccezione() noexcept {
-    riportaSePuo([this] { koUtilita(messaggi_).PrintErrore(); });
+void FrmEditFeed::onEccezione() noexcept {
+    ignorando([this] { koUtilita(messaggi_).PrintErrore(); });
 }
 
 void FrmEditFeed::PulisciCampi() noexcept {
     // Each assignment on its own: one that fails does not stop the others.
-    const auto ignorando = [](auto azione) {
-        try {
-            azione();
-        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): as told above
-        }
-    };
     for (CampoTesto* const campo : {&txtTitolo_, &txtLink_, &txtAutore_, &txtDescrizione_}) {
         ignorando([&] { campo->testo(L""); });
     }

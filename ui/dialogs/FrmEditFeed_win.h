@@ -40,7 +40,7 @@ public:
 private:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
-    void eccezione() noexcept override;
+    void onEccezione() noexcept override;
 
     void PulisciCampi() noexcept;
     void cmdSalva_Click();

@@ -1,84 +1,32 @@
 #include "ui/dialogs/frmAbout_win.h"
 
 #include "res/risorse.h"
-#include "support/errori/errore.h"
+#include "support/errori/trappola.h"
+#include "support/immagini/immagine_win.h"
 #include "support/programma/prodotto.h"
 #include "support/utilita/koUtilita.h"
+#include "support/windows/dpi_win.h"
 #include "support/windows/errori_win.h"
-#include "support/windows/guardia_win.h"
+#include "support/windows/gdi_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/dialogs/infoSistema_win.h"
-
-#include <olectl.h>
-#include <shlwapi.h>
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace {
 
-// A picture of the resource type "GIF". Raises 481 when it is missing or cannot be read.
-ComPtr<IPicture> caricaGif(int numero) {
-    const HMODULE modulo = GetModuleHandleW(nullptr);
-    const HRSRC risorsa = FindResourceW(modulo, MAKEINTRESOURCEW(numero), L"GIF");
-    if (risorsa == nullptr) {
-        solleva(errori::immagineNonValida);
-    }
-    const DWORD byte = SizeofResource(modulo, risorsa);
-    const void* const dati = LockResource(LoadResource(modulo, risorsa));
-    const ComPtr<IStream> flusso(SHCreateMemStream(static_cast<const BYTE*>(dati), byte));
-    ComPtr<IPicture> immagine;
-    if (!flusso || FAILED(OleLoadPicture(flusso.get(), static_cast<LONG>(byte), FALSE, IID_IPicture,
-                                         reinterpret_cast<void**>(immagine.riempi())))) {
-        solleva(errori::immagineNonValida);
-    }
-    return immagine;
-}
-
 // The font of a window, changed by `cambia`.
 template <class Cambia>
 Carattere derivato(HWND finestra, Cambia cambia) {
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(finestra, WM_GETFONT, 0, 0));
-    LOGFONTW descrizione{};
-    if (GetObjectW(font, sizeof(descrizione), &descrizione) == 0) {
+    auto descrizione =
+        datiDi<LOGFONTW>(reinterpret_cast<HGDIOBJ>(SendMessageW(finestra, WM_GETFONT, 0, 0)));
+    if (!descrizione) {
         sollevaWin32();
     }
-    cambia(descrizione);
-    return Carattere(CreateFontIndirectW(&descrizione));
+    cambia(*descrizione);
+    return Carattere(CreateFontIndirectW(&*descrizione));
 }
-
-class DcFinestra {
-public:
-    explicit DcFinestra(HWND finestra) noexcept : finestra_(finestra), dc_(GetDC(finestra)) {}
-    DcFinestra(const DcFinestra&) = delete;
-    DcFinestra& operator=(const DcFinestra&) = delete;
-    ~DcFinestra() { ReleaseDC(finestra_, dc_); }
-    [[nodiscard]] HDC get() const noexcept { return dc_; }
-
-private:
-    HWND finestra_;
-    HDC dc_;
-};
-
-// The bitmap of a picture, which keeps owning it. A GIF always is one.
-HBITMAP bitmapDi(IPicture& immagine) {
-    OLE_HANDLE maniglia = 0;
-    verifica(immagine.get_Handle(&maniglia));
-    // The interface narrows the handle; handles are 32 bits wide, with their sign.
-    return reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(static_cast<INT>(maniglia)));
-}
-
-SIZE lati(HBITMAP bitmap) noexcept {
-    BITMAP descrizione{};
-    GetObjectW(bitmap, sizeof(descrizione), &descrizione);
-    return {descrizione.bmWidth, descrizione.bmHeight};
-}
-
-struct TrattiDcMemoria {
-    using Tipo = HDC;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo dc) noexcept { DeleteDC(dc); }
-};
 
 // Perceived brightness, 0 to 255.
 int chiarore(COLORREF colore) noexcept {
@@ -129,7 +77,7 @@ bool frmAbout::inizializza() {
     misuraSito();
     ridimensiona(controllo(IDC_PICICON),
                  {GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)});
-    logo_ = caricaGif(IDR_LOGO);
+    logo_ = caricaImmagine(IDR_LOGO, L"GIF");
     misuraLogo();
 
     // The link comes first in the order of Tab; Enter is to close the box at once.
@@ -156,8 +104,8 @@ INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void frmAbout::eccezione() noexcept {
-    riportaSePuo([this] { koUtilita(messaggi_).PrintErrore(); });
+void frmAbout::onEccezione() noexcept {
+    ignorando([this] { koUtilita(messaggi_).PrintErrore(); });
 }
 
 bool frmAbout::comando(WORD id, WORD notifica) {
@@ -224,27 +172,24 @@ void frmAbout::disegnaIcona(const DRAWITEMSTRUCT& voce) {
 // Not by IPicture::Render, which works in hundredths of a millimetre and can miss the last pixels.
 void frmAbout::disegnaLogo(const DRAWITEMSTRUCT& voce) const {
     const HBITMAP bitmap = bitmapDi(*logo_.get());
-    const SIZE da = lati(bitmap);
+    const SIZE da = misuraDi(bitmap);
     const RECT& a = voce.rcItem;
-    const Maniglia<TrattiDcMemoria> memoria(CreateCompatibleDC(voce.hDC));
-    const HGDIOBJ prima = SelectObject(memoria.get(), bitmap);
+    const DcBitmap memoria(voce.hDC, bitmap);
     SetStretchBltMode(voce.hDC, HALFTONE);
     SetBrushOrgEx(voce.hDC, 0, 0, nullptr);
     StretchBlt(voce.hDC, a.left, a.top, a.right - a.left, a.bottom - a.top, memoria.get(), 0, 0,
                da.cx, da.cy, SRCCOPY);
-    SelectObject(memoria.get(), prima);
 }
 
 void frmAbout::disegnaSito(const DRAWITEMSTRUCT& voce) const {
     const HDC dc = voce.hDC;
     FillRect(dc, &voce.rcItem, GetSysColorBrush(COLOR_3DFACE));
-    const HGDIOBJ prima = SelectObject(dc, carattereSito_.get());
+    const Selezione selezione(dc, carattereSito_.get());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, coloreCollegamento());
     RECT riga = voce.rcItem;
     DrawTextW(dc, testoFinestra(voce.hwndItem).c_str(), -1, &riga,
               DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP);
-    SelectObject(dc, prima);
     if ((voce.itemState & ODS_FOCUS) != 0 && (voce.itemState & ODS_NOFOCUSRECT) == 0) {
         SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
         DrawFocusRect(dc, &voce.rcItem);
@@ -256,10 +201,9 @@ void frmAbout::misuraSito() const {
     const HWND sito = controllo(IDC_LBLSITO);
     const std::wstring testo = testoFinestra(sito);
     const DcFinestra dc(sito);
-    const HGDIOBJ prima = SelectObject(dc.get(), carattereSito_.get());
+    const Selezione selezione(dc.get(), carattereSito_.get());
     RECT scritta{};
     DrawTextW(dc.get(), testo.c_str(), -1, &scritta, DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT);
-    SelectObject(dc.get(), prima);
     RECT posto{};
     GetClientRect(sito, &posto);
     // A line, half of it on either side: some fonts draw their texts wider than they say.
@@ -271,9 +215,7 @@ void frmAbout::misuraSito() const {
 
 // The picture is drawn for 96 dpi.
 void frmAbout::misuraLogo() const {
-    const DcFinestra dc(hwnd());
-    const SIZE pixel = lati(bitmapDi(*logo_.get()));
-    ridimensiona(controllo(IDC_IMAGE1),
-                 {MulDiv(pixel.cx, GetDeviceCaps(dc.get(), LOGPIXELSX), 96),
-                  MulDiv(pixel.cy, GetDeviceCaps(dc.get(), LOGPIXELSY), 96)});
+    const Dpi dpi = dpiDi(hwnd());
+    const SIZE pixel = misuraDi(bitmapDi(*logo_.get()));
+    ridimensiona(controllo(IDC_IMAGE1), {dpi.x.daProgetto(pixel.cx), dpi.y.daProgetto(pixel.cy)});
 }

@@ -31,7 +31,7 @@ public:
 protected:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
-    void eccezione() noexcept override;
+    void onEccezione() noexcept override;
 
 private:
     bool comando(WORD id, WORD notifica);

@@ -1,5 +1,6 @@
 #include "ui/dialogs/infoSistema_win.h"
 
+#include "support/errori/trappola.h"
 #include "support/testi/ansi_win.h"
 #include "support/windows/file_win.h"
 #include "support/windows/maniglie_win.h"
@@ -76,18 +77,9 @@ bool avvia(const std::wstring& programma) {
                        &avvio, &processo) == FALSE) {
         return false;
     }
-    CloseHandle(processo.hThread);
-    CloseHandle(processo.hProcess);
+    const ManigliaOggetto filo(processo.hThread);
+    const ManigliaOggetto vivo(processo.hProcess);
     return true;
-}
-
-bool avviaInfoSistema() noexcept {
-    try {
-        const auto programma = trovaProgramma();
-        return programma && !programma->empty() && avvia(*programma);
-    } catch (...) {
-        return false;
-    }
 }
 
 } // namespace
@@ -124,7 +116,12 @@ bool GetKeyValue(HKEY radice, const std::wstring& percorso, const std::wstring& 
 }
 
 void StartSysInfo(Messaggi& messaggi) {
-    if (!avviaInfoSistema()) {
+    bool avviata = false;
+    ignorando([&] {
+        const auto programma = trovaProgramma();
+        avviata = programma && !programma->empty() && avvia(*programma);
+    });
+    if (!avviata) {
         messaggi.avvisa(L"Le informazioni sul sistema non sono attualmente disponibili.",
                         titoli::errore, Icona::Critica);
     }

@@ -18,7 +18,7 @@ void FrmMain::cmdGetSize_Click() {
     esecutore_.daSolo([&] {
         protetto(
             [&] {
-                const UnitaDiFinestra unita(hwnd());
+                const UnitaDiFinestra unita(dpiDi(nullptr));
                 ImmagineNascosta ImgDim;
                 ClsSizerImg misura;
                 misura.objForm(unita);

@@ -2,15 +2,16 @@
 
 #include "datetime/ClsUTC.h"
 #include "res/risorse.h"
+#include "support/errori/trappola.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
 #include "support/utilita/koUtilitaPercorsi.h"
+#include "support/windows/dpi_win.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
-#include "support/windows/guardia_win.h"
 #include "support/windows/xml_win.h"
 
 #include <commctrl.h>
@@ -29,22 +30,6 @@ constexpr int larghezzaPicCmd = 124;
 constexpr int altezzaPulsante = 26;
 constexpr int larghezzaPannelloDimensioni = 110;
 
-constexpr double twipsAlPollice = 1440;
-
-struct Dpi {
-    int x = 96;
-    int y = 96;
-};
-
-Dpi dpiDi(HWND finestra) noexcept {
-    Dpi dpi;
-    if (const HDC dc = GetDC(finestra)) {
-        dpi = {GetDeviceCaps(dc, LOGPIXELSX), GetDeviceCaps(dc, LOGPIXELSY)};
-        ReleaseDC(finestra, dc);
-    }
-    return dpi;
-}
-
 RECT areaDiLavoro() noexcept {
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
@@ -54,8 +39,8 @@ RECT areaDiLavoro() noexcept {
 // Pixels at 96 dpi as this system's, no more than there is room for.
 POINT scalata(SIZE misura, const RECT& area) noexcept {
     const Dpi dpi = dpiDi(nullptr);
-    return {std::min<LONG>(MulDiv(misura.cx, dpi.x, 96), area.right - area.left),
-            std::min<LONG>(MulDiv(misura.cy, dpi.y, 96), area.bottom - area.top)};
+    return {std::min<LONG>(dpi.x.daProgetto(misura.cx), area.right - area.left),
+            std::min<LONG>(dpi.y.daProgetto(misura.cy), area.bottom - area.top)};
 }
 
 // Enter presses the button that has the focus; a window that is no dialog has to see to it.
@@ -246,7 +231,7 @@ void FrmMain::creaControlli() {
     campi_.crea(IDD_FRADATI, hwnd());
     const auto carattere = reinterpret_cast<HFONT>(SendMessageW(campi_.hwnd(), WM_GETFONT, 0, 0));
     griglia_.creaIn(hwnd(), IDC_GRIGLIA, L"Elementi", RECT{});
-    striscia_.altezzaPulsante(MulDiv(altezzaPulsante, dpi.y, 96));
+    striscia_.altezzaPulsante(dpi.y.daProgetto(altezzaPulsante));
     striscia_.crea(hwnd(), carattere);
     StatusBar1_ = CreateWindowExW(
         0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, hwnd(),
@@ -310,14 +295,12 @@ void FrmMain::MostraErrore() {
                              Icona::Critica);
 }
 
-void FrmMain::riportaErrore() noexcept {
-    riportaSePuo([this] { MostraErrore(); });
+void FrmMain::onEccezione() noexcept {
+    ignorando([this] { MostraErrore(); });
 }
 
 void FrmMain::Form_Resize() {
     const Dpi dpi = dpiDi(hwnd());
-    const double twipsX = twipsAlPollice / dpi.x;
-    const double twipsY = twipsAlPollice / dpi.y;
     RECT interno{};
     RECT stato{};
     RECT esterno{};
@@ -328,20 +311,21 @@ void FrmMain::Form_Resize() {
     GetWindowRect(hwnd(), &esterno);
 
     MisureFinestra misure{};
-    misure.larghezzaInterna = interno.right * twipsX;
-    misure.altezzaInterna = interno.bottom * twipsY;
-    misure.altezzaStato = stato.bottom * twipsY;
-    misure.altezzaGriglia = griglia.bottom * twipsY;
-    misure.altoDati = Toolbar1_.disponi() * twipsY + margineTwips;
-    misure.larghezzaPicCmd = MulDiv(larghezzaPicCmd, dpi.x, 96) * twipsX;
-    campi_.misura(misure, twipsX, twipsY);
+    misure.larghezzaInterna = dpi.x.twips(interno.right);
+    misure.altezzaInterna = dpi.y.twips(interno.bottom);
+    misure.altezzaStato = dpi.y.twips(stato.bottom);
+    misure.altezzaGriglia = dpi.y.twips(griglia.bottom);
+    misure.altoDati = dpi.y.twips(Toolbar1_.disponi()) + margineTwips;
+    misure.larghezzaPicCmd = dpi.x.twips(dpi.x.daProgetto(larghezzaPicCmd));
+    campi_.misura(misure, dpi);
 
     const Disposizione disposizione = DisponiControlli(misure);
-    campi_.disponi(disposizione, twipsX, twipsY);
+    campi_.disponi(disposizione, dpi);
     const auto sposta = [&](HWND controllo, const std::optional<Riquadro>& r) {
         if (r) {
-            SetWindowPos(controllo, nullptr, aPixel(r->sinistra, twipsX), aPixel(r->alto, twipsY),
-                         aPixel(r->larghezza, twipsX), aPixel(r->altezza, twipsY),
+            SetWindowPos(controllo, nullptr, dpi.x.pixelTroncati(r->sinistra),
+                         dpi.y.pixelTroncati(r->alto), dpi.x.pixelTroncati(r->larghezza),
+                         dpi.y.pixelTroncati(r->altezza),
                          SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
         }
     };
@@ -349,7 +333,7 @@ void FrmMain::Form_Resize() {
     sposta(striscia_.hwnd(), disposizione.picCmd);
 
     const std::array<int, 2> pannelli{
-        static_cast<int>(interno.right) - MulDiv(larghezzaPannelloDimensioni, dpi.x, 96), -1};
+        static_cast<int>(interno.right) - dpi.x.daProgetto(larghezzaPannelloDimensioni), -1};
     SendMessageW(StatusBar1_, SB_SETPARTS, pannelli.size(),
                  reinterpret_cast<LPARAM>(pannelli.data()));
     const std::wstring dimensioni = L"(" + std::to_wstring(esterno.right - esterno.left) + L"," +

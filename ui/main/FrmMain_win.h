@@ -68,8 +68,7 @@ public:
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
-    void onEccezione() noexcept override { riportaErrore(); }
-    void riportaErrore() noexcept override;
+    void onEccezione() noexcept override;
     void cmdGetSize_Click() override;
     void mnChiudi_Click() override;
     [[nodiscard]] HWND proprietaria() const noexcept override { return hwnd(); }
@@ -77,7 +76,6 @@ private:
     void grigliaDoppioClic(int riga) override;
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override;
-    void grigliaEccezione() noexcept override { riportaErrore(); }
 
     void Form_Load();
     void Form_Resize();

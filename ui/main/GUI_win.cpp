@@ -3,34 +3,14 @@
 #include "support/errori/errore.h"
 #include "support/immagini/immagine_win.h"
 #include "support/windows/file_win.h"
-
-#include <olectl.h>
-
-namespace {
-
-// A device context that goes with its scope.
-class ContestoMemoria {
-public:
-    explicit ContestoMemoria(HDC come) noexcept : dc_(CreateCompatibleDC(come)) {}
-    ContestoMemoria(const ContestoMemoria&) = delete;
-    ContestoMemoria& operator=(const ContestoMemoria&) = delete;
-    ~ContestoMemoria() { DeleteDC(dc_); }
-    [[nodiscard]] HDC get() const noexcept { return dc_; }
-
-private:
-    HDC dc_;
-};
-
-} // namespace
+#include "support/windows/gdi_win.h"
 
 void Sfondo::disegna(HDC dc) const noexcept {
     if (!bitmap_) {
         return;
     }
-    const ContestoMemoria memoria(dc);
-    const HGDIOBJ prima = SelectObject(memoria.get(), bitmap_.get());
+    const DcBitmap memoria(dc, bitmap_.get());
     BitBlt(dc, 0, 0, misura_.cx, misura_.cy, memoria.get(), 0, 0, SRCCOPY);
-    SelectObject(memoria.get(), prima);
 }
 
 void GUI::SelezionaRiga(Griglia& griglia, int riga) {
@@ -70,20 +50,11 @@ Sfondo GUI::ApplicaSfondo(const std::wstring& cartella) {
         }
         try {
             const auto immagine = caricaImmagine(percorso);
-            OLE_HANDLE maniglia = 0;
-            short tipo = PICTYPE_NONE;
-            if (FAILED(immagine->get_Type(&tipo)) || tipo != PICTYPE_BITMAP ||
-                FAILED(immagine->get_Handle(&maniglia))) {
-                return {};
-            }
-            // The picture keeps its own bitmap; handles fit in 32 bits.
-            ManigliaBitmap copia(static_cast<HBITMAP>(
-                CopyImage(LongToHandle(static_cast<long>(maniglia)), IMAGE_BITMAP, 0, 0, 0)));
-            BITMAP misure{};
-            if (GetObjectW(copia.get(), sizeof(misure), &misure) == 0) {
-                return {};
-            }
-            return {std::move(copia), SIZE{misure.bmWidth, misure.bmHeight}};
+            // The picture keeps its own bitmap.
+            ManigliaBitmap copia(
+                static_cast<HBITMAP>(CopyImage(bitmapDi(*immagine.get()), IMAGE_BITMAP, 0, 0, 0)));
+            const SIZE misura = misuraDi(copia.get());
+            return {std::move(copia), misura};
         } catch (const Errore&) {
             return {};
         }

@@ -23,7 +23,7 @@ Striscia striscia(int dpi) noexcept {
 
 } // namespace
 
-void BarraStrumenti::crea(HWND padre, int id, int dpi) {
+void BarraStrumenti::crea(HWND padre, int id, Risoluzione verticale) {
     const HINSTANCE programma = GetModuleHandleW(nullptr);
     barra_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
                              WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_TOP, 0,
@@ -32,7 +32,7 @@ void BarraStrumenti::crea(HWND padre, int id, int dpi) {
     if (barra_ == nullptr) {
         sollevaWin32();
     }
-    const auto [risorsa, lato] = striscia(dpi);
+    const auto [risorsa, lato] = striscia(verticale.dpi);
     // The strips carry their transparency in an alpha channel.
     MiaLista_ = ListaImmagini(ImageList_LoadImageW(programma, MAKEINTRESOURCEW(risorsa), lato, 0,
                                                    CLR_NONE, IMAGE_BITMAP, LR_CREATEDIBSECTION));

@@ -1,6 +1,7 @@
 #include "ui/main/campiCanale_win.h"
 
 #include "support/errori/errore.h"
+#include "support/errori/trappola.h"
 #include "support/testi/testo.h"
 
 #include "res/risorse.h"
@@ -15,15 +16,6 @@ namespace {
 constexpr std::array<int, 3> campiImmagine{IDC_TXTLOGO, IDC_TXTURL, IDC_TXTLINKIMG};
 
 constexpr double massimoPixel = 10000;
-
-// Runs one assignment of the reset; a control that refuses it does not stop the others.
-template <class Azione>
-void ignorando(Azione azione) noexcept {
-    try {
-        azione();
-    } catch (const Errore&) { // NOLINT(bugprone-empty-catch): the reset passes over failures
-    }
-}
 
 } // namespace
 
@@ -181,24 +173,24 @@ RECT CampiCanale::rettangolo(int id) const noexcept {
     return r;
 }
 
-void CampiCanale::misura(MisureFinestra& misure, double twipsX, double twipsY) const {
+void CampiCanale::misura(MisureFinestra& misure, Dpi dpi) const {
     const RECT logo = rettangolo(IDC_TXTLOGO);
     const RECT titolo = rettangolo(IDC_TXTTITOLO);
     const RECT numero = rettangolo(IDC_TXTLARGHEZZA);
     const RECT pulsante = rettangolo(IDC_CMDGETSIZE);
     RECT dati{};
     GetClientRect(hwnd(), &dati);
-    misure.sinistraLogo = logo.left * twipsX;
-    misure.larghezzaTitolo = (titolo.right - titolo.left) * twipsX;
-    misure.altoLarghezza = numero.top * twipsY;
-    misure.altezzaGetSize = (pulsante.bottom - pulsante.top) * twipsY;
-    misure.altezzaDati = dati.bottom * twipsY;
-    misure.larghezzaDati = dati.right * twipsX;
+    misure.sinistraLogo = dpi.x.twips(logo.left);
+    misure.larghezzaTitolo = dpi.x.twips(titolo.right - titolo.left);
+    misure.altoLarghezza = dpi.y.twips(numero.top);
+    misure.altezzaGetSize = dpi.y.twips(pulsante.bottom - pulsante.top);
+    misure.altezzaDati = dpi.y.twips(dati.bottom);
+    misure.larghezzaDati = dpi.x.twips(dati.right);
 }
 
-void CampiCanale::disponi(const Disposizione& disposizione, double twipsX, double twipsY) {
-    const auto pixelX = [&](double twips) { return aPixel(twips, twipsX); };
-    const auto pixelY = [&](double twips) { return aPixel(twips, twipsY); };
+void CampiCanale::disponi(const Disposizione& disposizione, Dpi dpi) {
+    const auto pixelX = [&](double twips) { return dpi.x.pixelTroncati(twips); };
+    const auto pixelY = [&](double twips) { return dpi.y.pixelTroncati(twips); };
     constexpr UINT fermo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     if (const auto& r = disposizione.fraDati) {
         SetWindowPos(hwnd(), nullptr, pixelX(r->sinistra), pixelY(r->alto), pixelX(r->larghezza),

@@ -4,6 +4,7 @@
 #include "document/documento.h"
 #include "res/risorse.h"
 #include "support/tempo/dataora.h"
+#include "support/windows/dpi_win.h"
 #include "ui/controls/KOInputNumerico_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
@@ -77,19 +78,16 @@ public:
     void Svuota(DataOra adesso) noexcept;
 
     // Fills in what the layout needs to know of the frame.
-    void misura(MisureFinestra& misure, double twipsX, double twipsY) const;
+    void misura(MisureFinestra& misure, Dpi dpi) const;
     // Places the frame and the fields that follow its width.
-    void disponi(const Disposizione& disposizione, double twipsX, double twipsY);
+    void disponi(const Disposizione& disposizione, Dpi dpi);
 
 private:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
-    void eccezione() noexcept override { finestra_.riportaErrore(); }
+    void onEccezione() noexcept override { finestra_.onEccezione(); }
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;
-    void onEccezione(KOInputNumerico& /*controllo*/) noexcept override {
-        finestra_.riportaErrore();
-    }
 
     void suggerimento(int etichetta, const wchar_t* testo);
     [[nodiscard]] RECT rettangolo(int id) const noexcept;

@@ -46,10 +46,4 @@ struct Disposizione {
 // The design's distance from an edge.
 inline constexpr double margineTwips = 50;
 
-// Twips as whole pixels, for one direction's twips per pixel: what begins in a pixel is cut off,
-// but for the last digits that a number of pixels loses on its way through twips.
-[[nodiscard]] constexpr int aPixel(double twips, double twipsPerPixel) noexcept {
-    return static_cast<int>(twips / twipsPerPixel + 1e-6);
-}
-
 [[nodiscard]] Disposizione DisponiControlli(const MisureFinestra& misure) noexcept;

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "support/errori/trappola.h"
+
 #include <windows.h>
 
 #include <string_view>
 
 // What the channel's fields and the commands ask of the main window.
-class FinestraPrincipale {
+class FinestraPrincipale : public Trappola {
 public:
-    FinestraPrincipale() = default;
-    FinestraPrincipale(const FinestraPrincipale&) = delete;
-    FinestraPrincipale& operator=(const FinestraPrincipale&) = delete;
-
     virtual void NuovoDocumento() = 0;
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
     virtual void CaricaRecenti() = 0;
@@ -21,10 +19,6 @@ public:
     virtual void mnChiudi_Click() = 0;
     // Owns what the shell shows.
     [[nodiscard]] virtual HWND proprietaria() const noexcept = 0;
-    // Report the exception being handled; the second where nothing may be raised.
+    // Reports the exception being handled.
     virtual void MostraErrore() = 0;
-    virtual void riportaErrore() noexcept = 0;
-
-protected:
-    ~FinestraPrincipale() = default;
 };

@@ -6,13 +6,6 @@
 #include <span>
 #include <string>
 
-struct TrattiAcceleratori {
-    using Tipo = HACCEL;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo tabella) noexcept { DestroyAcceleratorTable(tabella); }
-};
-using Acceleratori = Maniglia<TrattiAcceleratori>;
-
 // The keys of all commands that work there.
 [[nodiscard]] Acceleratori creaAcceleratori(Tasto::Dove dove);
 

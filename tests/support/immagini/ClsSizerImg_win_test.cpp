@@ -92,7 +92,7 @@ public:
 
 private:
     CartellaProva cartella_;
-    UnitaDiFinestra unita_{nullptr};
+    UnitaDiFinestra unita_{dpiDi(nullptr)};
     ImmagineNascosta immagine_;
 };
 
@@ -162,7 +162,7 @@ TEST(MisuraImmagine, SparitoPrimaDelCaricamentoE53) {
     DialoghiFinti dialoghi;
     dialoghi.attendiApri(richiesta, file, [&] { DeleteFileW(file.c_str()); });
     dialoghi.attendiApri(richiesta, cartella.file(L"sottocartella\\a.jpg"));
-    const UnitaDiFinestra unita(nullptr);
+    const UnitaDiFinestra unita(dpiDi(nullptr));
     ImmagineNascosta immagine;
     ClsSizerImg sizer;
     sizer.objForm(unita);

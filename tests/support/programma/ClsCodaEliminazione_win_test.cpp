@@ -70,14 +70,8 @@ private:
         }
     }
 
-    struct TrattiEvento {
-        using Tipo = HANDLE;
-        static Tipo vuota() noexcept { return nullptr; }
-        static void chiudi(Tipo evento) noexcept { CloseHandle(evento); }
-    };
-
     ManigliaFile cartella_;
-    Maniglia<TrattiEvento> evento_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+    ManigliaOggetto evento_{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
     mutable OVERLAPPED richiesta_{};
     alignas(DWORD) mutable std::array<std::byte, 4096> dati_{};
 };

@@ -13,12 +13,6 @@
 
 namespace {
 
-struct TrattiEvento {
-    using Tipo = HANDLE;
-    static Tipo vuota() noexcept { return nullptr; }
-    static void chiudi(Tipo evento) noexcept { CloseHandle(evento); }
-};
-
 std::wstring inVirgolette(const std::wstring& testo) {
     return L'"' + testo + L'"';
 }
@@ -77,7 +71,7 @@ TEST(KoUtilitaProcessi, ShellSospensivaAspettaLaFineEDaIlCodice) {
 
 TEST(KoUtilitaProcessi, ShellSospensivaNonAspettaOltreIlTempo) {
     const std::wstring nome = L"OstrelleProveAttesa" + std::to_wstring(GetCurrentProcessId());
-    const Maniglia<TrattiEvento> evento(CreateEventW(nullptr, TRUE, FALSE, nome.c_str()));
+    const ManigliaOggetto evento(CreateEventW(nullptr, TRUE, FALSE, nome.c_str()));
     const std::wstring comando = inVirgolette(koUtilita::CurDirApp() + L"attesa.exe") + L' ' + nome;
     EXPECT_EQ(koUtilita::ShellSospensiva(comando, 50), std::nullopt);
     SetEvent(evento.get());

@@ -57,7 +57,7 @@ protected:
         return {fineData, aspetto.altezzaRiga() / 2, fineRiga, aspetto.altezzaRiga() - 1};
     }
 
-    const AspettoGriglia aspetto;
+    const AspettoGriglia aspetto{dpiDi(nullptr).y};
 };
 
 } // namespace

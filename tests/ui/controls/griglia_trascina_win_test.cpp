@@ -1,4 +1,5 @@
 #include "tests/aiuti/griglia_prova_win.h"
+#include "tests/aiuti/pixel_win.h"
 #include "tests/aiuti/puntatore_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/controls/griglia_win.h"
@@ -52,6 +53,24 @@ TEST(GrigliaTrascina, PuntatoreERigaCorrenteSeguonoIlMouse) {
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(puntatoreVisto(), Puntatore::Predefinito);
     EXPECT_EQ(p.osservatore.mosse(), Testi{L"sposta 1 3"});
+}
+
+TEST(GrigliaTrascina, IlPuntatoreEQuelloDisegnatoPerLaRiga) {
+    constexpr COLORREF sfondo = RGB(255, 0, 0);
+    GrigliaProva p(4);
+    p.vai(p.punto(2));
+    p.pulsante(MOUSEEVENTF_LEFTDOWN);
+    const Immagine allaPressione = puntatore(sfondo);
+    p.vai(p.punto(3));
+    const Immagine inMovimento = puntatore(sfondo);
+    p.pulsante(MOUSEEVENTF_LEFTUP);
+    const Puntatori puntatori;
+    puntatori.mostra(Puntatore::Trascina);
+    const Immagine disegnato = puntatore(sfondo);
+    puntatori.mostra(Puntatore::Predefinito);
+    EXPECT_EQ(allaPressione, disegnato);
+    EXPECT_EQ(inMovimento, disegnato);
+    EXPECT_NE(puntatore(sfondo), disegnato);
 }
 
 TEST(GrigliaTrascina, IlPuntatoreCambiaAllaPressioneETornaAlRilascioSenzaAltriMovimenti) {

@@ -315,7 +315,7 @@ TEST(Griglia, HaUnNomePerChiLaLegge) {
 }
 
 TEST(Griglia, DueRigheDiTestoEntranoInOgniRiga) {
-    const AspettoGriglia aspetto;
+    const AspettoGriglia aspetto(dpiDi(nullptr).y);
     GrigliaProva p(1);
     RECT r{};
     ListView_GetItemRect(p.lista(), 0, &r, LVIR_BOUNDS);

@@ -92,9 +92,7 @@ public:
     void ProprietaCambiata(KOInputNumerico&, std::wstring_view nome) override {
         proprieta.emplace_back(nome);
     }
-    void onEccezione(KOInputNumerico&) noexcept override {
-        errori.push_back(erroreCorrente().numero());
-    }
+    void onEccezione() noexcept override { errori.push_back(erroreCorrente().numero()); }
 
     void azzera() {
         eventi.clear();

@@ -11,18 +11,6 @@ namespace {
 constexpr COLORREF bianco = RGB(255, 255, 255);
 constexpr COLORREF nero = RGB(0, 0, 0);
 
-// The pointer of now, drawn over a colour.
-Immagine disegnato(COLORREF sfondo) {
-    const int lato = GetSystemMetrics(SM_CXCURSOR);
-    return dipinta(lato, lato, [&](HDC dc) {
-        const RECT tutto{0, 0, lato, lato};
-        const HBRUSH pennello = CreateSolidBrush(sfondo);
-        FillRect(dc, &tutto, pennello);
-        DeleteObject(pennello);
-        DrawIconEx(dc, 0, 0, GetCursor(), lato, lato, 0, nullptr, DI_NORMAL);
-    });
-}
-
 int quanti(const Immagine& immagine, COLORREF colore) {
     return static_cast<int>(std::ranges::count(immagine.punti, colore));
 }
@@ -32,8 +20,8 @@ int quanti(const Immagine& immagine, COLORREF colore) {
 TEST(Puntatori, QuelloDelTrascinamentoSiVedeSuOgniSfondo) {
     const Puntatori puntatori;
     puntatori.mostra(Puntatore::Trascina);
-    const Immagine suBianco = disegnato(bianco);
-    const Immagine suNero = disegnato(nero);
+    const Immagine suBianco = puntatore(bianco);
+    const Immagine suNero = puntatore(nero);
     const int punti = static_cast<int>(suBianco.punti.size());
     // Black lines to be seen on white, a white inside to be seen on black, and room around them.
     EXPECT_GT(quanti(suBianco, nero), punti / 20);
@@ -42,7 +30,7 @@ TEST(Puntatori, QuelloDelTrascinamentoSiVedeSuOgniSfondo) {
     // Its point is where it points.
     EXPECT_EQ(suBianco.colore(0, 0), nero);
     const COLORREF rosso = RGB(255, 0, 0);
-    EXPECT_EQ(quanti(disegnato(rosso), nero), quanti(suBianco, nero));
+    EXPECT_EQ(quanti(puntatore(rosso), nero), quanti(suBianco, nero));
 }
 
 TEST(Puntatori, GliAltriSonoDelSistema) {

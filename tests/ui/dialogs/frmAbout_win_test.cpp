@@ -358,16 +358,3 @@ TEST(Disegni, LeStrisceDellaBarraHannoCinqueFigureConTrasparenza) {
         DeleteObject(bitmap);
     }
 }
-
-TEST(Disegni, IlPuntatoreDelTrascinamentoSiCarica) {
-    const HCURSOR puntatore =
-        LoadCursorW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDCUR_TRASCINA));
-    ASSERT_NE(puntatore, nullptr);
-    ICONINFO info{};
-    ASSERT_TRUE(GetIconInfo(puntatore, &info));
-    DeleteObject(info.hbmMask);
-    DeleteObject(info.hbmColor);
-    EXPECT_FALSE(info.fIcon);
-    EXPECT_EQ(info.xHotspot, 0U);
-    EXPECT_EQ(info.yHotspot, 0U);
-}

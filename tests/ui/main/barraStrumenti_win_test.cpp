@@ -16,7 +16,7 @@ public:
     explicit BarraProva(int dpi)
         : madre_(CreateWindowExW(0, WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 100, 100, 400, 100,
                                  nullptr, nullptr, nullptr, nullptr)) {
-        barra.crea(madre_, 7, dpi);
+        barra.crea(madre_, 7, {dpi});
     }
     BarraProva(const BarraProva&) = delete;
     BarraProva& operator=(const BarraProva&) = delete;

@@ -123,14 +123,3 @@ TEST(Disposizione, UnaFinestraMinimaNonMuoveNulla) {
     EXPECT_FALSE(d.picCmd);
     EXPECT_FALSE(d.cmdGetSize);
 }
-
-TEST(Disposizione, UnNumeroInteroDiPixelTornaDaiTwipsComEra) {
-    for (const int dpi : {96, 120, 144, 168, 192, 216, 240, 288}) {
-        const double twipsPerPixel = 1440.0 / dpi;
-        for (int pixel = 0; pixel < 4000; ++pixel) {
-            ASSERT_EQ(aPixel(pixel * twipsPerPixel, twipsPerPixel), pixel) << dpi;
-        }
-    }
-    EXPECT_EQ(aPixel(50, 15), 3);
-    EXPECT_EQ(aPixel(59, 15), 3);
-}

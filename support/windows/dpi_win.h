@@ -1,0 +1,49 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cmath>
+
+// The resolution in one direction. Twips become pixels in several ways; each place keeps its own.
+struct Risoluzione {
+    int dpi = 96;
+
+    bool operator==(const Risoluzione&) const = default;
+
+    [[nodiscard]] constexpr double twips(double pixel) const noexcept {
+        return pixel * twipsPerPollice / dpi;
+    }
+
+    // Not rounded.
+    [[nodiscard]] constexpr double pixelEsatti(double twips) const noexcept {
+        return twips * dpi / twipsPerPollice;
+    }
+    // What begins in a pixel is cut off, but for the last digits that a number of pixels loses on
+    // its way through twips.
+    [[nodiscard]] constexpr int pixelTroncati(double twips) const noexcept {
+        return static_cast<int>(pixelEsatti(twips) + 1e-6);
+    }
+    [[nodiscard]] int pixelPerEccesso(double twips) const noexcept {
+        return static_cast<int>(std::ceil(pixelEsatti(twips)));
+    }
+    // The nearest number; halves go away from zero.
+    [[nodiscard]] int pixelVicini(double twips) const noexcept {
+        return static_cast<int>(std::lround(pixelEsatti(twips)));
+    }
+
+    // Pixels of a design made for 96 dpi; halves go away from zero.
+    [[nodiscard]] int daProgetto(int pixel) const noexcept { return MulDiv(pixel, dpi, 96); }
+
+private:
+    static constexpr double twipsPerPollice = 1440;
+};
+
+struct Dpi {
+    Risoluzione x;
+    Risoluzione y;
+
+    bool operator==(const Dpi&) const = default;
+};
+
+// What a window is drawn with (null: the screen); 96 when nothing tells.
+[[nodiscard]] Dpi dpiDi(HWND finestra) noexcept;
