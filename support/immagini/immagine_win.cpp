@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr double twipsPerPollice = 1440;
 constexpr double himetricPerPollice = 2540;
 
 double twips(OLE_XSIZE_HIMETRIC misura) noexcept {

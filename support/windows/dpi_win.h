@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+inline constexpr double twipsPerPollice = 1440;
+
 // The resolution in one direction. Twips become pixels in several ways; each place keeps its own.
 struct Risoluzione {
     int dpi = 96;
@@ -33,9 +35,6 @@ struct Risoluzione {
 
     // Pixels of a design made for 96 dpi; halves go away from zero.
     [[nodiscard]] int daProgetto(int pixel) const noexcept { return MulDiv(pixel, dpi, 96); }
-
-private:
-    static constexpr double twipsPerPollice = 1440;
 };
 
 struct Dpi {

@@ -15,8 +15,9 @@
 #include <string>
 #include <vector>
 
-// What the grid tells its owner. Rows are the grid's: 0 is the header, r shows item r - 1. The
-// calls are the last thing the grid does for an event, so that a box may be shown in them.
+// What the grid tells its owner; what these calls raise too. Rows are the grid's: 0 is the header,
+// r shows item r - 1. The calls are the last thing the grid does for an event, so that a box may be
+// shown in them.
 class OsservatoreGriglia : public Trappola {
 public:
     // A double click, on that row; 0 on the header and below the last row. Outside the header the

@@ -24,7 +24,7 @@ TEST(ImmagineWin, DaUnaRisorsaEDaUnFile) {
 
 TEST(ImmagineWin, UnaRisorsaCheMancaOCheNonEImmagineE481) {
     const auto errore = [](int numero, const wchar_t* tipo) {
-        return sollevatoDa([&] { static_cast<void>(caricaImmagine(numero, tipo)); }).numero;
+        return sollevatoDa([&] { return caricaImmagine(numero, tipo); }).numero;
     };
     EXPECT_EQ(errore(9999, L"GIF"), 481);
     EXPECT_EQ(errore(IDR_LOGO, L"ALTRO"), 481);
