@@ -41,6 +41,10 @@ void FrmMain::esegui(int id) {
         SendMessageW(hwnd(), WM_CLOSE, 0, 0);
         return;
     }
+    comeComando([this, id] { comando(id); });
+}
+
+void FrmMain::comeComando(const std::function<void()>& azione) {
     occupando([&] {
         protetto(
             [&] {
@@ -48,7 +52,7 @@ void FrmMain::esegui(int id) {
                 // within their limits.
                 campi_.conferma();
                 griglia_.abbandona();
-                comando(id);
+                azione();
             },
             [&] { MostraErrore(); });
     });

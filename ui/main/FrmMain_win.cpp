@@ -90,8 +90,8 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 
 FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
     : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
-      campi_(*this, documento), griglia_(documento.elementi(), *this), vista_(documento, griglia_),
-      comandiDocumento_(servizi, *this, documento, campi_, recenti_),
+      campi_(*this, documento), griglia_(documento.elementi(), *this), avvisi_(*this),
+      vista_(documento, griglia_), comandiDocumento_(servizi, *this, documento, campi_, recenti_),
       comandiElementi_(servizi.messaggi, servizi.editor, griglia_, documento),
       pagina_(servizi, *this, documento, campi_, griglia_), aiuto_(servizi.messaggi),
       acceleratori_(creaAcceleratori(scorciatoie())),
@@ -138,7 +138,7 @@ bool FrmMain::anticipa(MSG& msg) {
         // While a row is dragged the keys are the grid's.
         return false;
     }
-    return premeConInvio(msg) || acceleraGriglia(msg) ||
+    return avvisi_.anticipa(msg) || premeConInvio(msg) || acceleraGriglia(msg) ||
            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
            IsDialogMessageW(hwnd(), &msg) != FALSE;
 }
@@ -198,6 +198,7 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         return 0;
     case WM_SETTINGCHANGE:
         griglia_.aggiornaAspetto();
+        avvisi_.aggiornaAspetto();
         break;
     case WM_SYSCOLORCHANGE:
         // The common controls hear of it from their parent only.
@@ -217,7 +218,9 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         }
         break;
     case WM_SETFOCUS:
-        SetFocus(IsChild(hwnd(), fuoco_) ? fuoco_ : GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
+        SetFocus(IsChild(hwnd(), fuoco_) && IsWindowVisible(fuoco_)
+                     ? fuoco_
+                     : GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
         return 0;
     case WM_ERASEBKGND: {
         const LRESULT esito = predefinito(codice, w, l);
@@ -249,6 +252,7 @@ void FrmMain::creaControlli() {
     if (StatusBar1_ == nullptr) {
         sollevaWin32();
     }
+    avvisi_.prepara(hwnd(), carattere, dpi.y);
 }
 
 void FrmMain::Form_Load() {
@@ -325,7 +329,7 @@ void FrmMain::DisponiFinestra() {
     MisureFinestra misure{};
     misure.larghezzaInterna = interno.right * twipsX;
     misure.altezzaInterna = interno.bottom * twipsY;
-    misure.altezzaStato = stato.bottom * twipsY;
+    misure.altezzaStato = (stato.bottom + avvisi_.altezza()) * twipsY;
     misure.altezzaGriglia = griglia.bottom * twipsY;
     misure.altoDati = Toolbar1_.disponi() * twipsY + margineTwips;
     misure.larghezzaPicCmd = MulDiv(larghezzaPicCmd, dpi.x, 96) * twipsX;
@@ -342,6 +346,8 @@ void FrmMain::DisponiFinestra() {
     };
     sposta(griglia_.hwnd(), disposizione.griglia);
     sposta(striscia_.hwnd(), disposizione.picCmd);
+    avvisi_.disponi(
+        {0, interno.bottom - stato.bottom - avvisi_.altezza(), interno.right, avvisi_.altezza()});
 
     const std::array<int, 2> pannelli{
         static_cast<int>(interno.right) - MulDiv(larghezzaPannelloDimensioni, dpi.x, 96), -1};

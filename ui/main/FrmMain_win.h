@@ -4,6 +4,7 @@
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
+#include "ui/controls/strisciaAvvisi_win.h"
 #include "ui/main/GUI_win.h"
 #include "ui/main/barraStrumenti_win.h"
 #include "ui/main/campiCanale_win.h"
@@ -19,12 +20,16 @@
 #include "ui/main/strisciaComandi_win.h"
 #include "ui/main/vistaElementi_win.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 // The program's only main window. Composes what the fields, the grid and the commands do; holds no
 // rule of theirs.
-class FrmMain final : public Finestra, private FinestraPrincipale, private OsservatoreGriglia {
+class FrmMain final : public Finestra,
+                      private FinestraPrincipale,
+                      private OsservatoreGriglia,
+                      private OsservatoreAvvisi {
 public:
     // False, after a message, when the system has no XML parser: the program then ends without
     // ever showing a window.
@@ -59,6 +64,8 @@ public:
     }
     void CaricaRecenti() override;
     void MostraErrore() override;
+    // What is said before the window is there shows with it.
+    [[nodiscard]] Avvisi& avvisi() noexcept { return avvisi_; }
 
     // See ComandiDocumento.
     [[nodiscard]] bool ChiediSalvataggio() { return comandiDocumento_.ChiediSalvataggio(); }
@@ -82,6 +89,10 @@ private:
     void grigliaMenu(POINT punto, int riga) override;
     void grigliaEccezione() noexcept override { riportaErrore(); }
 
+    void avvisiCambiati() override { DisponiFinestra(); }
+    void avvisoAzione(const std::function<void()>& azione) override { comeComando(azione); }
+    void avvisiEccezione() noexcept override { riportaErrore(); }
+
     void Form_Load();
     // False cancels the close.
     [[nodiscard]] bool Form_QueryUnload();
@@ -91,6 +102,8 @@ private:
     // only what befell the report of its failure.
     template <class Azione>
     void occupando(Azione azione);
+    // The same for one that works on what the fields and the grid show; its failure is reported.
+    void comeComando(const std::function<void()>& azione);
 
     void creaControlli();
     // Runs the command of a key of the grid, when it is one and the grid has the focus.
@@ -109,6 +122,7 @@ private:
     Griglia griglia_;
     Sfondo sfondo_;
     StrisciaComandi striscia_;
+    StrisciaAvvisi avvisi_;
     BarraStrumenti Toolbar1_;
     VistaElementi vista_;
     ComandiDocumento comandiDocumento_;
