@@ -107,6 +107,7 @@ const std::vector<std::vector<ColoriSistema::Coppia>>& schemi() {
             {COLOR_HIGHLIGHT, scelta}, {COLOR_HIGHLIGHTTEXT, testoScelta},
             {COLOR_3DLIGHT, testo},    {COLOR_BTNSHADOW, testo},
             {COLOR_3DDKSHADOW, testo}, {COLOR_BTNHIGHLIGHT, testo},
+            {COLOR_INFOBK, fondo},     {COLOR_INFOTEXT, testo},
         };
     };
     static const std::vector<std::vector<ColoriSistema::Coppia>> tutti{

@@ -1,5 +1,6 @@
 #include "ui/controls/strisciaAvvisi_win.h"
 
+#include "support/testi/testo.h"
 #include "support/windows/errori_win.h"
 #include "ui/controls/contrasto.h"
 
@@ -115,7 +116,7 @@ void StrisciaAvvisi::creaControlli() {
         SendMessageW(fatto, WM_SETFONT, reinterpret_cast<WPARAM>(carattere_), FALSE);
         return fatto;
     };
-    crea(L"STATIC", L"", WS_VISIBLE | SS_ENDELLIPSIS | SS_NOPREFIX | SS_NOTIFY, testoAvviso);
+    crea(L"STATIC", L"", WS_VISIBLE | SS_ENDELLIPSIS | SS_NOTIFY, testoAvviso);
     for (std::size_t i = 0; i < pulsanti.size(); ++i) {
         const bool chiude = pulsanti[i] == chiudiAvviso;
         const HWND pulsante =
@@ -129,9 +130,11 @@ void StrisciaAvvisi::creaControlli() {
 
 void StrisciaAvvisi::riempi() {
     const Avviso& avviso = coda_.primo();
+    // Assistive programs take a mark of a mnemonic away from a name, whatever the label shows.
+    const std::wstring nome = sostituisci(avviso.testo, L"&", L"&&");
     // The strip bears the text too: it is told with the button that gets the focus.
-    SetWindowTextW(hwnd(), avviso.testo.c_str());
-    SetWindowTextW(controllo(testoAvviso), avviso.testo.c_str());
+    SetWindowTextW(hwnd(), nome.c_str());
+    SetWindowTextW(controllo(testoAvviso), nome.c_str());
     for (std::size_t i = 0; i < pulsantiAzione.size(); ++i) {
         const std::wstring& didascalia = avviso.pulsanti[i].didascalia;
         const HWND pulsante = controllo(pulsantiAzione[i]);
