@@ -304,6 +304,19 @@ TEST_F(FrmMainAvvisi, QuelCheSiDicePrimaDellaFinestraSiVedeConLei) {
     EXPECT_GT(r.bottom, 20);
 }
 
+TEST_F(FrmMainAvvisi, SegueColoriTemiEImpostazioni) {
+    avvisa(L"uno");
+    const auto croce = [this] { return SendMessageW(avvisi.chiudi(), BM_GETIMAGE, IMAGE_ICON, 0); };
+    for (const auto& [finestraSua, messaggio] :
+         {std::pair{finestra.hwnd(), UINT{WM_SYSCOLORCHANGE}},
+          std::pair{finestra.hwnd(), UINT{WM_SETTINGCHANGE}},
+          std::pair{avvisi.striscia(), UINT{WM_THEMECHANGED}}}) {
+        const LRESULT prima = croce();
+        SendMessageW(finestraSua, messaggio, 0, 0);
+        EXPECT_NE(croce(), prima) << messaggio;
+    }
+}
+
 TEST_F(FrmMainAvvisi, DopoLaFinestraNonSiDiceENonSuccedeNulla) {
     avvisa(L"uno");
     premi(VK_F6);
