@@ -1,5 +1,6 @@
 #include "tests/aiuti/pixel_win.h"
 
+#include "tests/aiuti/schermo_win.h"
 #include "ui/controls/contrasto.h"
 
 #include <algorithm>
@@ -81,6 +82,15 @@ Immagine tuttaSulloSchermo(HWND finestra) {
     RECT r{};
     GetWindowRect(finestra, &r);
     return fotografa(finestra, GetWindowDC(finestra), {r.right - r.left, r.bottom - r.top});
+}
+
+int daRidipingere(HWND finestra) {
+    pompa();
+    const Immagine prima = tuttaSulloSchermo(finestra);
+    RedrawWindow(finestra, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    pompa();
+    return prima.diversi(tuttaSulloSchermo(finestra));
 }
 
 ColoriSistema::ColoriSistema(const std::vector<Coppia>& colori) {

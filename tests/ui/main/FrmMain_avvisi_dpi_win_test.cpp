@@ -59,17 +59,11 @@ protected:
             L"Lavoro non salvato su «notizie.xml», 21/11/2026 13:05: 3 elementi cambiati.",
             {L"Recupera", {}}, {L"Elimina", {}}));
     }
-    // How many pixels are not as a full repaint leaves them.
     [[nodiscard]] int daRidipingere() {
         // A caret would blink, and a button under the pointer glow.
         SetFocus(griglia().lista());
         muoviMouse(griglia().lista(), {2, 2});
-        pompa();
-        const Immagine prima = tuttaSulloSchermo(finestra.hwnd());
-        RedrawWindow(finestra.hwnd(), nullptr, nullptr,
-                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        pompa();
-        return prima.diversi(tuttaSulloSchermo(finestra.hwnd()));
+        return ::daRidipingere(finestra.hwnd());
     }
 
     AvvisiProva avvisi{finestra};
