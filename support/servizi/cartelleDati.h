@@ -2,8 +2,8 @@
 
 #include <string>
 
-// Where the program keeps what hangs beside the user's files. Each folder is made at the first need;
-// an empty name is one that cannot be made.
+// Where the program keeps what hangs beside the user's files. Each folder is made at the first
+// need; an empty name is one that cannot be made.
 struct CartelleDati {
     // Copies of files as they were before they were replaced.
     std::wstring copie;

@@ -51,6 +51,7 @@ using Libreria = Maniglia<HMODULE, FreeLibrary>;
 using ManigliaMenu = Maniglia<HMENU, DestroyMenu>;
 using Acceleratori = Maniglia<HACCEL, DestroyAcceleratorTable>;
 using Cursore = Maniglia<HCURSOR, DestroyCursor>;
+using ManigliaIcona = Maniglia<HICON, DestroyIcon>;
 using Carattere = Maniglia<HFONT, DeleteObject>;
 using Pennello = Maniglia<HBRUSH, DeleteObject>;
 using ManigliaBitmap = Maniglia<HBITMAP, DeleteObject>;

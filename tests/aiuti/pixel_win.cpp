@@ -1,5 +1,6 @@
 #include "tests/aiuti/pixel_win.h"
 
+#include "tests/aiuti/schermo_win.h"
 #include "ui/controls/contrasto.h"
 
 #include <algorithm>
@@ -94,6 +95,15 @@ Immagine tuttaSulloSchermo(HWND finestra) {
     return fotografa(finestra, GetWindowDC(finestra), {r.right - r.left, r.bottom - r.top});
 }
 
+int daRidipingere(HWND finestra) {
+    pompa();
+    const Immagine prima = tuttaSulloSchermo(finestra);
+    RedrawWindow(finestra, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    pompa();
+    return prima.diversi(tuttaSulloSchermo(finestra));
+}
+
 ColoriSistema::ColoriSistema(const std::vector<Coppia>& colori) {
     std::vector<COLORREF> nuovi;
     for (const auto& [indice, colore] : colori) {
@@ -118,6 +128,7 @@ const std::vector<std::vector<ColoriSistema::Coppia>>& schemi() {
             {COLOR_HIGHLIGHT, scelta}, {COLOR_HIGHLIGHTTEXT, testoScelta},
             {COLOR_3DLIGHT, testo},    {COLOR_BTNSHADOW, testo},
             {COLOR_3DDKSHADOW, testo}, {COLOR_BTNHIGHLIGHT, testo},
+            {COLOR_INFOBK, fondo},     {COLOR_INFOTEXT, testo},
         };
     };
     static const std::vector<std::vector<ColoriSistema::Coppia>> tutti{

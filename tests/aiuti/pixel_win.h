@@ -39,6 +39,8 @@ struct Immagine {
 [[nodiscard]] Immagine sulloSchermo(HWND finestra);
 // The same with its frame, caption and menu.
 [[nodiscard]] Immagine tuttaSulloSchermo(HWND finestra);
+// How many pixels of it are not as a full repaint leaves them.
+[[nodiscard]] int daRidipingere(HWND finestra);
 
 // Colours of the system, for the life of the object.
 class ColoriSistema {

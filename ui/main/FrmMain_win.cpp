@@ -75,12 +75,12 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 
 FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
     : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
-      campi_(*this, documento), griglia_(documento.elementi(), *this), vista_(documento, griglia_),
-      parti_{*this,
-             {servizi, *this, documento, campi_, recenti_},
-             {servizi.messaggi, servizi.editor, documento},
-             {servizi, *this, documento, campi_},
-             {servizi.messaggi, *this}},
+      campi_(*this, documento), griglia_(documento.elementi(), *this), avvisi_(*this),
+      vista_(documento, griglia_), parti_{*this,
+                                          {servizi, *this, documento, campi_, recenti_},
+                                          {servizi.messaggi, servizi.editor, documento},
+                                          {servizi, *this, documento, campi_},
+                                          {servizi.messaggi, *this}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
       acceleratori_(creaAcceleratori(Tasto::Ovunque)),
       acceleratoriGriglia_(creaAcceleratori(Tasto::Griglia)) {
@@ -126,7 +126,7 @@ bool FrmMain::anticipa(MSG& msg) {
         // While a row is dragged the keys are the grid's.
         return false;
     }
-    return premeConInvio(msg) || acceleraGriglia(msg) ||
+    return avvisi_.anticipa(msg) || premeConInvio(msg) || acceleraGriglia(msg) ||
            TranslateAcceleratorW(hwnd(), acceleratori_.get(), &msg) != 0 ||
            IsDialogMessageW(hwnd(), &msg) != FALSE;
 }
@@ -188,6 +188,7 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         return 0;
     case WM_SETTINGCHANGE:
         griglia_.aggiornaAspetto();
+        avvisi_.aggiornaAspetto();
         break;
     case WM_SYSCOLORCHANGE:
         // The common controls hear of it from their parent only.
@@ -207,7 +208,9 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         }
         break;
     case WM_SETFOCUS:
-        SetFocus(IsChild(hwnd(), fuoco_) ? fuoco_ : GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
+        SetFocus(IsChild(hwnd(), fuoco_) && IsWindowVisible(fuoco_)
+                     ? fuoco_
+                     : GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
         return 0;
     case WM_ERASEBKGND: {
         const LRESULT esito = predefinito(codice, w, l);
@@ -239,6 +242,7 @@ void FrmMain::creaControlli() {
     if (StatusBar1_ == nullptr) {
         sollevaWin32();
     }
+    avvisi_.prepara(hwnd(), carattere, dpi.y);
 }
 
 void FrmMain::Form_Load() {
@@ -313,7 +317,7 @@ void FrmMain::Form_Resize() {
     MisureFinestra misure{};
     misure.larghezzaInterna = dpi.x.twips(interno.right);
     misure.altezzaInterna = dpi.y.twips(interno.bottom);
-    misure.altezzaStato = dpi.y.twips(stato.bottom);
+    misure.altezzaStato = dpi.y.twips(stato.bottom + avvisi_.altezza());
     misure.altezzaGriglia = dpi.y.twips(griglia.bottom);
     misure.altoDati = dpi.y.twips(Toolbar1_.disponi()) + margineTwips;
     misure.larghezzaPicCmd = dpi.x.twips(dpi.x.daProgetto(larghezzaPicCmd));
@@ -331,6 +335,8 @@ void FrmMain::Form_Resize() {
     };
     sposta(griglia_.hwnd(), disposizione.griglia);
     sposta(striscia_.hwnd(), disposizione.picCmd);
+    avvisi_.disponi(
+        {0, interno.bottom - stato.bottom - avvisi_.altezza(), interno.right, avvisi_.altezza()});
 
     const std::array<int, 2> pannelli{
         static_cast<int>(interno.right) - dpi.x.daProgetto(larghezzaPannelloDimensioni), -1};

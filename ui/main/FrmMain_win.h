@@ -4,6 +4,7 @@
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
+#include "ui/controls/strisciaAvvisi_win.h"
 #include "ui/main/GUI_win.h"
 #include "ui/main/barraStrumenti_win.h"
 #include "ui/main/campiCanale_win.h"
@@ -16,12 +17,16 @@
 #include "ui/main/strisciaComandi_win.h"
 #include "ui/main/vistaElementi_win.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 // The program's only main window. Composes what the fields, the grid and the commands do; holds no
 // rule of theirs.
-class FrmMain final : public Finestra, private FinestraPrincipale, private OsservatoreGriglia {
+class FrmMain final : public Finestra,
+                      private FinestraPrincipale,
+                      private OsservatoreGriglia,
+                      private OsservatoreAvvisi {
 public:
     // False, after a message, when the system has no XML parser: the program then ends without
     // ever showing a window.
@@ -56,6 +61,8 @@ public:
     }
     void CaricaRecenti() override;
     void MostraErrore() override;
+    // What is said before the window is there shows with it.
+    [[nodiscard]] Avvisi& avvisi() noexcept { return avvisi_; }
 
     // See ComandiDocumento.
     [[nodiscard]] bool ChiediSalvataggio() { return parti_.documento.ChiediSalvataggio(); }
@@ -77,6 +84,9 @@ private:
     void grigliaSposta(int da, int a) override;
     void grigliaMenu(POINT punto, int riga) override;
 
+    void avvisiCambiati() override { Form_Resize(); }
+    void avvisoAzione(const std::function<void()>& azione) override { esecutore_.daSolo(azione); }
+
     void Form_Load();
     void Form_Resize();
     // False cancels the close.
@@ -94,6 +104,7 @@ private:
     Griglia griglia_;
     Sfondo sfondo_;
     StrisciaComandi striscia_;
+    StrisciaAvvisi avvisi_;
     BarraStrumenti Toolbar1_;
     VistaElementi vista_;
     PartiComandi parti_;

@@ -34,26 +34,10 @@ bool CampiCanale::inizializza() {
         numero->Massimo(massimoPixel);
         numero->osserva(this);
     }
-    suggerimento(IDC_LBLURL, L"URL (Percorso)");
-    suggerimento(IDC_LBLLARGHEZZA, L"Larghezza in pixels");
-    suggerimento(IDC_LBLALTEZZA, L"Altezza in pixels");
+    suggerimenti_.testo(controllo(IDC_LBLURL), L"URL (Percorso)");
+    suggerimenti_.testo(controllo(IDC_LBLLARGHEZZA), L"Larghezza in pixels");
+    suggerimenti_.testo(controllo(IDC_LBLALTEZZA), L"Altezza in pixels");
     return false;
-}
-
-void CampiCanale::suggerimento(int etichetta, const wchar_t* testo) {
-    if (suggerimenti_ == nullptr) {
-        // Owned by the frame's window and destroyed with it.
-        suggerimenti_ = CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
-                                        0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr);
-    }
-    std::wstring modificabile(testo);
-    TTTOOLINFOW info{};
-    info.cbSize = TTTOOLINFOW_V1_SIZE;
-    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    info.hwnd = hwnd();
-    info.uId = reinterpret_cast<UINT_PTR>(controllo(etichetta));
-    info.lpszText = modificabile.data();
-    SendMessageW(suggerimenti_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
 }
 
 INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {

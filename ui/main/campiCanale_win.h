@@ -9,6 +9,7 @@
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
 #include "ui/controls/selettoreData_win.h"
+#include "ui/controls/suggerimenti_win.h"
 #include "ui/main/disposizione.h"
 #include "ui/main/finestraPrincipale_win.h"
 
@@ -89,7 +90,6 @@ private:
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;
 
-    void suggerimento(int etichetta, const wchar_t* testo);
     [[nodiscard]] RECT rettangolo(int id) const noexcept;
 
     // Which of the controls it is.
@@ -101,5 +101,5 @@ private:
     std::array<CampoTesto, controlliCanale.size()> testi_;
     SelettoreData txtData_;
     SelettoreData txtOrario_;
-    HWND suggerimenti_ = nullptr;
+    Suggerimenti suggerimenti_;
 };

@@ -19,8 +19,8 @@ public:
     // `cartella` is that of all copies, made at the first need. The others outlive it.
     CustodeCopie(std::wstring cartella, const Documento& documento, const Orologio& orologio,
                  Avvisi& avvisi)
-        : copie_(std::move(cartella)), documento_(documento), orologio_(orologio),
-          avvisi_(avvisi) {}
+        : copie_(std::move(cartella)), documento_(documento), orologio_(orologio), avvisi_(avvisi) {
+    }
 
     void conserva(const std::wstring& percorso) noexcept override;
 

@@ -56,16 +56,10 @@ protected:
         GetClientRect(finestra.hwnd(), &r);
         return r;
     }
-    // How many pixels are not as a full repaint leaves them.
     [[nodiscard]] int daRidipingere() {
         // A caret would blink.
         SetFocus(griglia().lista());
-        pompa();
-        const Immagine prima = tuttaSulloSchermo(finestra.hwnd());
-        RedrawWindow(finestra.hwnd(), nullptr, nullptr,
-                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        pompa();
-        return prima.diversi(tuttaSulloSchermo(finestra.hwnd()));
+        return ::daRidipingere(finestra.hwnd());
     }
 };
 

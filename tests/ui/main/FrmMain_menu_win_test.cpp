@@ -1,13 +1,12 @@
 #include "tests/aiuti/accessibile_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/suggerimenti_prova_win.h"
 #include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <array>
 #include <span>
-#include <vector>
 
 namespace {
 
@@ -98,35 +97,6 @@ void confronta(HMENU menu, std::span<const Attesa> attese) {
 HMENU menuDi(HWND popup) {
     constexpr UINT mnGetHMenu = 0x01E1;
     return reinterpret_cast<HMENU>(SendMessageW(popup, mnGetHMenu, 0, 0));
-}
-
-std::vector<HWND> suggerimenti() {
-    std::vector<HWND> trovati;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND hwnd, LPARAM l) -> BOOL {
-            std::array<wchar_t, 64> nome{};
-            GetClassNameW(hwnd, nome.data(), static_cast<int>(nome.size()));
-            if (std::wstring_view(nome.data()) == TOOLTIPS_CLASSW) {
-                reinterpret_cast<std::vector<HWND>*>(l)->push_back(hwnd);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&trovati));
-    return trovati;
-}
-
-// Rests the pointer on a point: whether this text comes up.
-bool suggerisce(HWND finestra, POINT punto, std::wstring_view testo) {
-    for (const HWND s : suggerimenti()) {
-        SendMessageW(s, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
-        SendMessageW(s, TTM_SETDELAYTIME, TTDT_RESHOW, 1);
-    }
-    muoviMouse(finestra, punto);
-    return attendi([&] {
-        return std::ranges::any_of(
-            suggerimenti(), [&](HWND s) { return IsWindowVisible(s) && testoDi(s) == testo; });
-    });
 }
 
 POINT meta(const RECT& r) {

@@ -1,0 +1,44 @@
+#include "tests/aiuti/suggerimenti_prova_win.h"
+
+#include "tests/aiuti/schermo_win.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace {
+
+std::vector<HWND> suggerimenti() {
+    std::vector<HWND> trovati;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND hwnd, LPARAM l) -> BOOL {
+            std::array<wchar_t, 64> nome{};
+            GetClassNameW(hwnd, nome.data(), static_cast<int>(nome.size()));
+            if (std::wstring_view(nome.data()) == TOOLTIPS_CLASSW) {
+                reinterpret_cast<std::vector<HWND>*>(l)->push_back(hwnd);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&trovati));
+    return trovati;
+}
+
+} // namespace
+
+bool suggerisce(HWND finestra, POINT punto, std::wstring_view testo,
+                std::chrono::milliseconds scadenza) {
+    for (const HWND s : suggerimenti()) {
+        SendMessageW(s, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
+        SendMessageW(s, TTM_SETDELAYTIME, TTDT_RESHOW, 1);
+    }
+    muoviMouse(finestra, punto);
+    return attendi(
+        [&] {
+            return std::ranges::any_of(
+                suggerimenti(), [&](HWND s) { return IsWindowVisible(s) && testoDi(s) == testo; });
+        },
+        scadenza);
+}
