@@ -57,7 +57,7 @@ TEST_F(FrmMainAvvisi, F6VaAlPrimoPulsanteETornaDoveEra) {
     avvisa(L"uno");
     metti(L"elemento");
     for (const HWND dove : {campo(IDC_TXTTITOLO), campo(IDC_CBOLINGUA), griglia().lista(),
-                            campi.txtLarghezza().txtnumero(), cancella()}) {
+                            txtnumeroDi(campi.txtLarghezza()), cancella()}) {
         SetFocus(dove);
         const HWND prima = GetFocus();
         premi(VK_F6);
@@ -254,8 +254,8 @@ TEST_F(FrmMainAvvisi, UnAzionePuoDireERitirareAvvisi) {
 TEST_F(FrmMainAvvisi, MentreUnComandoLavoraIPulsantiNonFannoNulla) {
     avvisa(L"uno");
     campi.testo(IDC_TXTTITOLO, L"x");
-    messaggi.attendi(domandaSalvataggio, L"Salvataggio", Icona::Domanda, Pulsanti::SiNoAnnulla,
-                     Risposta::Annulla, [this] {
+    messaggi.attendi(testi::domandaSalvataggio, testi::salvataggio, Icona::Domanda,
+                     Pulsanti::SiNoAnnulla, Risposta::Annulla, [this] {
                          for (const HWND p : {recupera(), elimina(), avvisi.chiudi()}) {
                              premiDaFuori(p);
                          }
@@ -284,7 +284,7 @@ TEST_F(FrmMainAvvisi, UnAzioneTrovaICampiNeiLimiti) {
                                                       trovato = campi.txtLarghezza().Valore();
                                                       return true;
                                                   }}));
-    SetFocus(campi.txtLarghezza().txtnumero());
+    SetFocus(txtnumeroDi(campi.txtLarghezza()));
     scrivi(L"25000");
     premiDaFuori(recupera());
     EXPECT_EQ(trovato, 10000);
