@@ -38,7 +38,7 @@ private:
 };
 
 // A notice of that text, about that text.
-[[nodiscard]] inline Avviso avvisoProva(std::wstring testo, PulsanteAvviso primo = {},
+[[nodiscard]] inline Avviso avvisoProva(const std::wstring& testo, PulsanteAvviso primo = {},
                                         PulsanteAvviso secondo = {},
                                         std::function<void()> chiuso = {}) {
     return {testo, testo, {{std::move(primo), std::move(secondo)}}, std::move(chiuso)};

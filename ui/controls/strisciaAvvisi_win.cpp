@@ -153,19 +153,19 @@ void StrisciaAvvisi::premuto(int id) {
         chiudi();
         return;
     }
-    for (std::size_t i = 0; i < pulsantiAzione.size(); ++i) {
-        if (id == pulsantiAzione[i]) {
-            // A copy: it may take its own notice away.
-            osservatore_.avvisoAzione(
-                [this, numero = mostrato_, azione = coda_.primo().pulsanti[i].azione] {
-                    if (!azione || azione()) {
-                        coda_.togli(numero);
-                        aggiorna();
-                    }
-                });
-            return;
-        }
+    const auto* const quale = std::ranges::find(pulsantiAzione, id);
+    if (quale == pulsantiAzione.end()) {
+        return;
     }
+    const auto posto = static_cast<std::size_t>(quale - pulsantiAzione.begin());
+    // A copy: it may take its own notice away.
+    osservatore_.avvisoAzione(
+        [this, numero = mostrato_, azione = coda_.primo().pulsanti.at(posto).azione] {
+            if (!azione || azione()) {
+                coda_.togli(numero);
+                aggiorna();
+            }
+        });
 }
 
 void StrisciaAvvisi::chiudi() {

@@ -34,7 +34,6 @@ protected:
         // Where no tooltip is: it comes when the pointer does.
         muoviMouse(hwnd(), {350, 50});
     }
-    ~StrisciaAvvisiProva() override { distruggi(); }
 
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override {
         return predefinito(codice, w, l);
