@@ -1,5 +1,6 @@
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
+#include "support/servizi/cartelleDati_win.h"
 #include "support/servizi/dialoghiFile_win.h"
 #include "support/servizi/impostazioni_win.h"
 #include "support/servizi/messaggi_win.h"
@@ -14,6 +15,9 @@
 
 #include <commctrl.h>
 
+#include <cstdlib>
+#include <exception>
+
 namespace {
 
 int esegui(int comeMostrare) {
@@ -24,7 +28,8 @@ int esegui(int comeMostrare) {
     // Deletes the preview files when this scope ends, after the last window.
     ClsCodaEliminazione coda;
     EditorElementiWindows editor(messaggi, orologio);
-    const Servizi servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor};
+    const CartelleDati cartelle = cartelleUtente(prodotto::titolo);
+    const Servizi servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle};
 
     if (!FrmMain::Form_Initialize(messaggi)) {
         return 0;
@@ -51,3 +56,23 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int comeMostrare) {
         return 1;
     }
 }
+
+#ifdef __GNUC__
+// The run-time library's own last words go to a console that the program does not have, and what
+// writes them is a tenth of it.
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl58-cpp)
+namespace __gnu_cxx {
+void __verbose_terminate_handler() {
+    std::abort();
+}
+} // namespace __gnu_cxx
+
+namespace std {
+[[noreturn]] void __glibcxx_assert_fail(const char* /*file*/, int /*riga*/,
+                                        const char* /*funzione*/,
+                                        const char* /*condizione*/) noexcept {
+    std::abort();
+}
+} // namespace std
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl58-cpp)
+#endif

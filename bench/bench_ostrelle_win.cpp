@@ -9,6 +9,7 @@
 #include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
+#include "support/servizi/cartelleDati_win.h"
 #include "support/servizi/dialoghiFile.h"
 #include "support/servizi/impostazioni_win.h"
 #include "support/servizi/messaggi.h"
@@ -57,7 +58,8 @@ public:
 // A user who changes the title and saves, in no time.
 class EditorVeloce final : public EditorElementi {
 public:
-    std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData) override {
+    std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
+                                    const TestiCampi* /*bozza*/) override {
         elemento.sTitle(L"Titolo scritto " + std::to_wstring(++volte_));
         elemento.sLink(L"https://giornale.example/scritto");
         if (elemento.sPubDate().empty()) {
@@ -65,6 +67,8 @@ public:
         }
         return ultimaData;
     }
+
+    [[nodiscard]] std::optional<TestiCampi> testi() const override { return std::nullopt; }
 
 private:
     int volte_ = 0;
@@ -106,10 +110,12 @@ private:
     OrologioSistema orologio_;
     ImpostazioniRegistro impostazioni_{prodotto::titolo};
     ClsCodaEliminazione coda_;
+    CartelleDati cartelle_ = cartelleUtente(L"Ostrelle bench");
     EditorVeloce editor_;
     Documento documento_;
-    FrmMain finestra_{Servizi{messaggi_, dialoghi_, orologio_, impostazioni_, coda_, editor_},
-                      documento_};
+    FrmMain finestra_{
+        Servizi{messaggi_, dialoghi_, orologio_, impostazioni_, coda_, editor_, cartelle_},
+        documento_};
 };
 
 int apri(const std::wstring& percorso) {

@@ -85,7 +85,7 @@ private:
     std::optional<FileDiario> file_;
     // Where the records that the scribe gives go.
     FileDiario* destinazione_ = nullptr;
-    ScrittoreDiario scrittore_{[this](std::string_view byte) { destinazione_->aggiungi(byte); }};
+    ScrittoreDiario scrittore_{[this](std::string_view nuovi) { destinazione_->aggiungi(nuovi); }};
     std::uint64_t lunghezzaBase_ = 0;
     DataOra ora_;
     int modifiche_ = 0;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cwchar>
 #include <limits>
 
 namespace {
@@ -61,16 +62,17 @@ ElementoCondiviso leggiElemento(LettoreRecord& lettore) {
     return creaElemento(viste);
 }
 
-std::optional<DataOra> leggiData(LettoreRecord& lettore) {
-    const auto secondi = lettore.conSegno();
-    if (!secondi) {
-        return std::nullopt;
-    }
+std::optional<DataOra> dataDi(std::int64_t secondi) {
     try {
-        return DataOra().piuSecondi(*secondi);
+        return DataOra().piuSecondi(secondi);
     } catch (const Errore&) {
         return std::nullopt;
     }
+}
+
+std::optional<DataOra> leggiData(LettoreRecord& lettore) {
+    const auto secondi = lettore.conSegno();
+    return secondi ? dataDi(*secondi) : std::nullopt;
 }
 
 // Puts the work together from its records; each says whether it reads and fits what stands there.
@@ -188,11 +190,11 @@ private:
     }
 
     static bool testo(LettoreRecord& lettore, TestiCampi& testi) {
-        const auto quale = lettore.piccolo(massimoCampi);
+        const auto quale = lettore.numero();
         const auto prima = lettore.numero();
         const auto dopo = lettore.numero();
         const auto mezzo = lettore.testo();
-        if (!mezzo || !prima || !dopo || static_cast<std::size_t>(*quale) >= testi.size()) {
+        if (!quale || !prima || !dopo || !mezzo || *quale >= testi.size()) {
             return false;
         }
         std::wstring& testo = testi[static_cast<std::size_t>(*quale)];
@@ -221,6 +223,16 @@ private:
 };
 
 } // namespace
+
+std::wstring comeTesto(DataOra data) {
+    return std::to_wstring(data.secondi());
+}
+
+std::optional<DataOra> dataDaTesto(const std::wstring& testo) {
+    wchar_t* fine = nullptr;
+    const long long secondi = std::wcstoll(testo.c_str(), &fine, 10);
+    return testo.empty() || *fine != L'\0' ? std::nullopt : dataDi(secondi);
+}
 
 void ScrittoreDiario::scrivi(TipoRecord tipo, const ContenutoRecord& contenuto) {
     destinazione_(record(tipo, contenuto, catena_));
@@ -285,7 +297,9 @@ void ScrittoreDiario::bozza(const Bozza& bozza) {
     }
     bozza_ = bozza;
     ContenutoRecord contenuto;
-    contenuto.numero(static_cast<std::uint64_t>(bozza.indice + 1));
+    // One more: 0 is a new item.
+    const int dopo = bozza.indice + 1;
+    contenuto.numero(static_cast<std::uint64_t>(dopo));
     scriviTesti(contenuto, bozza.testi);
     scrivi(TipoRecord::BozzaAperta, contenuto);
 }
@@ -350,6 +364,9 @@ LetturaDiario leggiDiario(std::span<const std::byte> byte) {
 }
 
 std::wstring descriviLavoro(const LetturaDiario& lettura, const FormatoLocale& formato) {
+    if (!lettura.lavoro) {
+        return {};
+    }
     const LavoroNonSalvato& lavoro = *lettura.lavoro;
     const std::wstring_view percorso =
         lavoro.percorso.empty() ? Documento::nuovoDocumento : std::wstring_view(lavoro.percorso);

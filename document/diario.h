@@ -45,6 +45,10 @@ struct LavoroNonSalvato {
     std::optional<Bozza> bozza;
 };
 
+// A date as one of those texts; nothing for a text that is none.
+[[nodiscard]] std::wstring comeTesto(DataOra data);
+[[nodiscard]] std::optional<DataOra> dataDaTesto(const std::wstring& testo);
+
 // Writes a diary, record by record. A record costs what its change holds.
 class ScrittoreDiario {
 public:
@@ -88,6 +92,6 @@ struct LetturaDiario {
 [[nodiscard]] LetturaDiario leggiDiario(std::span<const std::byte> byte);
 
 // "Lavoro non salvato su «notizie.xml», 21/11/2026 13:05: 3 elementi cambiati." The time in the
-// user's format.
+// user's format. Nothing of a diary without work.
 [[nodiscard]] std::wstring descriviLavoro(const LetturaDiario& lettura,
                                           const FormatoLocale& formato);

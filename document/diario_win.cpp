@@ -63,11 +63,11 @@ void FileDiario::posiziona(std::uint64_t dove) {
     }
 }
 
-void FileDiario::aggiungi(std::string_view byte) {
+void FileDiario::aggiungi(std::string_view nuovi) {
     posiziona(lunghezza_);
     DWORD scritti = 0;
-    const auto quanti = static_cast<DWORD>(byte.size());
-    const BOOL riuscito = WriteFile(file_.get(), byte.data(), quanti, &scritti, nullptr);
+    const auto quanti = static_cast<DWORD>(nuovi.size());
+    const BOOL riuscito = WriteFile(file_.get(), nuovi.data(), quanti, &scritti, nullptr);
     if (riuscito && scritti == quanti) {
         lunghezza_ += quanti;
         return;

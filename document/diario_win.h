@@ -27,7 +27,7 @@ public:
 
     // At the end. Raises the run-time error of the failure; the file is then as it was, as far as
     // it can be.
-    void aggiungi(std::string_view byte);
+    void aggiungi(std::string_view nuovi);
     // What was written is on the disk itself afterwards. Raises as above.
     void scarica();
     [[nodiscard]] std::vector<std::byte> leggi();

@@ -2,15 +2,23 @@
 
 #include <utility>
 
-// Sets a flag for its life; then the flag is what it was. They nest.
-class Alzata {
+// Gives a variable another value for its life; then it is what it was. They nest.
+template <class Valore>
+class Prestito {
 public:
-    explicit Alzata(bool& segno) noexcept : segno_(segno), prima_(std::exchange(segno, true)) {}
-    Alzata(const Alzata&) = delete;
-    Alzata& operator=(const Alzata&) = delete;
-    ~Alzata() { segno_ = prima_; }
+    Prestito(Valore& variabile, Valore valore)
+        : variabile_(variabile), prima_(std::exchange(variabile, std::move(valore))) {}
+    Prestito(const Prestito&) = delete;
+    Prestito& operator=(const Prestito&) = delete;
+    ~Prestito() { variabile_ = std::move(prima_); }
 
 private:
-    bool& segno_;
-    bool prima_;
+    Valore& variabile_;
+    Valore prima_;
+};
+
+// Sets a flag for its life.
+class Alzata : private Prestito<bool> {
+public:
+    explicit Alzata(bool& segno) noexcept : Prestito(segno, true) {}
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/errori/errore.h"
+#include "tests/aiuti/custode_prova_win.h"
 #include "tests/aiuti/griglia_prova_win.h"
 #include "tests/aiuti/messaggi_finti.h"
 #include "tests/aiuti/testi.h"
@@ -29,7 +30,7 @@ inline const DataOra inizio = DataOra::daParti(2005, 12, 1, 9, 8, 7);
 // The commands on a grid of `elementi` items.
 struct Banco {
     Banco(int elementi, EditorElementi& editor)
-        : griglia(elementi), comandi(messaggi, editor, griglia.documento) {
+        : griglia(elementi), comandi(messaggi, editor, griglia.documento, custode.custode) {
         griglia.documento.ultimaData(inizio);
         griglia.documento.osserva(fallita);
     }
@@ -49,6 +50,7 @@ struct Banco {
 
     MessaggiFinti messaggi;
     GrigliaProva griglia;
+    CustodeProva custode{griglia.documento};
     VistaElementi vista{griglia.documento, griglia.griglia};
     VistaFallita fallita;
     ComandiElementi comandi;

@@ -32,8 +32,9 @@ public:
         attendi([](clsItemRss&, DataOra) { return std::nullopt; });
     }
 
-    [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento,
-                                                  DataOra ultimaData) override {
+    [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
+                                                  const TestiCampi* bozza) override {
+        bozza_ = bozza == nullptr ? std::nullopt : std::optional(*bozza);
         if (attese_.empty()) {
             ADD_FAILURE() << "unexpected item editor";
             return std::nullopt;
@@ -43,6 +44,14 @@ public:
         return azione(elemento, ultimaData);
     }
 
+    [[nodiscard]] std::optional<TestiCampi> testi() const override { return inScrittura; }
+
+    // What the editor that is open shows, as a test says.
+    std::optional<TestiCampi> inScrittura;
+    // The draft that the editor was last opened with.
+    [[nodiscard]] const std::optional<TestiCampi>& bozza() const noexcept { return bozza_; }
+
 private:
+    std::optional<TestiCampi> bozza_;
     std::deque<Azione> attese_;
 };

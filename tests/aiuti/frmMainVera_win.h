@@ -1,8 +1,10 @@
 #pragma once
 
 #include "support/programma/ClsCodaEliminazione.h"
+#include "support/servizi/cartelleDati.h"
 #include "support/servizi/messaggi_win.h"
 #include "tests/aiuti/campi_prova_win.h"
+#include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
 #include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
@@ -30,8 +32,11 @@ protected:
     ImpostazioniFinte impostazioni;
     ClsCodaEliminazione coda;
     EditorElementiWindows editor{messaggi, orologio};
+    CartellaProva cartella;
+    CartelleDati cartelle{cartella.file(L"dati\\copie"), cartella.file(L"dati\\diario")};
     Documento documento;
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, documento};
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle},
+                     documento};
     CampiProva campi{finestra};
     ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };

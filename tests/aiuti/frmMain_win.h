@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/programma/ClsCodaEliminazione.h"
+#include "support/servizi/cartelleDati.h"
 #include "tests/aiuti/campi_prova_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/dialoghi_finti.h"
@@ -88,8 +89,10 @@ protected:
     ClsCodaEliminazione coda;
     EditorFinto editor;
     CartellaProva cartella;
+    CartelleDati cartelle{cartella.file(L"dati\\copie"), cartella.file(L"dati\\diario")};
     Documento documento;
-    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, documento};
+    FrmMain finestra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle},
+                     documento};
     CampiProva campi{finestra};
     ConFiltro filtro{[this](MSG& msg) { return finestra.anticipa(msg); }};
 };

@@ -158,7 +158,8 @@ void Scimmia::scrivi(std::wstring_view sezione, std::wstring_view chiave,
     }
 }
 
-std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaData) {
+std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaData,
+                                         const TestiCampi* /*bozza*/) {
     if (nellEditor_) {
         segnala("a second editor");
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "res/risorse.h"
 #include "support/programma/ClsCodaEliminazione.h"
+#include "support/servizi/cartelleDati.h"
 #include "support/servizi/dialoghiFile.h"
 #include "support/servizi/messaggi.h"
 #include "tests/aiuti/campi_prova_win.h"
@@ -64,7 +65,9 @@ private:
                     Pulsanti pulsanti) override;
     std::wstring apri(const RichiestaFile& richiesta) override;
     std::wstring salva(const RichiestaFile& richiesta) override;
-    std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData) override;
+    std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
+                                    const TestiCampi* bozza) override;
+    [[nodiscard]] std::optional<TestiCampi> testi() const override { return std::nullopt; }
     [[nodiscard]] std::wstring leggi(std::wstring_view sezione, std::wstring_view chiave,
                                      std::wstring_view altrimenti) const override {
         return valori_.leggi(sezione, chiave, altrimenti);
@@ -117,10 +120,12 @@ private:
     OrologioFermo orologio_{DataOra::daParti(2005, 11, 15, 10, 0, 0)};
     ImpostazioniFinte valori_;
     ClsCodaEliminazione coda_;
+    CartellaProva dati_;
+    CartelleDati cartelle_{dati_.file(L"copie"), dati_.file(L"diario")};
     CartellaProva cartella_;
     std::wstring rovinato_;
     Documento documento_;
-    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this}, documento_};
+    FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this, cartelle_}, documento_};
     CampiProva campi_{finestra_};
     ConFiltro filtro_{[this](MSG& msg) { return finestra_.anticipa(msg); }};
     UINT_PTR timer_;

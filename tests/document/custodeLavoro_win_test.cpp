@@ -2,6 +2,7 @@
 
 #include "support/errori/errore.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/custode_prova_win.h"
 #include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/orologio_fermo.h"
 #include "tests/aiuti/tabella_prova.h"
@@ -13,15 +14,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-class TestiDiProva final : public TestiInScrittura {
-public:
-    [[nodiscard]] TestiCampi canale() const override { return campi; }
-    [[nodiscard]] std::optional<TestiCampi> editor() const override { return aperto; }
-
-    TestiCampi campi{L"titolo", L"link"};
-    std::optional<TestiCampi> aperto;
-};
 
 class CustodeLavoroDiProva : public testing::Test {
 protected:

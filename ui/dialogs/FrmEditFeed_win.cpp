@@ -3,6 +3,7 @@
 #include "datetime/ClsUTC.h"
 #include "document/caratteriXml.h"
 #include "res/risorse.h"
+#include "support/errori/guardia.h"
 #include "support/errori/trappola.h"
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
@@ -32,6 +33,7 @@ bool FrmEditFeed::inizializza() {
     txtData_ = SelettoreData(controllo(IDC_EDITDATA), SelettoreData::Parte::Data);
     txtOrario_ = SelettoreData(controllo(IDC_EDITORARIO), SelettoreData::Parte::Ora);
     CaricaDati();
+    mostraBozza();
     return true;
 }
 
@@ -84,6 +86,27 @@ void FrmEditFeed::CaricaDati() {
                          titoli::attenzione, Icona::Informazione);
         txtData_.valore(orologio_.adesso().locale);
         txtOrario_.valore(orologio_.adesso().locale);
+    }
+}
+
+TestiCampi FrmEditFeed::testi() const {
+    return {txtTitolo_.testo(), txtLink_.testo(), txtAutore_.testo(), txtDescrizione_.testo(),
+            comeTesto(combina(txtData_, txtOrario_))};
+}
+
+void FrmEditFeed::mostraBozza() {
+    // A draft of another shape is none of this dialog's.
+    if (!bozza_ || bozza_->size() != testi().size()) {
+        return;
+    }
+    const TestiCampi& testi = *bozza_;
+    txtTitolo_.testo(testi[0]);
+    txtLink_.testo(testi[1]);
+    txtAutore_.testo(testi[2]);
+    txtDescrizione_.testo(testi[3]);
+    if (const auto data = dataDaTesto(testi[4])) {
+        txtData_.valore(*data);
+        txtOrario_.valore(*data);
     }
 }
 
@@ -141,13 +164,25 @@ void FrmEditFeed::rifiuta(const wchar_t* testo) {
     messaggi_.avvisa(testo, titoli::attenzione, Icona::Critica);
 }
 
-std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, DataOra ultimaData) {
+std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, DataOra ultimaData,
+                                                       const TestiCampi* bozza) {
     FrmEditFeed editor(messaggi_, orologio_, ultimaData);
     editor.Elemento() = elemento;
+    if (bozza != nullptr) {
+        editor.Bozza(*bozza);
+    }
+    const Prestito<const FrmEditFeed*> aperto(aperto_, &editor);
     editor.mostra(GetActiveWindow());
     if (editor.Annullato()) {
         return std::nullopt;
     }
     elemento = std::move(editor.Elemento());
     return editor.DataOra();
+}
+
+std::optional<TestiCampi> EditorElementiWindows::testi() const {
+    if (aperto_ == nullptr || aperto_->hwnd() == nullptr) {
+        return std::nullopt;
+    }
+    return aperto_->testi();
 }

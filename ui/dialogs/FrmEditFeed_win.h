@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/clsItemRss.h"
+#include "document/diario.h"
 #include "support/tempo/dataora.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
@@ -17,6 +18,11 @@ public:
     // An item without a date is proposed with `ultimaData`. The services outlive the dialog.
     FrmEditFeed(Messaggi& messaggi, const Orologio& orologio, ::DataOra ultimaData) noexcept
         : messaggi_(messaggi), orologio_(orologio), ultimaData_(ultimaData) {}
+
+    // Texts that were being written, as `testi` gave them: shown instead of what Elemento holds.
+    void Bozza(const TestiCampi& testi) { bozza_ = testi; }
+    // What the controls show.
+    [[nodiscard]] TestiCampi testi() const;
 
     // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
     // Raises the failure to make it.
@@ -43,6 +49,7 @@ private:
     void onEccezione() noexcept override;
 
     void PulisciCampi() noexcept;
+    void mostraBozza();
     void cmdSalva_Click();
     void cmdAnnulla_Click();
     // Says that a required field is missing.
@@ -55,6 +62,7 @@ private:
     bool annullato_ = true;
     clsItemRss elemento_;
     ::DataOra dataOra_;
+    std::optional<TestiCampi> bozza_;
 
     CampoTesto txtTitolo_;
     CampoTesto txtLink_;
@@ -70,10 +78,13 @@ public:
     EditorElementiWindows(Messaggi& messaggi, const Orologio& orologio) noexcept
         : messaggi_(messaggi), orologio_(orologio) {}
 
-    [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento,
-                                                  DataOra ultimaData) override;
+    [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
+                                                  const TestiCampi* bozza) override;
+    [[nodiscard]] std::optional<TestiCampi> testi() const override;
 
 private:
     Messaggi& messaggi_;
     const Orologio& orologio_;
+    // While it is shown.
+    const FrmEditFeed* aperto_ = nullptr;
 };

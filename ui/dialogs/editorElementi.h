@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/diario.h"
 #include "support/tempo/dataora.h"
 
 #include <optional>
@@ -14,9 +15,13 @@ public:
     EditorElementi& operator=(const EditorElementi&) = delete;
     virtual ~EditorElementi() = default;
 
-    // Lets the user edit `elemento`; one without a date is proposed with `ultimaData`. Gives the
-    // local date and time chosen, or nothing when the user cancelled: `elemento` is then as it
-    // was. Raises the failure to show the editor.
-    [[nodiscard]] virtual std::optional<DataOra> modifica(clsItemRss& elemento,
-                                                          DataOra ultimaData) = 0;
+    // Lets the user edit `elemento`; one without a date is proposed with `ultimaData`. `bozza`,
+    // unless null, is what `testi` gave of an editor that was never left: it is shown instead of
+    // what the item holds. Gives the local date and time chosen, or nothing when the user
+    // cancelled: `elemento` is then as it was. Raises the failure to show the editor.
+    [[nodiscard]] virtual std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
+                                                          const TestiCampi* bozza) = 0;
+
+    // What the editor shows that is open; nothing when none is.
+    [[nodiscard]] virtual std::optional<TestiCampi> testi() const = 0;
 };

@@ -10,6 +10,7 @@
 
 void FrmMain::mnChiudi_Click() {
     if (Form_QueryUnload()) {
+        custodeLavoro_.dimentica();
         distruggi();
     }
 }

@@ -5,6 +5,7 @@
 #include "support/errori/trappola.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
+#include "support/servizi/cartelleDati.h"
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
@@ -76,12 +77,19 @@ bool FrmMain::Form_Initialize(Messaggi& messaggi) {
 FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
     : servizi_(servizi), documento_(documento), recenti_(servizi.impostazioni),
       campi_(*this, documento), griglia_(documento.elementi(), *this), avvisi_(*this),
-      vista_(documento, griglia_), parti_{*this,
-                                          {servizi, *this, documento, campi_, recenti_},
-                                          {servizi.messaggi, servizi.editor, documento},
-                                          {servizi, *this, documento, campi_},
-                                          {servizi.messaggi, *this}},
+      storia_(documento), testi_(campi_, servizi.editor),
+      custodeLavoro_(documento, testi_, servizi.orologio, servizi.cartelle.diario,
+                     [this] { avvisaSenzaDiario(); }),
+      vista_(documento, griglia_), custodeCopie_(servizi, *this, documento, avvisi_),
+      parti_{*this,
+             storia_,
+             {servizi, *this, documento, campi_, recenti_, custodeCopie_, custodeLavoro_},
+             {servizi.messaggi, servizi.editor, documento, custodeLavoro_},
+             {servizi, *this, documento, campi_, custodeCopie_},
+             {servizi.messaggi, *this}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
+      recupero_(servizi, *this, documento, campi_, parti_.documento, parti_.elementi,
+                custodeLavoro_, avvisi_),
       acceleratori_(creaAcceleratori(Tasto::Ovunque)),
       acceleratoriGriglia_(creaAcceleratori(Tasto::Griglia)) {
     documento.ultimaData(servizi.orologio.adesso().locale);
@@ -105,17 +113,24 @@ void FrmMain::apri(int comeMostrare) {
     static_cast<void>(menu.cedi()); // the window's from here on
     ShowWindow(hwnd(), comeMostrare);
     UpdateWindow(hwnd());
+    // An assistive program hears of it from a window that it has seen.
+    protetto([this] { recupero_.proponi(); }, [this] { MostraErrore(); });
 }
 
 int FrmMain::cicloMessaggi() {
     MSG msg{};
-    while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
+    for (;;) {
+        if (PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE) == FALSE) {
+            codaVuota();
+        }
+        if (GetMessageW(&msg, nullptr, 0, 0) <= 0) {
+            return static_cast<int>(msg.wParam);
+        }
         if (!anticipa(msg)) {
             TranslateMessage(&msg);
             DispatchMessageW(&msg);
         }
     }
-    return static_cast<int>(msg.wParam);
 }
 
 bool FrmMain::anticipa(MSG& msg) {
@@ -174,14 +189,20 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
     case WM_CLOSE:
         esegui(mnChiudi);
         return 0;
-    case WM_QUERYENDSESSION: {
+    case WM_ENTERIDLE:
+        // A box or the item editor waits for the user.
+        codaVuota();
+        return 0;
+    case WM_QUERYENDSESSION:
         // While a dialog is up over an unfinished command the answer stays no.
-        bool chiudere = false;
-        esecutore_.daSolo([&] { chiudere = Form_QueryUnload(); });
-        return chiudere ? TRUE : FALSE;
-    }
+        congedata_ = false;
+        esecutore_.daSolo([this] { congedata_ = Form_QueryUnload(); });
+        return congedata_ ? TRUE : FALSE;
     case WM_ENDSESSION:
         if (w != FALSE) {
+            if (congedata_) {
+                custodeLavoro_.dimentica();
+            }
             // The process does not come back from here: what goes at its end goes now.
             servizi_.coda.CancellaFile();
         }
@@ -275,7 +296,18 @@ void FrmMain::ImpostaStato(std::wstring_view testo) {
                  reinterpret_cast<LPARAM>(std::wstring(rifila(testo)).c_str()));
 }
 
+void FrmMain::avvisaSenzaDiario() noexcept {
+    ignorando([this] {
+        avvisi_.avvisa({.argomento = L"diario",
+                        .testo = L"Il lavoro non salvato non si può annotare: " +
+                                 erroreCorrente().descrizione(),
+                        .pulsanti = {},
+                        .chiuso = {}});
+    });
+}
+
 void FrmMain::NuovoDocumento() {
+    custodeCopie_.nuovoDocumento();
     campi_.Svuota(servizi_.orologio.adesso().locale);
     ImpostaTitolo(Documento::nuovoDocumento);
     documento_.sostituisci({});

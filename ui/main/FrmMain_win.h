@@ -1,18 +1,23 @@
 #pragma once
 
+#include "document/custodeLavoro_win.h"
 #include "document/documento.h"
+#include "document/storia.h"
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
 #include "ui/controls/strisciaAvvisi_win.h"
+#include "ui/dialogs/editorElementi.h"
 #include "ui/main/GUI_win.h"
 #include "ui/main/barraStrumenti_win.h"
 #include "ui/main/campiCanale_win.h"
+#include "ui/main/custodeCopie_win.h"
 #include "ui/main/esecutoreComandi_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/menu_win.h"
 #include "ui/main/partiComandi_win.h"
 #include "ui/main/recenti.h"
+#include "ui/main/recupero_win.h"
 #include "ui/main/servizi.h"
 #include "ui/main/strisciaComandi_win.h"
 #include "ui/main/vistaElementi_win.h"
@@ -20,6 +25,20 @@
 #include <functional>
 #include <string>
 #include <string_view>
+
+// What the diary reads of the windows.
+class TestiFinestra final : public TestiInScrittura {
+public:
+    TestiFinestra(const CampiCanale& campi, const EditorElementi& editor) noexcept
+        : campi_(campi), editor_(editor) {}
+
+    [[nodiscard]] TestiCampi canale() const override { return campi_.testi(); }
+    [[nodiscard]] std::optional<TestiCampi> editor() const override { return editor_.testi(); }
+
+private:
+    const CampiCanale& campi_;
+    const EditorElementi& editor_;
+};
 
 // The program's only main window. Composes what the fields, the grid and the commands do; holds no
 // rule of theirs.
@@ -44,12 +63,15 @@ public:
     // Runs messages until the window is gone; gives the program's exit code.
     int cicloMessaggi();
 
+    // Nothing is left to do: what waited for that is done.
+    void codaVuota() noexcept { custodeLavoro_.codaVuota(); }
+
     // What a message meets before it is translated and dispatched: accelerators, then the dialog
     // keys. True when one of them took it.
     [[nodiscard]] bool anticipa(MSG& messaggio);
 
     void ImpostaTitolo(std::wstring_view nome) override;
-    void ImpostaStato(std::wstring_view testo);
+    void ImpostaStato(std::wstring_view testo) override;
     void ImpostaModificato() noexcept { documento_.modificato(true); }
     void NuovoDocumento() override;
     void RiempiGriglia(bool soloIntestazioni) override;
@@ -93,6 +115,9 @@ private:
     [[nodiscard]] bool Form_QueryUnload() { return ChiediSalvataggio(); }
     void Form_Unload() noexcept;
 
+    // The diary cannot be kept: why is in the exception being handled.
+    void avvisaSenzaDiario() noexcept;
+
     void creaControlli();
     // Runs the command of a key of the grid, when it is one and the grid has the focus.
     [[nodiscard]] bool acceleraGriglia(MSG& messaggio);
@@ -106,11 +131,19 @@ private:
     StrisciaComandi striscia_;
     StrisciaAvvisi avvisi_;
     BarraStrumenti Toolbar1_;
+    // In this order they hear of the document's changes.
+    Storia storia_;
+    TestiFinestra testi_;
+    CustodeLavoro custodeLavoro_;
     VistaElementi vista_;
+    CustodeCopie custodeCopie_;
     PartiComandi parti_;
     EsecutoreComandi esecutore_;
+    Recupero recupero_;
     Acceleratori acceleratori_;
     Acceleratori acceleratoriGriglia_;
     HWND StatusBar1_ = nullptr;
     HWND fuoco_ = nullptr;
+    // The end of the session was agreed to.
+    bool congedata_ = false;
 };

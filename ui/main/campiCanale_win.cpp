@@ -2,6 +2,7 @@
 
 #include "support/errori/errore.h"
 #include "support/errori/trappola.h"
+#include "support/testi/numeri.h"
 #include "support/testi/testo.h"
 
 #include "res/risorse.h"
@@ -101,6 +102,39 @@ void CampiCanale::dataOra(DataOra valore) {
         if (selettore->valore(valore)) {
             documento_.campiModificati();
         }
+    }
+}
+
+TestiCampi CampiCanale::testi() const {
+    TestiCampi valori;
+    for (const ControlloCanale& controllo : controlliCanale) {
+        valori.push_back(controllo.testo() ? testo(controllo.id) : comeTesto(dataOra()));
+    }
+    for (const KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
+        valori.push_back(std::to_wstring(aInt32(numero->Valore())));
+    }
+    return valori;
+}
+
+void CampiCanale::testi(const TestiCampi& valori) noexcept {
+    std::size_t i = 0;
+    const auto prossimo = [&](auto assegna) {
+        if (i < valori.size()) {
+            ignorando([&] { assegna(valori[i]); });
+        }
+        ++i;
+    };
+    for (const ControlloCanale& controllo : controlliCanale) {
+        prossimo([&](const std::wstring& valore) {
+            if (controllo.testo()) {
+                testo(controllo.id, valore);
+            } else if (const auto data = dataDaTesto(valore)) {
+                dataOra(*data);
+            }
+        });
+    }
+    for (KOInputNumerico* const numero : {&txtLarghezza(), &txtAltezza()}) {
+        prossimo([&](const std::wstring& valore) { numero->Valore(valoreIniziale(valore)); });
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/canale.h"
+#include "document/diario.h"
 #include "document/documento.h"
 #include "res/risorse.h"
 #include "support/tempo/dataora.h"
@@ -57,6 +58,10 @@ public:
     [[nodiscard]] DataOra dataOra() const;
     // Gives both pickers the same date and time; raises 380 for what they cannot hold.
     void dataOra(DataOra valore);
+
+    // All that the fields show, and back; what a field refuses is passed over.
+    [[nodiscard]] TestiCampi testi() const;
+    void testi(const TestiCampi& valori) noexcept;
 
     // What leaving the field that has the focus would do, for a command, which leaves it there.
     void conferma();

@@ -33,6 +33,9 @@ enum Comando : std::uint16_t {
     spostaGiu,
     spostaInCima,
     spostaInFondo,
+    // Keys only too: the last change of the items taken back, or done again.
+    annullaPasso,
+    ripetiPasso,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
     ultimoRecente = mnrec + 10,
@@ -55,7 +58,7 @@ struct MenuPrincipale {
 
 // A key that runs a command: a virtual key code, 0 for none.
 struct Tasto {
-    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt };
+    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt, ControlloMaiuscole };
     // Wherever the focus is, or while the grid has it.
     enum Dove : std::uint8_t { Ovunque, Griglia };
     std::uint16_t codice = 0;
@@ -84,6 +87,7 @@ struct RigaComando {
     Menu menu = Menu::Nessuno;
     std::wstring_view didascalia{};
     Tasto tasto{};
+    Tasto altroTasto{};
     PulsanteBarra barra{};
     PulsanteStriscia striscia{};
     // Where there is no item, the user is told to select one, and nothing runs.

@@ -3,8 +3,10 @@
 #include "datetime/ClsUTC.h"
 #include "document/caratteriXml.h"
 #include "document/clsFeedRss.h"
+#include "document/custodeLavoro_win.h"
 #include "document/documento.h"
 #include "document/elementi.h"
+#include "document/esitoLettura_win.h"
 #include "support/servizi/dialoghiFile.h"
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
@@ -13,6 +15,7 @@
 #include "support/windows/guardia_win.h"
 #include "ui/main/campiCanale_win.h"
 #include "ui/main/canale_win.h"
+#include "ui/main/custodeCopie_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/recenti.h"
 
@@ -76,12 +79,14 @@ bool ComandiDocumento::leggi(const std::wstring& percorso) {
     finestra_.NuovoDocumento();
     Canale canale;
     TabellaElementi elementi;
-    clsFeedRss().LeggiDocumentoRSS(percorso, canale, elementi);
+    EsitoLettura esito;
+    clsFeedRss().LeggiDocumentoRSS(percorso, canale, elementi, &esito);
     // A value that its field refuses ends the filling; the items are there and are shown.
     const bool riempiti =
         protetto([&] { riempiCampi(percorso, canale); }, [&] { finestra_.MostraErrore(); });
     documento_.sostituisci(std::move(elementi));
     documento_.modificato(!riempiti);
+    copie_.aperto(esito.file, esito.perdite);
     return riempiti;
 }
 
@@ -119,17 +124,19 @@ bool ComandiDocumento::Salva(bool conNome) {
             const Clessidra clessidra;
             try {
                 clsFeedRss().CreaDocumentoRSS(percorso, raccogliCanale(campi_),
-                                              documento_.elementi());
+                                              documento_.elementi(), &copie_);
             } catch (const TestoRifiutato& errore) {
                 // Seen behind the message. Row 0, for a text of the channel, changes nothing.
                 finestra_.SelezionaRiga(rigaDi(errore.elemento() - 1));
                 throw;
             }
             campi_.Tag(percorso);
+            copie_.salvato();
             finestra_.ImpostaTitolo(percorso);
             recenti_.AggiungiRecente(percorso);
             finestra_.CaricaRecenti();
             documento_.modificato(false);
+            lavoro_.dimentica();
         },
         [&] { finestra_.MostraErrore(); });
 }

@@ -6,6 +6,8 @@
 #include <string>
 
 class CampiCanale;
+class CustodeCopie;
+class CustodeLavoro;
 struct Canale;
 class Documento;
 class ElencoRecenti;
@@ -15,9 +17,10 @@ class FinestraPrincipale;
 class ComandiDocumento {
 public:
     ComandiDocumento(const Servizi& servizi, FinestraPrincipale& finestra, Documento& documento,
-                     CampiCanale& campi, ElencoRecenti& recenti) noexcept
+                     CampiCanale& campi, ElencoRecenti& recenti, CustodeCopie& copie,
+                     CustodeLavoro& lavoro) noexcept
         : servizi_(servizi), finestra_(finestra), documento_(documento), campi_(campi),
-          recenti_(recenti) {}
+          recenti_(recenti), copie_(copie), lavoro_(lavoro) {}
 
     // Whether the document may be discarded: unmodified, empty, saved on Yes, or given up on No.
     [[nodiscard]] bool ChiediSalvataggio();
@@ -47,4 +50,6 @@ private:
     Documento& documento_;
     CampiCanale& campi_;
     ElencoRecenti& recenti_;
+    CustodeCopie& copie_;
+    CustodeLavoro& lavoro_;
 };

@@ -32,7 +32,7 @@ void ComandiPagina::EsportaHTML() {
             {
                 const Clessidra clessidra;
                 clsFeedRss().CreaDocumentoHTML(percorso, raccogliCanale(campi_),
-                                               documento_.elementi());
+                                               documento_.elementi(), &custode_);
             }
             if (servizi_.messaggi.mostra(L"Si desidera aprire il file salvato?",
                                          L"Salva come pagina Web...", Icona::Domanda,

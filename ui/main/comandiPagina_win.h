@@ -3,6 +3,7 @@
 #include "ui/main/servizi.h"
 
 class CampiCanale;
+class CustodeFile;
 class Documento;
 class FinestraPrincipale;
 
@@ -11,8 +12,9 @@ class FinestraPrincipale;
 class ComandiPagina {
 public:
     ComandiPagina(const Servizi& servizi, FinestraPrincipale& finestra, const Documento& documento,
-                  const CampiCanale& campi) noexcept
-        : servizi_(servizi), finestra_(finestra), documento_(documento), campi_(campi) {}
+                  const CampiCanale& campi, CustodeFile& custode) noexcept
+        : servizi_(servizi), finestra_(finestra), documento_(documento), campi_(campi),
+          custode_(custode) {}
 
     // Asks for the file, writes the page, offers to open it. Failures are reported.
     void EsportaHTML();
@@ -27,4 +29,5 @@ private:
     FinestraPrincipale& finestra_;
     const Documento& documento_;
     const CampiCanale& campi_;
+    CustodeFile& custode_;
 };

@@ -145,6 +145,14 @@ constexpr std::array tabella{
         .tasto = inGriglia(VK_END, Tasto::Alt),
         .esegui = [](Parti& p,
                      int e) { p.elementi.SpostaElemento(e, p.elementi.ultimo(), Causa::Comando); }},
+
+    RigaComando{.comando = annullaPasso,
+                .tasto = inGriglia(L'Z', Tasto::Controllo),
+                .esegui = [](Parti& p, int) { p.ripercorri(&Storia::annulla); }},
+    RigaComando{.comando = ripetiPasso,
+                .tasto = inGriglia(L'Y', Tasto::Controllo),
+                .altroTasto = inGriglia(L'Z', Tasto::ControlloMaiuscole),
+                .esegui = [](Parti& p, int) { p.ripercorri(&Storia::ripeti); }},
 };
 
 constexpr std::array principali{

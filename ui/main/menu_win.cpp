@@ -19,6 +19,19 @@ void aggiungiSottomenu(HMENU menu, ManigliaMenu sottomenu, std::wstring_view did
     static_cast<void>(sottomenu.cedi());
 }
 
+BYTE modificatori(const Tasto& tasto) noexcept {
+    switch (tasto.modificatore) {
+    case Tasto::Controllo:
+        return FVIRTKEY | FCONTROL;
+    case Tasto::Alt:
+        return FVIRTKEY | FALT;
+    case Tasto::ControlloMaiuscole:
+        return FVIRTKEY | FCONTROL | FSHIFT;
+    default:
+        return FVIRTKEY;
+    }
+}
+
 // The only submenu of the first menu.
 HMENU sottomenuRecenti(HMENU barra) {
     const HMENU file = GetSubMenu(barra, 0);
@@ -52,16 +65,11 @@ ManigliaMenu creaMenu(Menu menu) {
 Acceleratori creaAcceleratori(Tasto::Dove dove) {
     std::vector<ACCEL> voci;
     for (const RigaComando& riga : comandi()) {
-        if (riga.tasto.codice == 0 || riga.tasto.dove != dove) {
-            continue;
+        for (const Tasto& tasto : {riga.tasto, riga.altroTasto}) {
+            if (tasto.codice != 0 && tasto.dove == dove) {
+                voci.push_back({modificatori(tasto), tasto.codice, riga.comando});
+            }
         }
-        BYTE come = FVIRTKEY;
-        if (riga.tasto.modificatore == Tasto::Controllo) {
-            come |= FCONTROL;
-        } else if (riga.tasto.modificatore == Tasto::Alt) {
-            come |= FALT;
-        }
-        voci.push_back({come, riga.tasto.codice, riga.comando});
     }
     Acceleratori tabella(CreateAcceleratorTableW(voci.data(), static_cast<int>(voci.size())));
     if (!tabella) {

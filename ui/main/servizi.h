@@ -6,6 +6,7 @@ class EditorElementi;
 class Impostazioni;
 class Messaggi;
 class Orologio;
+struct CartelleDati;
 
 // What the windows need from outside themselves; all outlive the windows.
 struct Servizi {
@@ -15,4 +16,5 @@ struct Servizi {
     Impostazioni& impostazioni;
     ClsCodaEliminazione& coda;
     EditorElementi& editor;
+    const CartelleDati& cartelle;
 };

@@ -336,7 +336,7 @@ TEST_F(FrmEditFeedModale, IlServizioDaLaDataSceltaELElemento) {
     clsItemRss elemento;
     elemento.sAuthor(L"autore");
     std::optional<DataOra> scelta;
-    usa([&] { scelta = servizio.modifica(elemento, ultima); },
+    usa([&] { scelta = servizio.modifica(elemento, ultima, nullptr); },
         [&] {
             EXPECT_EQ(GetWindow(finestra, GW_OWNER), proprietaria);
             EXPECT_EQ(selettore(IDC_EDITDATA), ultima);
@@ -347,7 +347,7 @@ TEST_F(FrmEditFeedModale, IlServizioDaLaDataSceltaELElemento) {
     EXPECT_EQ(elemento.sTitle(), L"titolo");
     EXPECT_EQ(elemento.sAuthor(), L"autore");
 
-    usa([&] { scelta = servizio.modifica(elemento, ultima); },
+    usa([&] { scelta = servizio.modifica(elemento, ultima, nullptr); },
         [&] {
             compila(L"altro", L"altro");
             premi(VK_ESCAPE);

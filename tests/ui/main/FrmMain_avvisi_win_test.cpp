@@ -292,7 +292,8 @@ TEST_F(FrmMainAvvisi, UnAzioneTrovaICampiNeiLimiti) {
 
 TEST_F(FrmMainAvvisi, QuelCheSiDicePrimaDellaFinestraSiVedeConLei) {
     Documento altro;
-    FrmMain seconda{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, altro};
+    FrmMain seconda{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle},
+                    altro};
     seconda.avvisi().avvisa(avvisoProva(L"presto"));
     seconda.avvisi().avvisa(avvisoProva(L"ritirato"));
     seconda.avvisi().ritira(L"ritirato");
