@@ -68,7 +68,7 @@ public:
         return ultimaData;
     }
 
-    [[nodiscard]] std::optional<TestiCampi> testi() const override { return std::nullopt; }
+    [[nodiscard]] std::optional<TestiCampi> testi() override { return std::nullopt; }
 
 private:
     int volte_ = 0;

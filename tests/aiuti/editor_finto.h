@@ -44,7 +44,7 @@ public:
         return azione(elemento, ultimaData);
     }
 
-    [[nodiscard]] std::optional<TestiCampi> testi() const override { return inScrittura; }
+    [[nodiscard]] std::optional<TestiCampi> testi() override { return inScrittura; }
 
     // What the editor that is open shows, as a test says.
     std::optional<TestiCampi> inScrittura;

@@ -67,7 +67,7 @@ private:
     std::wstring salva(const RichiestaFile& richiesta) override;
     std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
                                     const TestiCampi* bozza) override;
-    [[nodiscard]] std::optional<TestiCampi> testi() const override { return std::nullopt; }
+    [[nodiscard]] std::optional<TestiCampi> testi() override { return std::nullopt; }
     [[nodiscard]] std::wstring leggi(std::wstring_view sezione, std::wstring_view chiave,
                                      std::wstring_view altrimenti) const override {
         return valori_.leggi(sezione, chiave, altrimenti);

@@ -33,6 +33,8 @@ bool FrmEditFeed::inizializza() {
     txtData_ = SelettoreData(controllo(IDC_EDITDATA), SelettoreData::Parte::Data);
     txtOrario_ = SelettoreData(controllo(IDC_EDITORARIO), SelettoreData::Parte::Ora);
     CaricaDati();
+    iniziali_ = testi();
+    toccato_ = false;
     mostraBozza();
     return true;
 }
@@ -92,6 +94,11 @@ void FrmEditFeed::CaricaDati() {
 TestiCampi FrmEditFeed::testi() const {
     return {txtTitolo_.testo(), txtLink_.testo(), txtAutore_.testo(), txtDescrizione_.testo(),
             comeTesto(combina(txtData_, txtOrario_))};
+}
+
+bool FrmEditFeed::toccato() {
+    toccato_ = toccato_ || testi() != iniziali_;
+    return toccato_;
 }
 
 void FrmEditFeed::mostraBozza() {
@@ -171,7 +178,7 @@ std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, Dat
     if (bozza != nullptr) {
         editor.Bozza(*bozza);
     }
-    const Prestito<const FrmEditFeed*> aperto(aperto_, &editor);
+    const Prestito<FrmEditFeed*> aperto(aperto_, &editor);
     editor.mostra(GetActiveWindow());
     if (editor.Annullato()) {
         return std::nullopt;
@@ -180,9 +187,7 @@ std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, Dat
     return editor.DataOra();
 }
 
-std::optional<TestiCampi> EditorElementiWindows::testi() const {
-    if (aperto_ == nullptr || aperto_->hwnd() == nullptr) {
-        return std::nullopt;
-    }
-    return aperto_->testi();
+std::optional<TestiCampi> EditorElementiWindows::testi() {
+    const bool scritto = aperto_ != nullptr && aperto_->hwnd() != nullptr && aperto_->toccato();
+    return scritto ? std::optional(aperto_->testi()) : std::nullopt;
 }

@@ -23,6 +23,8 @@ public:
     void Bozza(const TestiCampi& testi) { bozza_ = testi; }
     // What the controls show.
     [[nodiscard]] TestiCampi testi() const;
+    // Whether they ever showed, when this was asked, another thing than the item.
+    [[nodiscard]] bool toccato();
 
     // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
     // Raises the failure to make it.
@@ -63,6 +65,8 @@ private:
     clsItemRss elemento_;
     ::DataOra dataOra_;
     std::optional<TestiCampi> bozza_;
+    TestiCampi iniziali_;
+    bool toccato_ = false;
 
     CampoTesto txtTitolo_;
     CampoTesto txtLink_;
@@ -80,11 +84,11 @@ public:
 
     [[nodiscard]] std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
                                                   const TestiCampi* bozza) override;
-    [[nodiscard]] std::optional<TestiCampi> testi() const override;
+    [[nodiscard]] std::optional<TestiCampi> testi() override;
 
 private:
     Messaggi& messaggi_;
     const Orologio& orologio_;
     // While it is shown.
-    const FrmEditFeed* aperto_ = nullptr;
+    FrmEditFeed* aperto_ = nullptr;
 };

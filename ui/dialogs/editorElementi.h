@@ -22,6 +22,7 @@ public:
     [[nodiscard]] virtual std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
                                                           const TestiCampi* bozza) = 0;
 
-    // What the editor shows that is open; nothing when none is.
-    [[nodiscard]] virtual std::optional<TestiCampi> testi() const = 0;
+    // What the editor shows that is open, once that is no longer what it opened with; nothing
+    // before, and when none is open.
+    [[nodiscard]] virtual std::optional<TestiCampi> testi() = 0;
 };

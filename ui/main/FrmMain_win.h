@@ -29,7 +29,7 @@
 // What the diary reads of the windows.
 class TestiFinestra final : public TestiInScrittura {
 public:
-    TestiFinestra(const CampiCanale& campi, const EditorElementi& editor) noexcept
+    TestiFinestra(const CampiCanale& campi, EditorElementi& editor) noexcept
         : campi_(campi), editor_(editor) {}
 
     [[nodiscard]] TestiCampi canale() const override { return campi_.testi(); }
@@ -37,7 +37,7 @@ public:
 
 private:
     const CampiCanale& campi_;
-    const EditorElementi& editor_;
+    EditorElementi& editor_;
 };
 
 // The program's only main window. Composes what the fields, the grid and the commands do; holds no
