@@ -2,7 +2,8 @@
 //   bench_ostrelle apri FILE             until the grid has painted the items
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
 //   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move at the
-//                                        size of that feed, each until the window is painted
+//                                        size of that feed, each until the window is painted, and
+//                                        of painting the whole list once
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
@@ -18,9 +19,12 @@
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/FrmMain_win.h"
 
+#include <commctrl.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,6 +83,11 @@ public:
     }
 
     FrmMain& finestra() noexcept { return finestra_; }
+    // The list view that shows the items.
+    [[nodiscard]] HWND lista() const noexcept {
+        const HWND griglia = FindWindowExW(finestra_.hwnd(), nullptr, Griglia::classe, nullptr);
+        return FindWindowExW(griglia, nullptr, WC_LISTVIEWW, nullptr);
+    }
     [[nodiscard]] const TabellaElementi& elementi() const noexcept { return documento_.elementi(); }
 
     // Until nothing is left to do: every message, every paint.
@@ -146,22 +155,32 @@ int modifica(const std::wstring& percorso, int volte) {
     const int riga = elementi / 2;
     struct Lavoro {
         const char* nome;
-        int comando;
+        std::function<void()> azione;
         std::vector<double> tempi;
     };
+    const auto comando = [&](int quale) { return [&, quale] { finestra.esegui(quale); }; };
     // A delete makes room for the add: 32,767 items are the most there can be.
-    std::vector<Lavoro> lavori{{"edit", mnEditFeed, {}},
-                               {"move", spostaGiu, {}},
-                               {"delete", mnDelFeed, {}},
-                               {"add", mnaddFeed, {}}};
+    std::vector<Lavoro> lavori{{"edit", comando(mnEditFeed), {}},
+                               {"move", comando(spostaGiu), {}},
+                               {"delete", comando(mnDelFeed), {}},
+                               {"add", comando(mnaddFeed), {}},
+                               {"redraw",
+                                [&] {
+                                    RedrawWindow(programma.lista(), nullptr, nullptr,
+                                                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME |
+                                                     RDW_ALLCHILDREN | RDW_UPDATENOW);
+                                },
+                                {}}};
     for (int i = 0; i < volte; ++i) {
         for (auto& lavoro : lavori) {
             finestra.SelezionaRiga(riga);
             programma.calma();
+            segna(lavoro.nome);
             const Cronometro tempo;
-            finestra.esegui(lavoro.comando);
+            lavoro.azione();
             programma.calma();
             lavoro.tempi.push_back(tempo.millisecondi());
+            segna("fine");
         }
     }
     if (programma.elementi().conteggio() != elementi) {

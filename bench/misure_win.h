@@ -25,5 +25,8 @@ inline constexpr int salvataggi = 5;
 // The most memory that this process ever had resident, in KiB.
 [[nodiscard]] std::uint64_t piccoMemoria() noexcept;
 
+// A mark that whoever traces Wine's server finds among the requests of this thread.
+void segna(const char* nome);
+
 // One figure, as bench/misura reads it: a name and a number on a line of the standard output.
 void riporta(const char* nome, double valore) noexcept;
