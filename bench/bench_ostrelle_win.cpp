@@ -1,12 +1,16 @@
 // What the program itself takes, driven through its main window on the screen:
-//   bench_ostrelle apri FILE             until the grid has painted the items
+//   bench_ostrelle apri FILE [TIMES]     until the grid has painted the items; the median
+//   bench_ostrelle esame FILE            the look at its bytes before they are parsed, the median
+//   of
+//                                        a few
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
-//   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move at the
+//   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
 //                                        size of that feed, each until the window is painted, and
 //                                        of painting the whole list once
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
+#include "document/perdite.h"
 #include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
@@ -16,11 +20,13 @@
 #include "support/servizi/orologio.h"
 #include "support/windows/com_win.h"
 #include "support/windows/heap_win.h"
+#include "support/windows/xml_win.h"
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/FrmMain_win.h"
 
 #include <commctrl.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
@@ -121,13 +127,32 @@ private:
                       documento_};
 };
 
-int apri(const std::wstring& percorso) {
+int apri(const std::wstring& percorso, int volte) {
     Programma programma;
-    const Cronometro tempo;
-    programma.apri(percorso);
-    riporta("ms", tempo.millisecondi());
-    riporta("kib", static_cast<double>(piccoMemoria()));
-    riporta("items", programma.elementi().conteggio());
+    std::vector<double> tempi;
+    std::uint64_t memoria = 0;
+    for (int i = 0; i < volte; ++i) {
+        const Cronometro tempo;
+        programma.apri(percorso);
+        tempi.push_back(tempo.millisecondi());
+        memoria = memoria == 0 ? piccoMemoria() : memoria;
+    }
+    riporta("ms", mediana(std::move(tempi)));
+    riporta("kib", static_cast<double>(memoria));
+    return 0;
+}
+
+int esame(const std::wstring& percorso) {
+    const ContenutoFile contenuto(percorso);
+    std::vector<double> tempi;
+    for (int i = 0; i < ripetizioni; ++i) {
+        const Cronometro tempo;
+        if (!contenuto || esaminaFeed(contenuto.byte()).smisurato) {
+            abbandona(L"cannot read");
+        }
+        tempi.push_back(tempo.millisecondi());
+    }
+    riporta("ms", mediana(std::move(tempi)));
     return 0;
 }
 
@@ -135,7 +160,7 @@ int salva(const std::wstring& percorso) {
     Programma programma;
     programma.apri(percorso);
     std::vector<double> tempi;
-    for (int i = 0; i < salvataggi; ++i) {
+    for (int i = 0; i < ripetizioni; ++i) {
         const Cronometro tempo;
         if (!programma.finestra().Salva(false)) {
             abbandona(L"cannot save");
@@ -198,14 +223,20 @@ int wmain(int quanti, wchar_t** argomenti) {
     heapPerPiccoliBlocchi();
     const Apartamento apartamento;
     const std::wstring_view cosa = quanti > 2 ? argomenti[1] : L"";
+    const auto volte = [&](int altrimenti) {
+        return quanti > 3 ? static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)) : altrimenti;
+    };
     if (cosa == L"apri") {
-        return apri(argomenti[2]);
+        return apri(argomenti[2], volte(1));
+    }
+    if (cosa == L"esame") {
+        return esame(argomenti[2]);
     }
     if (cosa == L"salva") {
         return salva(argomenti[2]);
     }
-    if (cosa == L"modifica" && quanti > 3) {
-        return modifica(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
+    if (cosa == L"modifica") {
+        return modifica(argomenti[2], volte(25));
     }
     return 2;
 }

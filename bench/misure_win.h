@@ -15,9 +15,9 @@ private:
     LARGE_INTEGER inizio_{};
 };
 
-// How often a save is repeated in one process: a single one is too short for a machine that is at
-// times slower.
-inline constexpr int salvataggi = 5;
+// How often what is short is repeated in one process: a single one is too short for a machine that
+// is at times slower.
+inline constexpr int ripetizioni = 5;
 
 // The middle one of at least one figure.
 [[nodiscard]] double mediana(std::vector<double> valori);
