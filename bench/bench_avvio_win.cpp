@@ -58,11 +58,12 @@ HWND attendiPronta(const PROCESS_INFORMATION& processo, const Cronometro& tempo)
 }
 
 // Milliseconds until a program is ready; it is closed again. Ends the measure when it is not.
-double avvia(const wchar_t* programma) {
+double avvia(const wchar_t* programma, const char* nome) {
     std::wstring comando = std::wstring(L"\"") + programma + L"\"";
     STARTUPINFOW inizio{};
     inizio.cb = sizeof(inizio);
     PROCESS_INFORMATION processo{};
+    segna(nome);
     const Cronometro tempo;
     if (CreateProcessW(nullptr, comando.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                        &inizio, &processo) == FALSE) {
@@ -71,6 +72,7 @@ double avvia(const wchar_t* programma) {
     }
     const HWND finestra = attendiPronta(processo, tempo);
     const double ms = tempo.millisecondi();
+    segna("fine");
     if (finestra == nullptr) {
         std::fputs("no window\n", stderr);
         TerminateProcess(processo.hProcess, 1);
@@ -92,10 +94,10 @@ int wmain(int quanti, wchar_t** argomenti) {
     }
     // The system's windows, and what this process needs to look for windows, before any clock runs.
     static_cast<void>(finestraVisibile(0));
-    static_cast<void>(avvia(argomenti[2]));
+    static_cast<void>(avvia(argomenti[2], "caldo"));
     for (long n = std::wcstol(argomenti[3], nullptr, 10); n > 0; --n) {
-        riporta("nostro", avvia(argomenti[1]));
-        riporta("finestra", avvia(argomenti[2]));
+        riporta("nostro", avvia(argomenti[1], "nostro"));
+        riporta("finestra", avvia(argomenti[2], "finestra"));
     }
     return 0;
 }

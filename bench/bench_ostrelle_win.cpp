@@ -1,11 +1,16 @@
 // What the program itself takes, driven through its main window on the screen:
-//   bench_ostrelle apri FILE             until the grid has painted the items
+//   bench_ostrelle apri FILE [TIMES]     until the grid has painted the items; the median
+//   bench_ostrelle esame FILE            the look at its bytes before they are parsed, the median
+//   of
+//                                        a few
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
-//   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move at the
-//                                        size of that feed, each until the window is painted
+//   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
+//                                        size of that feed, each until the window is painted, and
+//                                        of painting the whole list once
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
+#include "document/perdite.h"
 #include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
@@ -16,12 +21,17 @@
 #include "support/servizi/orologio.h"
 #include "support/windows/com_win.h"
 #include "support/windows/heap_win.h"
+#include "support/windows/xml_win.h"
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/FrmMain_win.h"
 
+#include <commctrl.h>
+
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -83,6 +93,11 @@ public:
     }
 
     FrmMain& finestra() noexcept { return finestra_; }
+    // The list view that shows the items.
+    [[nodiscard]] HWND lista() const noexcept {
+        const HWND griglia = FindWindowExW(finestra_.hwnd(), nullptr, Griglia::classe, nullptr);
+        return FindWindowExW(griglia, nullptr, WC_LISTVIEWW, nullptr);
+    }
     [[nodiscard]] const TabellaElementi& elementi() const noexcept { return documento_.elementi(); }
 
     // Until nothing is left to do: every message, every paint.
@@ -118,13 +133,32 @@ private:
         documento_};
 };
 
-int apri(const std::wstring& percorso) {
+int apri(const std::wstring& percorso, int volte) {
     Programma programma;
-    const Cronometro tempo;
-    programma.apri(percorso);
-    riporta("ms", tempo.millisecondi());
-    riporta("kib", static_cast<double>(piccoMemoria()));
-    riporta("items", programma.elementi().conteggio());
+    std::vector<double> tempi;
+    std::uint64_t memoria = 0;
+    for (int i = 0; i < volte; ++i) {
+        const Cronometro tempo;
+        programma.apri(percorso);
+        tempi.push_back(tempo.millisecondi());
+        memoria = memoria == 0 ? piccoMemoria() : memoria;
+    }
+    riporta("ms", mediana(std::move(tempi)));
+    riporta("kib", static_cast<double>(memoria));
+    return 0;
+}
+
+int esame(const std::wstring& percorso) {
+    const ContenutoFile contenuto(percorso);
+    std::vector<double> tempi;
+    for (int i = 0; i < ripetizioni; ++i) {
+        const Cronometro tempo;
+        if (!contenuto || esaminaFeed(contenuto.byte()).smisurato) {
+            abbandona(L"cannot read");
+        }
+        tempi.push_back(tempo.millisecondi());
+    }
+    riporta("ms", mediana(std::move(tempi)));
     return 0;
 }
 
@@ -132,7 +166,7 @@ int salva(const std::wstring& percorso) {
     Programma programma;
     programma.apri(percorso);
     std::vector<double> tempi;
-    for (int i = 0; i < salvataggi; ++i) {
+    for (int i = 0; i < ripetizioni; ++i) {
         const Cronometro tempo;
         if (!programma.finestra().Salva(false)) {
             abbandona(L"cannot save");
@@ -152,22 +186,32 @@ int modifica(const std::wstring& percorso, int volte) {
     const int riga = elementi / 2;
     struct Lavoro {
         const char* nome;
-        int comando;
+        std::function<void()> azione;
         std::vector<double> tempi;
     };
+    const auto comando = [&](int quale) { return [&, quale] { finestra.esegui(quale); }; };
     // A delete makes room for the add: 32,767 items are the most there can be.
-    std::vector<Lavoro> lavori{{"edit", mnEditFeed, {}},
-                               {"move", spostaGiu, {}},
-                               {"delete", mnDelFeed, {}},
-                               {"add", mnaddFeed, {}}};
+    std::vector<Lavoro> lavori{{"edit", comando(mnEditFeed), {}},
+                               {"move", comando(spostaGiu), {}},
+                               {"delete", comando(mnDelFeed), {}},
+                               {"add", comando(mnaddFeed), {}},
+                               {"redraw",
+                                [&] {
+                                    RedrawWindow(programma.lista(), nullptr, nullptr,
+                                                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME |
+                                                     RDW_ALLCHILDREN | RDW_UPDATENOW);
+                                },
+                                {}}};
     for (int i = 0; i < volte; ++i) {
         for (auto& lavoro : lavori) {
             finestra.SelezionaRiga(riga);
             programma.calma();
+            segna(lavoro.nome);
             const Cronometro tempo;
-            finestra.esegui(lavoro.comando);
+            lavoro.azione();
             programma.calma();
             lavoro.tempi.push_back(tempo.millisecondi());
+            segna("fine");
         }
     }
     if (programma.elementi().conteggio() != elementi) {
@@ -185,14 +229,20 @@ int wmain(int quanti, wchar_t** argomenti) {
     heapPerPiccoliBlocchi();
     const Apartamento apartamento;
     const std::wstring_view cosa = quanti > 2 ? argomenti[1] : L"";
+    const auto volte = [&](int altrimenti) {
+        return quanti > 3 ? static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)) : altrimenti;
+    };
     if (cosa == L"apri") {
-        return apri(argomenti[2]);
+        return apri(argomenti[2], volte(1));
+    }
+    if (cosa == L"esame") {
+        return esame(argomenti[2]);
     }
     if (cosa == L"salva") {
         return salva(argomenti[2]);
     }
-    if (cosa == L"modifica" && quanti > 3) {
-        return modifica(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
+    if (cosa == L"modifica") {
+        return modifica(argomenti[2], volte(25));
     }
     return 2;
 }

@@ -40,7 +40,7 @@ void aggiungiElemento(std::string& feed, int indice, std::size_t lunghezza) {
 
 } // namespace
 
-std::string feedProva(int elementi, std::size_t lunghezza) {
+std::string feedProva(int elementi, std::size_t lunghezza, bool varia) {
     std::string feed =
         "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<rss version=\"2.0\"><channel>"
         "<title>Il giornale</title><link>https://giornale.example/</link>"
@@ -49,7 +49,10 @@ std::string feedProva(int elementi, std::size_t lunghezza) {
         "<lastBuildDate>Tue, 15 Nov 2005 10:00:00 +0100</lastBuildDate>"
         "<webMaster>web@giornale.example</webMaster>\n";
     for (int i = 0; i < elementi; ++i) {
-        aggiungiElemento(feed, i, lunghezza);
+        // A prime far from the length: neighbours differ much, all lengths come by.
+        aggiungiElemento(feed, i,
+                         varia ? lunghezza / 2 + static_cast<std::size_t>(i) * 7919 % lunghezza
+                               : lunghezza);
     }
     feed += "</channel></rss>\n";
     return feed;

@@ -24,6 +24,11 @@ public:
     // name), 9 (a missing piece), 13 (a zone that is no number), 6 and 5 (values out of range).
     [[nodiscard]] DataOra ToDate(std::wstring_view testo) const;
 
+    // Whether both read every text as the same date.
+    [[nodiscard]] bool leggeCome(const ClsUTC& altro) const noexcept {
+        return nDiffOre_ == altro.nDiffOre_ && formato_ == altro.formato_;
+    }
+
     [[nodiscard]] DataOra adessoLocale() const noexcept { return adesso_.locale; }
 
 private:

@@ -74,13 +74,11 @@ struct Livello {
     Nodo ultimo = Nodo::Altro;
 };
 
-constexpr std::array<std::wstring_view, 8> figliCanale{L"title",     L"link",      L"description",
-                                                       L"language",  L"copyright", L"lastBuildDate",
-                                                       L"webMaster", L"image"};
-constexpr std::array<std::wstring_view, 5> figliImmagine{L"title", L"url", L"link", L"width",
-                                                         L"height"};
-constexpr std::array<std::wstring_view, 6> figliElemento{L"title",  L"link",    L"description",
-                                                         L"author", L"pubDate", L"guid"};
+constexpr std::array<std::string_view, 8> figliCanale{
+    "title", "link", "description", "language", "copyright", "lastBuildDate", "webMaster", "image"};
+constexpr std::array<std::string_view, 5> figliImmagine{"title", "url", "link", "width", "height"};
+constexpr std::array<std::string_view, 6> figliElemento{"title",  "link",    "description",
+                                                        "author", "pubDate", "guid"};
 
 class Esaminatore final : public LettoreMarcatori {
 public:
@@ -185,9 +183,8 @@ private:
     }
 
     Ruolo figlioNoto(Livello& padre, std::string_view nome,
-                     std::span<const std::wstring_view> noti) {
-        const auto trovato =
-            std::ranges::find_if(noti, [&](std::wstring_view noto) { return uguali(nome, noto); });
+                     std::span<const std::string_view> noti) {
+        const auto trovato = std::ranges::find(noti, nome);
         if (trovato == noti.end()) {
             conta_.aggiungi(nome);
             return Ruolo::Ignoto;

@@ -10,20 +10,21 @@ namespace {
 constexpr auto npos = std::string_view::npos;
 
 // The code units of a UTF-16 document; the last odd byte is left out.
+template <bool altoPrima>
 class Unita16 {
 public:
-    Unita16(std::span<const std::byte> byte, bool altoPrima) noexcept
-        : byte_(byte), alto_(altoPrima ? 0 : 1) {}
+    explicit Unita16(std::span<const std::byte> byte) noexcept
+        : byte_(byte.data()), quante_(byte.size() / 2) {}
 
-    [[nodiscard]] std::size_t quante() const noexcept { return byte_.size() / 2; }
+    [[nodiscard]] std::size_t quante() const noexcept { return quante_; }
     [[nodiscard]] std::uint32_t operator[](std::size_t i) const noexcept {
-        return std::to_integer<std::uint32_t>(byte_[2 * i + alto_]) << 8U |
-               std::to_integer<std::uint32_t>(byte_[2 * i + 1 - alto_]);
+        return std::to_integer<std::uint32_t>(byte_[2 * i + (altoPrima ? 0 : 1)]) << 8U |
+               std::to_integer<std::uint32_t>(byte_[2 * i + (altoPrima ? 1 : 0)]);
     }
 
 private:
-    std::span<const std::byte> byte_;
-    std::size_t alto_;
+    const std::byte* byte_;
+    std::size_t quante_;
 };
 
 void aggiungiUtf8(std::string& testo, std::uint32_t punto) {
@@ -47,10 +48,42 @@ void aggiungiUtf8(std::string& testo, std::uint32_t punto) {
     }
 }
 
-std::string inUtf8(const Unita16& unita) {
+constexpr std::size_t unitaPerBlocco = 32;
+
+// Appends as many of the units from `i` on as are ASCII, in whole blocks, and tells how many: one
+// by one they take longer than the walk over the text that they give.
+template <class Unita>
+std::size_t aggiungiAscii(std::string& testo, const Unita& unita, std::size_t i) {
+    std::array<char, unitaPerBlocco> blocco{};
+    const std::size_t da = i;
+    for (; unita.quante() - i >= blocco.size(); i += blocco.size()) {
+        std::uint32_t tutte = 0;
+        for (std::size_t k = 0; k < blocco.size(); ++k) {
+            tutte |= unita[i + k];
+            blocco.data()[k] = static_cast<char>(unita[i + k]);
+        }
+        if (tutte >= 0x80) {
+            break;
+        }
+        testo.append(blocco.data(), blocco.size());
+    }
+    return i - da;
+}
+
+template <bool altoPrima>
+std::string inUtf8(std::span<const std::byte> documento) {
+    const Unita16<altoPrima> unita(documento);
     std::string testo;
     testo.reserve(unita.quante());
+    std::size_t prossimoBlocco = 0;
     for (std::size_t i = 0; i < unita.quante(); ++i) {
+        if (i >= prossimoBlocco) {
+            i += aggiungiAscii(testo, unita, i);
+            prossimoBlocco = i + unitaPerBlocco;
+            if (i == unita.quante()) {
+                break;
+            }
+        }
         std::uint32_t punto = unita[i];
         if (punto - 0xD800U < 0x400U && i + 1 < unita.quante() && unita[i + 1] - 0xDC00U < 0x400U) {
             punto = 0x10000U + ((punto - 0xD800U) << 10U) + (unita[++i] - 0xDC00U);
@@ -190,7 +223,7 @@ void scorriMarcatori(std::span<const std::byte> documento, LettoreMarcatori& let
     const bool altoPrima =
         testo == std::string_view("\xFE\xFF") || testo == std::string_view("\0<", 2);
     if (altoPrima || testo == std::string_view("\xFF\xFE") || testo == std::string_view("<\0", 2)) {
-        const std::string utf8 = inUtf8(Unita16(documento, altoPrima));
+        const std::string utf8 = altoPrima ? inUtf8<true>(documento) : inUtf8<false>(documento);
         Scansione(utf8, lettore).percorri();
     } else {
         Scansione(comeTesto(documento), lettore).percorri();

@@ -12,6 +12,8 @@ struct FormatoLocale {
     wchar_t decimale = L',';
     std::wstring data = L"/";
     std::wstring ora = L":";
+
+    friend bool operator==(const FormatoLocale&, const FormatoLocale&) = default;
 };
 
 // The regional settings of the user that runs the program, read anew at each call.

@@ -112,23 +112,45 @@ TEST(Perdite, UnAltraRadiceAttornoARss) {
               (Attese{{"fuori", 1}, {"ttl", 1}}));
 }
 
+std::string inUtf16(std::u16string_view unita, bool altoPrima) {
+    std::string byte;
+    for (const char16_t u : unita) {
+        const char alto = static_cast<char>(u >> 8U);
+        const char basso = static_cast<char>(u & 0xFFU);
+        byte += altoPrima ? std::string{alto, basso} : std::string{basso, alto};
+    }
+    return byte;
+}
+
 TEST(Perdite, InUtf16DiOgniOrdine) {
     const std::string testo = feed("<\xC3\xA8>\xE2\x82\xAC</\xC3\xA8>");
-    std::u16string unita =
+    const std::u16string unita =
         u"<?xml version=\"1.0\"?><rss version=\"2.0\"><channel><è>€\U0001F600</è>"
         u"</channel></rss>";
     for (const bool altoPrima : {false, true}) {
         for (const bool segno : {false, true}) {
-            std::string byte;
-            for (const char16_t u : (segno ? u"\uFEFF" + unita : unita)) {
-                const char alto = static_cast<char>(u >> 8U);
-                const char basso = static_cast<char>(u & 0xFFU);
-                byte += altoPrima ? std::string{alto, basso} : std::string{basso, alto};
-            }
-            EXPECT_EQ(perdite(byte), (Attese{{"\xC3\xA8", 1}}));
+            EXPECT_EQ(perdite(inUtf16(segno ? u"\uFEFF" + unita : unita, altoPrima)),
+                      (Attese{{"\xC3\xA8", 1}}));
         }
     }
     EXPECT_EQ(perdite(testo), (Attese{{"\xC3\xA8", 1}}));
+}
+
+TEST(Perdite, InUtf16OvunqueCadanoLeLettereAccentate) {
+    for (std::size_t prima = 0; prima < 80; ++prima) {
+        for (const std::size_t fra : {0, 1, 40, 70}) {
+            const std::u16string unita = u"<rss version='2.0'><channel><title>" +
+                                         std::u16string(prima, u'a') + u"</title><è/><t>" +
+                                         std::u16string(fra, u'b') + u"</t><€/><\U0001F600/>x";
+            for (const bool altoPrima : {false, true}) {
+                EXPECT_EQ(
+                    perdite(inUtf16(unita, altoPrima)),
+                    (Attese{
+                        {"\xC3\xA8", 1}, {"t", 1}, {"\xE2\x82\xAC", 1}, {"\xF0\x9F\x98\x80", 1}}))
+                    << prima << ' ' << fra;
+            }
+        }
+    }
 }
 
 TEST(Perdite, OltreUnLimiteIlDocumentoESmisurato) {

@@ -307,7 +307,7 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     {
         const Alzata allineando(allineando_);
         if (muove) {
-            deseleziona();
+            deseleziona(LVIS_SELECTED);
         }
         esito = inoltra(codice, w, l);
     }

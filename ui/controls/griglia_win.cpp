@@ -15,6 +15,30 @@ constexpr DWORD stileLista = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDRE
                              LVS_SHOWSELALWAYS | LVS_NOSORTHEADER;
 constexpr DWORD stileEsteso = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
+// While it lives the list changes unseen; then all of it is painted once, as it is. In sight it
+// would paint its scroll bar at every step and its rows at every scroll.
+class Velo {
+public:
+    Velo(HWND lista, HWND testata) noexcept
+        : lista_(lista),
+          testata_(GetUpdateRect(testata, nullptr, FALSE) != FALSE ? RDW_ALLCHILDREN
+                                                                   : RDW_NOCHILDREN) {
+        // Not to the list, which would do its own at the end.
+        DefWindowProcW(lista_, WM_SETREDRAW, FALSE, 0);
+    }
+    Velo(const Velo&) = delete;
+    Velo& operator=(const Velo&) = delete;
+    ~Velo() {
+        DefWindowProcW(lista_, WM_SETREDRAW, TRUE, 0);
+        RedrawWindow(lista_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | testata_);
+    }
+
+private:
+    HWND lista_;
+    // What was to be painted of the header before is forgotten with the rest.
+    UINT testata_;
+};
+
 } // namespace
 
 Griglia::Griglia(const TabellaElementi& tabella, OsservatoreGriglia& osservatore)
@@ -142,8 +166,14 @@ void Griglia::disegna(const DRAWITEMSTRUCT& disegno) const {
 
 void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
     abbandona();
-    righe_.intesta(std::move(titoli), colonne);
     const int prima = Header_GetItemCount(testata_);
+    const bool stessa = prima == colonne && righe_.intestate(titoli, colonne);
+    righe_.intesta(std::move(titoli), colonne);
+    numeroRighe();
+    rigaCorrente_ = 0;
+    if (stessa) {
+        return;
+    }
     for (int c = prima; c > righe_.colonne(); --c) {
         ListView_DeleteColumn(lista_, c - 1);
     }
@@ -161,8 +191,6 @@ void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
                          reinterpret_cast<LPARAM>(&colonna));
         }
     }
-    numeroRighe();
-    rigaCorrente_ = 0;
 }
 
 void Griglia::allarga(std::optional<double> primaLarghezza) {
@@ -197,22 +225,73 @@ void Griglia::completa() {
     numeroRighe();
 }
 
-void Griglia::numeroRighe() noexcept {
+void Griglia::aggiorna(const Cambiamento& cambiamento, const ClsUTC& utc, FormatoLocale formato) {
+    abbandona();
+    const int righe = righe_.righe();
+    const int elementi = righe_.elementi() + cambiamento.elementiInPiu;
+    const bool stesseDate = righe_.stesseDate(utc, formato);
+    righe_.elenca(utc, std::move(formato));
+    righe_.completa();
+    const int riga = cambiamento.corrente;
+    const int cima = visibile(riga, cambiamento.cima) ? cambiamento.cima : riga;
+    // The list scrolls no further than to its end.
+    const int ultimaCima = std::max<int>(1, righe_.righe() - ListView_GetCountPerPage(lista_));
+    const bool ferme = righe_.righe() == righe && rigaInCima() == std::min(cima, ultimaCima);
+    std::optional<Velo> velo;
+    if (!ferme && sospensioni_ == 0) {
+        velo.emplace(lista_, testata_);
+    }
+    {
+        // Whoever follows the selection hears of it even when it comes back to the same row.
+        const Alzata allineando(allineando_);
+        deseleziona(LVIS_SELECTED | LVIS_FOCUSED);
+    }
+    rigaCorrente_ = 0;
+    if (righe_.righe() != righe) {
+        numeroRighe(LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    }
+    seleziona(riga, cima);
+    if (ferme && stesseDate && righe_.elementi() == elementi) {
+        ridipingi(cambiamento.da, cambiamento.a);
+    } else {
+        InvalidateRect(lista_, nullptr, FALSE);
+    }
+}
+
+void Griglia::ridipingi(int da, int a) const noexcept {
+    RECT r{};
+    GetClientRect(lista_, &r);
+    const int testata = altezzaTestata();
+    const int altezza = altezzaRiga();
+    const int cima = rigaInCima();
+    const int visibili = (r.bottom - testata) / altezza + 1;
+    r.top = testata + std::clamp(da - cima, 0, visibili) * altezza;
+    r.bottom = std::min<int>(r.bottom, testata + std::clamp(a + 1 - cima, 0, visibili) * altezza);
+    if (r.top < r.bottom) {
+        InvalidateRect(lista_, &r, FALSE);
+    }
+}
+
+void Griglia::numeroRighe(DWORD modo) noexcept {
     const Alzata allineando(allineando_);
-    ListView_SetItemCountEx(lista_, righe_.righe() - 1, 0);
+    ListView_SetItemCountEx(lista_, righe_.righe() - 1, modo);
 }
 
 void Griglia::seleziona(int riga) {
+    const int cima = rigaInCima();
+    seleziona(riga, visibile(riga, cima) ? cima : riga);
+}
+
+void Griglia::seleziona(int riga, int cima) {
     if (riga < 1 || riga >= righe_.righe()) {
         return;
     }
     // Some list views scroll a row that gets the focus into full sight: undone, a row that a press
     // selects must stay under the pointer.
-    const int cima = visibile(riga) ? rigaInCima() : riga;
     {
         const Alzata allineando(allineando_);
         if (riga != rigaCorrente_) {
-            deseleziona();
+            deseleziona(LVIS_SELECTED);
         }
         ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
                               LVIS_SELECTED | LVIS_FOCUSED);
@@ -222,9 +301,9 @@ void Griglia::seleziona(int riga) {
     rigaCorrente_ = riga;
 }
 
-void Griglia::deseleziona() noexcept {
+void Griglia::deseleziona(UINT stati) noexcept {
     if (rigaCorrente_ >= 1) {
-        ListView_SetItemState(lista_, rigaCorrente_ - 1, 0, LVIS_SELECTED);
+        ListView_SetItemState(lista_, rigaCorrente_ - 1, 0, stati);
     }
 }
 
@@ -262,10 +341,9 @@ void Griglia::rigaInCima(int riga) noexcept {
     }
 }
 
-bool Griglia::visibile(int riga) const noexcept {
+bool Griglia::visibile(int riga, int cima) const noexcept {
     RECT r{};
     GetClientRect(lista_, &r);
-    const int cima = rigaInCima();
     return riga >= cima && (riga - cima) * altezzaRiga() < r.bottom - altezzaTestata();
 }
 

@@ -59,6 +59,18 @@ public:
     void allarga(std::optional<double> primaLarghezza);
     void elenca(const ClsUTC& utc, FormatoLocale formato);
     void completa();
+    // What a change of the table does to the rows.
+    struct Cambiamento {
+        // The first and the last row that show another item than before.
+        int da = 1;
+        int a = 1;
+        int elementiInPiu = 0;
+        // The row that becomes the current one, and the top row then, if it is visible below it.
+        int corrente = 1;
+        int cima = 1;
+    };
+    // Afterwards the grid is as if it had been filled anew; no more of it is painted than changed.
+    void aggiorna(const Cambiamento& cambiamento, const ClsUTC& utc, FormatoLocale formato);
 
     // The current row; 0 when there is none.
     [[nodiscard]] int rigaCorrente() const noexcept { return rigaCorrente_; }
@@ -115,12 +127,19 @@ private:
     void vaiGiu(int riga);
     // The row whose focus or selection the list changed by itself becomes the current one.
     void allinea();
-    // The current row is no longer selected. A list view that selects a row while another is
+    // The current row no longer has these states. A list view that selects a row while another is
     // selected may look at every row there is.
-    void deseleziona() noexcept;
-    void numeroRighe() noexcept;
+    void deseleziona(UINT stati) noexcept;
+    // `modo`: flags of LVM_SETITEMCOUNT.
+    void numeroRighe(DWORD modo = 0) noexcept;
+    // The row becomes the current and selected one, that other one the top row.
+    void seleziona(int riga, int cima);
+    // Repaints the rows between these two.
+    void ridipingi(int da, int a) const noexcept;
 
-    [[nodiscard]] bool visibile(int riga) const noexcept;
+    [[nodiscard]] bool visibile(int riga) const noexcept { return visibile(riga, rigaInCima()); }
+    // Whether any part of it would be in sight below that top row.
+    [[nodiscard]] bool visibile(int riga, int cima) const noexcept;
     [[nodiscard]] int altezzaRiga() const noexcept;
     [[nodiscard]] int altezzaTestata() const noexcept;
     // The row at a height of the list; 0 on the header, -1 below the last row.

@@ -26,9 +26,20 @@ public:
     void intesta(std::vector<std::wstring> titoli, int colonne);
     // After the header, a row for each item that the table has now. Dates are shown in `formato`.
     void elenca(const ClsUTC& utc, FormatoLocale formato);
+    // Whether `elenca` with these would show the same dates as the last one did.
+    [[nodiscard]] bool stesseDate(const ClsUTC& utc, const FormatoLocale& formato) const noexcept {
+        return utc_ && utc_->leggeCome(utc) && formato_ == formato;
+    }
     // Filler rows: a blank in each cell, "-1" as index.
     void completa() noexcept;
 
+    // Whether the header has these captions.
+    [[nodiscard]] bool intestate(const std::vector<std::wstring>& titoli,
+                                 int colonne) const noexcept {
+        return colonne_ == colonne && titoli_ == titoli;
+    }
+    // How many items the last `elenca` found.
+    [[nodiscard]] int elementi() const noexcept { return elementi_; }
     // The header included.
     [[nodiscard]] int righe() const noexcept { return righe_; }
     [[nodiscard]] int colonne() const noexcept { return colonne_; }

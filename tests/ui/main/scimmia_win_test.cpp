@@ -14,7 +14,8 @@
 namespace {
 
 constexpr int passiDiProva = 1000;
-constexpr int passiDiRiscaldamento = 300;
+// Long enough for the about box to come by: what the system makes when it first shows it stays.
+constexpr int passiDiRiscaldamento = 400;
 
 int passiVoluti() {
     const char* const voluti = std::getenv("OSTRELLE_SCIMMIA");
