@@ -2,7 +2,6 @@
 
 #include "document/clsItemRss.h"
 #include "document/elementi.h"
-#include "support/programma/ModGlobale.h"
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/guardia_win.h"
@@ -22,7 +21,7 @@ void ComandiElementi::cmdAggiungi_Click() {
         if (!scelta) {
             return;
         }
-        nuovo.sGuid(nuovo.sPubDate() + L' ' + ModGlobale().GeneraIdentificativo());
+        nuovo.sGuid(guidNuovo(nuovo.sPubDate()));
         const Modifica aggiunta = documento_.aggiunta(nuovo.elemento());
         documento_.ultimaData(*scelta);
         documento_.applica(aggiunta);
