@@ -4,7 +4,6 @@
 #include "support/caratteri/codifica.h"
 #include "support/testi/testo.h"
 
-#include <array>
 #include <string_view>
 
 namespace {
@@ -12,31 +11,34 @@ namespace {
 // The digit is the format's number.
 constexpr std::string_view marca = "OSTRELLE APPUNTI 1";
 
-// A text in an HTML page, in quotation marks too.
-std::wstring inHtml(std::wstring_view testo) {
-    std::wstring risultato(testo);
-    for (const auto& [carattere, entita] :
-         {std::pair{L"&", L"&amp;"}, {L"<", L"&lt;"}, {L">", L"&gt;"}, {L"\"", L"&quot;"}}) {
-        risultato = sostituisci(risultato, carattere, entita);
+// Appended as an HTML page has it, in quotation marks too.
+void aggiungiInHtml(std::wstring& html, std::wstring_view testo) {
+    for (const wchar_t c : testo) {
+        switch (c) {
+        case L'&':
+            html += L"&amp;";
+            break;
+        case L'<':
+            html += L"&lt;";
+            break;
+        case L'>':
+            html += L"&gt;";
+            break;
+        case L'"':
+            html += L"&quot;";
+            break;
+        default:
+            html += c;
+        }
     }
-    return risultato;
 }
 
-// A position in bytes, in as many digits whatever it is: the header that it stands in moves by
-// none.
-std::string posizione(std::size_t byte) {
-    std::string cifre = std::to_string(byte);
-    return cifre.insert(0, std::string(10 - cifre.size(), '0'));
-}
-
-std::string testataHtml(const std::array<std::size_t, 4>& posizioni) {
-    constexpr std::array<std::string_view, 4> nomi{"StartHTML", "EndHTML", "StartFragment",
-                                                   "EndFragment"};
-    std::string testata = "Version:0.9\r\n";
-    for (std::size_t i = 0; i < nomi.size(); ++i) {
-        testata.append(nomi[i]).append(1, ':').append(posizione(posizioni[i])).append("\r\n");
+// Writes a position in bytes over the zeros behind a name of the header.
+void scriviPosizione(std::string& html, std::string_view nome, std::size_t posizione) {
+    constexpr std::size_t cifre = 10;
+    for (std::size_t dove = html.find(nome) + nome.size() + cifre; posizione > 0; posizione /= 10) {
+        html[--dove] = static_cast<char>('0' + posizione % 10);
     }
-    return testata;
 }
 
 } // namespace
@@ -46,7 +48,7 @@ std::string byteAppunti(const ElementoAppunti& appunti) {
     contenuto.numero(appunti.tagliato ? 1 : 0);
     contenuto.elemento(*appunti.elemento);
     std::uint64_t catena = 0;
-    return std::string(marca) + record(TipoRecord::Appunti, contenuto, catena);
+    return record(TipoRecord::Appunti, contenuto, catena).insert(0, marca);
 }
 
 std::optional<ElementoAppunti> leggiAppunti(std::span<const std::byte> byte) {
@@ -81,15 +83,24 @@ std::wstring testoAppunti(const Elemento& elemento) {
 std::string htmlAppunti(const Elemento& elemento) {
     const std::wstring_view titolo = rifila(elemento[CampoElemento::Titolo]);
     const std::wstring_view link = rifila(elemento[CampoElemento::Link]);
-    std::wstring frammento = inHtml(titolo.empty() ? link : titolo);
+    std::wstring frammento;
     if (!link.empty()) {
-        frammento = L"<a href=\"" + inHtml(link) + L"\">" + frammento + L"</a>";
+        frammento = L"<a href=\"";
+        aggiungiInHtml(frammento, link);
+        frammento += L"\">";
     }
-    const std::string prima = "<html><body>\r\n<!--StartFragment-->";
-    const std::string mezzo = comeUtf8(frammento);
-    const std::string dopo = "<!--EndFragment-->\r\n</body></html>";
-    const std::size_t inizio = testataHtml({}).size();
-    const std::size_t da = inizio + prima.size();
-    const std::size_t a = da + mezzo.size();
-    return testataHtml({inizio, a + dopo.size(), da, a}) + prima + mezzo + dopo;
+    aggiungiInHtml(frammento, titolo.empty() ? link : titolo);
+    if (!link.empty()) {
+        frammento += L"</a>";
+    }
+    std::string html = "Version:0.9\r\nStartHTML:0000000000\r\nEndHTML:0000000000\r\n"
+                       "StartFragment:0000000000\r\nEndFragment:0000000000\r\n";
+    scriviPosizione(html, "StartHTML:", html.size());
+    html += "<html><body>\r\n<!--StartFragment-->";
+    scriviPosizione(html, "StartFragment:", html.size());
+    html += comeUtf8(frammento);
+    scriviPosizione(html, "EndFragment:", html.size());
+    html += "<!--EndFragment-->\r\n</body></html>";
+    scriviPosizione(html, "EndHTML:", html.size());
+    return html;
 }

@@ -13,8 +13,10 @@
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
 #include "support/windows/xml_win.h"
+#include "ui/main/apertura_win.h"
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
@@ -80,7 +82,8 @@ FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
                                           {servizi, *this, documento, campi_, recenti_},
                                           {servizi.messaggi, servizi.editor, documento},
                                           {servizi, *this, documento, campi_},
-                                          {servizi.messaggi, *this}},
+                                          {servizi.messaggi, *this},
+                                          {servizi.messaggi, *this, documento}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
       acceleratori_(creaAcceleratori(Tasto::Ovunque)),
       acceleratoriGriglia_(creaAcceleratori(Tasto::Griglia)) {
@@ -171,6 +174,9 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
             return 0;
         }
         break;
+    case WM_DROPFILES:
+        apriDaFuori(primoLasciato(reinterpret_cast<HDROP>(w)));
+        return 0;
     case WM_CLOSE:
         esegui(mnChiudi);
         return 0;
@@ -243,6 +249,8 @@ void FrmMain::creaControlli() {
         sollevaWin32();
     }
     avvisi_.prepara(hwnd(), carattere, dpi.y);
+    // What is dropped on a control that takes no files comes to the window around it.
+    DragAcceptFiles(hwnd(), TRUE);
 }
 
 void FrmMain::Form_Load() {

@@ -16,6 +16,8 @@
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/recenti.h"
 
+#include <shlobj.h>
+
 #include <utility>
 
 namespace {
@@ -24,6 +26,11 @@ const RichiestaFile dlgApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File 
                             opzioniApri, L""};
 const RichiestaFile dlgSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
                              opzioniSalva, L".xml"};
+
+// The file comes to the top of the system's own lists of recent documents.
+void ricordaNelSistema(const std::wstring& percorso) noexcept {
+    SHAddToRecentDocs(SHARD_PATHW, percorso.c_str());
+}
 
 } // namespace
 
@@ -65,7 +72,12 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
             if (!percorso.empty() && !fileEsiste(percorso)) {
                 solleva(errori::recenteMancante, maiuscolo(percorso));
             }
-            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso);
+            const std::wstring scelto =
+                percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso;
+            aperto = leggi(scelto);
+            if (aperto) {
+                ricordaNelSistema(scelto);
+            }
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
@@ -130,6 +142,7 @@ bool ComandiDocumento::Salva(bool conNome) {
             recenti_.AggiungiRecente(percorso);
             finestra_.CaricaRecenti();
             documento_.modificato(false);
+            ricordaNelSistema(percorso);
         },
         [&] { finestra_.MostraErrore(); });
 }

@@ -145,6 +145,15 @@ constexpr std::array tabella{
         .tasto = inGriglia(VK_END, Tasto::Alt),
         .esegui = [](Parti& p,
                      int e) { p.elementi.SpostaElemento(e, p.elementi.ultimo(), Causa::Comando); }},
+    RigaComando{.comando = taglia,
+                .tasto = inGriglia(L'X', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Taglia(e); }},
+    RigaComando{.comando = copia,
+                .tasto = inGriglia(L'C', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Copia(e); }},
+    RigaComando{.comando = incolla,
+                .tasto = inGriglia(L'V', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Incolla(e); }},
 };
 
 constexpr std::array principali{

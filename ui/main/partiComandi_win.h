@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/main/comandiAiuto_win.h"
+#include "ui/main/comandiAppunti_win.h"
 #include "ui/main/comandiDocumento_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/comandiPagina_win.h"
@@ -14,4 +15,5 @@ struct PartiComandi {
     ComandiElementi elementi;
     ComandiPagina pagina;
     ComandiAiuto aiuto;
+    ComandiAppunti appunti;
 };
