@@ -27,9 +27,12 @@ const RichiestaFile dlgApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File 
 const RichiestaFile dlgSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
                              opzioniSalva, L".xml"};
 
-// The file comes to the top of the system's own lists of recent documents.
+// The file comes to the top of the system's own lists of recent documents, which hold no longer
+// paths.
 void ricordaNelSistema(const std::wstring& percorso) noexcept {
-    SHAddToRecentDocs(SHARD_PATHW, percorso.c_str());
+    if (percorso.size() < MAX_PATH) {
+        SHAddToRecentDocs(SHARD_PATHW, percorso.c_str());
+    }
 }
 
 } // namespace
