@@ -10,6 +10,7 @@
 #include "support/windows/heap_win.h"
 #include "ui/dialogs/FrmEditFeed_win.h"
 #include "ui/main/FrmMain_win.h"
+#include "ui/main/apertura_win.h"
 
 #include <windows.h>
 
@@ -37,6 +38,7 @@ int esegui(int comeMostrare) {
     Documento documento;
     FrmMain finestra(servizi, documento);
     finestra.apri(comeMostrare);
+    finestra.apriDaFuori(documentoNominato(GetCommandLineW()));
     return finestra.cicloMessaggi();
 }
 

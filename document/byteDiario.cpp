@@ -55,6 +55,12 @@ void ContenutoRecord::testo(std::wstring_view valore) {
     }
 }
 
+void ContenutoRecord::elemento(const Elemento& valore) {
+    for (const std::wstring_view testo : valore.testi()) {
+        this->testo(testo);
+    }
+}
+
 std::optional<std::uint64_t> LettoreRecord::numero() noexcept {
     std::uint64_t valore = 0;
     for (unsigned scorrimento = 0; scorrimento < 64 && !byte_.empty(); scorrimento += 7) {
@@ -101,6 +107,20 @@ std::optional<std::wstring> LettoreRecord::testo() {
         }
     }
     return valore;
+}
+
+ElementoCondiviso LettoreRecord::elemento() {
+    std::array<std::wstring, numeroCampi> testi;
+    TestiElemento viste;
+    for (std::size_t i = 0; i < testi.size(); ++i) {
+        auto letto = testo();
+        if (!letto) {
+            return nullptr;
+        }
+        testi[i] = std::move(*letto);
+        viste[i] = testi[i];
+    }
+    return creaElemento(viste);
 }
 
 std::string record(TipoRecord tipo, const ContenutoRecord& contenuto, std::uint64_t& catena) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/elemento.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -8,7 +10,7 @@
 #include <string_view>
 #include <utility>
 
-// How numbers, texts and records stand in the bytes of a diary.
+// How numbers, texts, items and records stand in the bytes of a diary and of the clipboard.
 
 // What a record says, put together.
 class ContenutoRecord {
@@ -21,6 +23,8 @@ public:
     void conSegno(std::int64_t valore);
     // Its length and its UTF-16 units.
     void testo(std::wstring_view valore);
+    // Its six texts.
+    void elemento(const Elemento& valore);
 
     [[nodiscard]] const std::string& byte() const noexcept { return byte_; }
 
@@ -38,6 +42,8 @@ public:
     // A number from 0 to `massimo`.
     [[nodiscard]] std::optional<int> piccolo(int massimo) noexcept;
     [[nodiscard]] std::optional<std::wstring> testo();
+    // Null for nothing.
+    [[nodiscard]] ElementoCondiviso elemento();
 
     [[nodiscard]] bool finito() const noexcept { return byte_.empty(); }
 
@@ -53,7 +59,9 @@ enum class TipoRecord : std::uint8_t {
     TestoCanale,
     BozzaAperta,
     TestoBozza,
-    BozzaChiusa
+    BozzaChiusa,
+    // An item on the clipboard; no diary holds one.
+    Appunti
 };
 
 // A record as it stands in the file: its length, a checksum, its kind, what it says. The checksum

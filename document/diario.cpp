@@ -42,26 +42,6 @@ std::optional<TestiCampi> leggiTesti(LettoreRecord& lettore) {
     return quanti ? std::optional(std::move(testi)) : std::nullopt;
 }
 
-void scriviElemento(ContenutoRecord& contenuto, const Elemento& elemento) {
-    for (const std::wstring_view testo : elemento.testi()) {
-        contenuto.testo(testo);
-    }
-}
-
-ElementoCondiviso leggiElemento(LettoreRecord& lettore) {
-    std::array<std::wstring, numeroCampi> testi;
-    TestiElemento viste;
-    for (std::size_t i = 0; i < testi.size(); ++i) {
-        auto testo = lettore.testo();
-        if (!testo) {
-            return nullptr;
-        }
-        testi[i] = std::move(*testo);
-        viste[i] = testi[i];
-    }
-    return creaElemento(viste);
-}
-
 std::optional<DataOra> dataDi(std::int64_t secondi) {
     try {
         return DataOra().piuSecondi(secondi);
@@ -140,7 +120,7 @@ private:
 
     bool elementi(LettoreRecord& lettore) {
         while (!lettore.finito()) {
-            ElementoCondiviso elemento = leggiElemento(lettore);
+            ElementoCondiviso elemento = lettore.elemento();
             if (!elemento || base_.size() == massimoElementi) {
                 return false;
             }
@@ -173,7 +153,7 @@ private:
                    .prima = nullptr,
                    .dopo = nullptr};
         if (m.tipo == Modifica::Tipo::Aggiunta || m.tipo == Modifica::Tipo::Cambio) {
-            m.dopo = leggiElemento(lettore);
+            m.dopo = lettore.elemento();
             if (!m.dopo) {
                 return false;
             }
@@ -256,7 +236,7 @@ void ScrittoreDiario::inizia(const LavoroNonSalvato& lavoro) {
     const int quanti = lavoro.elementi.conteggio();
     ContenutoRecord elementi;
     for (int i = 0; i < quanti; ++i) {
-        scriviElemento(elementi, *lavoro.elementi.elemento(i));
+        elementi.elemento(*lavoro.elementi.elemento(i));
         if (elementi.byte().size() / 2 >= caratteriPerRecord) {
             scrivi(TipoRecord::Elementi, elementi);
             elementi = {};
@@ -280,7 +260,7 @@ void ScrittoreDiario::modifica(const Modifica& modifica, DataOra ultimaData) {
     contenuto.numero(static_cast<std::uint64_t>(modifica.indiceDopo));
     contenuto.conSegno(ultimaData.secondi());
     if (modifica.tipo == Modifica::Tipo::Aggiunta || modifica.tipo == Modifica::Tipo::Cambio) {
-        scriviElemento(contenuto, *modifica.dopo);
+        contenuto.elemento(*modifica.dopo);
     }
     bozza_.reset();
     scrivi(TipoRecord::Modifica, contenuto);

@@ -6,10 +6,16 @@
 #include <utility>
 
 Modifica Documento::aggiunta(ElementoCondiviso elemento) const {
+    return aggiunta(elementi_.conteggio(), std::move(elemento));
+}
+
+Modifica Documento::aggiunta(int indice, ElementoCondiviso elemento) const {
     if (elementi_.piena()) {
         solleva(errori::overflow);
     }
-    const int indice = elementi_.conteggio();
+    if (indice < 0 || indice > elementi_.conteggio()) {
+        solleva(errori::indiceFuoriIntervallo);
+    }
     return {.tipo = Modifica::Tipo::Aggiunta,
             .indice = indice,
             .indiceDopo = indice,

@@ -38,10 +38,11 @@ public:
 
     [[nodiscard]] const TabellaElementi& elementi() const noexcept { return elementi_; }
 
-    // Changes of the table as it is now: a new item at the end, another one in an item's place,
-    // an item gone, an item from `da` to index `a`. Raise error 9 for an index that no item has,
-    // 6 when the table is full.
+    // Changes of the table as it is now: a new item at the end, one that comes to stand at an index
+    // (at most the count), another one in an item's place, an item gone, an item from `da` to index
+    // `a`. Raise error 9 for an index that no item has, 6 when the table is full.
     [[nodiscard]] Modifica aggiunta(ElementoCondiviso elemento) const;
+    [[nodiscard]] Modifica aggiunta(int indice, ElementoCondiviso elemento) const;
     [[nodiscard]] Modifica cambio(int indice, ElementoCondiviso elemento) const;
     [[nodiscard]] Modifica rimozione(int indice) const;
     [[nodiscard]] Modifica spostamento(int da, int a) const;

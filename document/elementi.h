@@ -3,6 +3,9 @@
 #include "document/modifica.h"
 #include "document/tabellaElementi.h"
 
+#include <string>
+#include <string_view>
+
 // What the commands ask of the items, without windows.
 
 // Raises error 6 when the table holds as many items as it can.
@@ -10,6 +13,12 @@ void richiediPosto(const TabellaElementi& tabella);
 
 // Raises 12883 when there is no item to write.
 void richiediElementi(const TabellaElementi& tabella);
+
+// Whether an item bears this guid.
+[[nodiscard]] bool guidPresente(const TabellaElementi& tabella, std::wstring_view guid);
+
+// The guid of a new item of that publication date.
+[[nodiscard]] std::wstring guidNuovo(std::wstring_view pubDate);
 
 // The grid row of an item.
 [[nodiscard]] constexpr int rigaDi(int indice) noexcept {

@@ -96,7 +96,7 @@ private:
 
     void cambiaElementi() {
         const int quanti = documento_.elementi().conteggio();
-        Modifica modifica = documento_.aggiunta(elemento());
+        Modifica modifica = documento_.aggiunta(meno(quanti + 1), elemento());
         if (quanti > 0) {
             switch (meno(4)) {
             case 0:

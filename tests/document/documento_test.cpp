@@ -85,6 +85,8 @@ TEST_F(DocumentoDiProva, OgniModificaHaLaSuaInversa) {
     avantiEIndietro(documento.aggiunta(intitolato(L"a")), L"a;");
     avantiEIndietro(documento.aggiunta(intitolato(L"b")), L"a;b;");
     avantiEIndietro(documento.aggiunta(intitolato(L"c")), L"a;b;c;");
+    avantiEIndietro(documento.aggiunta(1, intitolato(L"d")), L"a;d;b;c;");
+    avantiEIndietro(documento.rimozione(1), L"a;b;c;");
     avantiEIndietro(documento.cambio(1, intitolato(L"x")), L"a;x;c;");
     avantiEIndietro(documento.spostamento(0, 2), L"x;c;a;");
     avantiEIndietro(documento.spostamento(2, 1), L"x;a;c;");
@@ -136,6 +138,10 @@ TEST_F(DocumentoDiProva, CioCheNonCENonSiCambia) {
         EXPECT_EQ(errore([&] { return documento.spostamento(fuori, 0); }), 9);
         EXPECT_EQ(errore([&] { return documento.spostamento(0, fuori); }), 9);
     }
+    for (const int fuori : {-1, 3, 32767}) {
+        EXPECT_EQ(errore([&] { return documento.aggiunta(fuori, elementoVuoto()); }), 9);
+    }
+    EXPECT_EQ(documento.aggiunta(2, elementoVuoto()).indice, 2);
     const Modifica ultima = documento.rimozione(1);
     documento.sostituisci({});
     EXPECT_EQ(errore([&] { return documento.rimozione(0); }), 9);
@@ -145,6 +151,7 @@ TEST_F(DocumentoDiProva, CioCheNonCENonSiCambia) {
     EXPECT_TRUE(orecchio.sentite.empty());
     dimensiona(documento, 32767);
     EXPECT_EQ(errore([&] { return documento.aggiunta(elementoVuoto()); }), 6);
+    EXPECT_EQ(errore([&] { return documento.aggiunta(0, elementoVuoto()); }), 6);
 }
 
 TEST_F(DocumentoDiProva, ChiOsservaSenteOgniModificaASegnoGiaMesso) {
@@ -254,8 +261,9 @@ TEST_F(DocumentoDiProva, OgniSequenzaSegueIlModelloESiDisfaFinoInFondo) {
         const bool cala = passo / 500 % 2 == 1;
         Modifica modifica;
         if (modello.empty() || azione < (cala ? 1U : 3U)) {
-            modifica = documento.aggiunta(intitolato(nome));
-            modello.push_back(nome);
+            const auto dove = static_cast<int>(caso() % (modello.size() + 1));
+            modifica = documento.aggiunta(dove, intitolato(nome));
+            modello.insert(modello.begin() + dove, nome);
         } else if (azione < 4) {
             const int i = scelto();
             modifica = documento.cambio(i, intitolato(nome));

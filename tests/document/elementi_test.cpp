@@ -26,6 +26,25 @@ TEST(ElementiDeiComandi, UnaTabellaVuotaNonSiScrive) {
     EXPECT_EQ(erroreDi([&] { richiediElementi(tabella); }), 0);
 }
 
+TEST(ElementiDeiComandi, UnGuidPresenteEQuelloDiUnElemento) {
+    TabellaElementi tabella;
+    EXPECT_FALSE(guidPresente(tabella, L""));
+    dimensiona(tabella, 3);
+    metti(tabella, CampoElemento::Guid, 2, L"{A}");
+    metti(tabella, CampoElemento::Titolo, 1, L"{B}");
+    EXPECT_TRUE(guidPresente(tabella, L"{A}"));
+    for (const wchar_t* const altro : {L"{B}", L"{a}", L"{A} ", L"{"}) {
+        EXPECT_FALSE(guidPresente(tabella, altro)) << altro;
+    }
+}
+
+TEST(ElementiDeiComandi, UnGuidNuovoHaDavantiLaDataEOgniVoltaEUnAltro) {
+    const std::wstring uno = guidNuovo(L"data");
+    EXPECT_TRUE(uno.starts_with(L"data {"));
+    EXPECT_EQ(uno.size(), 5U + 41U);
+    EXPECT_NE(guidNuovo(L"data"), uno);
+}
+
 TEST(ElementiDeiComandi, DopoUnaModificaSiSceglieLElementoODopoUnaCancellazioneQuelloSopra) {
     using enum Modifica::Tipo;
     const auto riga = [](Modifica::Tipo tipo, int indice, int indiceDopo) {

@@ -177,8 +177,9 @@ TEST(Storia, TuttoAnnullatoDaLaPrimaTabellaTuttoRipetutoLUltima) {
                 ++dove;
             } else {
                 if (che <= 3 || quanti == 0) {
-                    documento.applica(documento.aggiunta(intitolato(nuovo)));
-                    t.push_back(nuovo);
+                    const int i = meno(quanti + 1);
+                    documento.applica(documento.aggiunta(i, intitolato(nuovo)));
+                    t.insert(t.begin() + i, nuovo);
                 } else if (che == 4) {
                     const int i = meno(quanti);
                     documento.applica(documento.cambio(i, intitolato(nuovo)));

@@ -15,6 +15,16 @@ void FrmMain::mnChiudi_Click() {
     }
 }
 
+void FrmMain::apriDaFuori(const std::wstring& percorso) {
+    if (percorso.empty()) {
+        return;
+    }
+    esecutore_.daSolo([&] {
+        SetForegroundWindow(hwnd());
+        parti_.documento.Apri(percorso);
+    });
+}
+
 void FrmMain::cmdGetSize_Click() {
     esecutore_.daSolo([&] {
         protetto(

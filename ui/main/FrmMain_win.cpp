@@ -14,8 +14,10 @@
 #include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
 #include "support/windows/xml_win.h"
+#include "ui/main/apertura_win.h"
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
@@ -86,7 +88,8 @@ FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
              {servizi, *this, documento, campi_, recenti_, custodeCopie_, custodeLavoro_},
              {servizi.messaggi, servizi.editor, documento, custodeLavoro_},
              {servizi, *this, documento, campi_, custodeCopie_},
-             {servizi.messaggi, *this}},
+             {servizi.messaggi, *this},
+             {servizi.messaggi, *this, documento}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
       recupero_(servizi, *this, documento, campi_, parti_.documento, parti_.elementi,
                 custodeLavoro_, avvisi_),
@@ -186,6 +189,9 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
             return 0;
         }
         break;
+    case WM_DROPFILES:
+        apriDaFuori(primoLasciato(reinterpret_cast<HDROP>(w)));
+        return 0;
     case WM_CLOSE:
         esegui(mnChiudi);
         return 0;
@@ -264,6 +270,8 @@ void FrmMain::creaControlli() {
         sollevaWin32();
     }
     avvisi_.prepara(hwnd(), carattere, dpi.y);
+    // What is dropped on a control that takes no files comes to the window around it.
+    DragAcceptFiles(hwnd(), TRUE);
 }
 
 void FrmMain::Form_Load() {

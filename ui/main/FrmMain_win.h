@@ -91,6 +91,11 @@ public:
     bool Apri(const std::wstring& percorso) { return parti_.documento.Apri(percorso); }
     bool Salva(bool conNome) { return parti_.documento.Salva(conNome); }
 
+    // Opens a file as the recent files do, for one that came from outside: the window comes to the
+    // front, since a question may be asked. Ignored for an empty path and while a command is at
+    // work.
+    void apriDaFuori(const std::wstring& percorso);
+
     // Runs a command as menu, toolbar and keys do, on the current row. Ignored while another one is
     // at work.
     void esegui(int comando) { esecutore_.esegui(comando, griglia_.rigaCorrente()); }

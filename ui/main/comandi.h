@@ -36,6 +36,10 @@ enum Comando : std::uint16_t {
     // Keys only too: the last change of the items taken back, or done again.
     annullaPasso,
     ripetiPasso,
+    // Of items, between the grid and the clipboard.
+    taglia,
+    copia,
+    incolla,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
     ultimoRecente = mnrec + 10,

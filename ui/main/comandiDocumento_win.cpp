@@ -19,6 +19,8 @@
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/recenti.h"
 
+#include <shlobj.h>
+
 #include <utility>
 
 namespace {
@@ -27,6 +29,14 @@ const RichiestaFile dlgApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File 
                             opzioniApri, L""};
 const RichiestaFile dlgSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
                              opzioniSalva, L".xml"};
+
+// The file comes to the top of the system's own lists of recent documents, which hold no longer
+// paths.
+void ricordaNelSistema(const std::wstring& percorso) noexcept {
+    if (percorso.size() < MAX_PATH) {
+        SHAddToRecentDocs(SHARD_PATHW, percorso.c_str());
+    }
+}
 
 } // namespace
 
@@ -68,7 +78,12 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
             if (!percorso.empty() && !fileEsiste(percorso)) {
                 solleva(errori::recenteMancante, maiuscolo(percorso));
             }
-            aperto = leggi(percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso);
+            const std::wstring scelto =
+                percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso;
+            aperto = leggi(scelto);
+            if (aperto) {
+                ricordaNelSistema(scelto);
+            }
         },
         [&] { finestra_.MostraErrore(); });
     return aperto;
@@ -137,6 +152,7 @@ bool ComandiDocumento::Salva(bool conNome) {
             finestra_.CaricaRecenti();
             documento_.modificato(false);
             lavoro_.dimentica();
+            ricordaNelSistema(percorso);
         },
         [&] { finestra_.MostraErrore(); });
 }

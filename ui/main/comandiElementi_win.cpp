@@ -3,7 +3,6 @@
 #include "document/clsItemRss.h"
 #include "document/custodeLavoro_win.h"
 #include "document/elementi.h"
-#include "support/programma/ModGlobale.h"
 #include "support/servizi/messaggi.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/guardia_win.h"
@@ -42,7 +41,7 @@ void ComandiElementi::aggiungi(const TestiCampi* bozza) {
         if (!scelta) {
             return;
         }
-        nuovo.sGuid(nuovo.sPubDate() + L' ' + ModGlobale().GeneraIdentificativo());
+        nuovo.sGuid(guidNuovo(nuovo.sPubDate()));
         const Modifica aggiunta = documento_.aggiunta(nuovo.elemento());
         documento_.ultimaData(*scelta);
         documento_.applica(aggiunta);

@@ -153,6 +153,15 @@ constexpr std::array tabella{
                 .tasto = inGriglia(L'Y', Tasto::Controllo),
                 .altroTasto = inGriglia(L'Z', Tasto::ControlloMaiuscole),
                 .esegui = [](Parti& p, int) { p.ripercorri(&Storia::ripeti); }},
+    RigaComando{.comando = taglia,
+                .tasto = inGriglia(L'X', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Taglia(e); }},
+    RigaComando{.comando = copia,
+                .tasto = inGriglia(L'C', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Copia(e); }},
+    RigaComando{.comando = incolla,
+                .tasto = inGriglia(L'V', Tasto::Controllo),
+                .esegui = [](Parti& p, int e) { p.appunti.Incolla(e); }},
 };
 
 constexpr std::array principali{

@@ -2,6 +2,7 @@
 
 #include "document/storia.h"
 #include "ui/main/comandiAiuto_win.h"
+#include "ui/main/comandiAppunti_win.h"
 #include "ui/main/comandiDocumento_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/comandiPagina_win.h"
@@ -22,4 +23,5 @@ struct PartiComandi {
     ComandiElementi elementi;
     ComandiPagina pagina;
     ComandiAiuto aiuto;
+    ComandiAppunti appunti;
 };

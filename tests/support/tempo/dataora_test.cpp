@@ -2,6 +2,9 @@
 
 #include "tests/aiuti/sollevato.h"
 
+#include <cstdint>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -95,6 +98,11 @@ TEST(DataOra, FuoriDagliAnniErrore5) {
     const DataOra ultima = DataOra::daParti(9999, 12, 31, 23, 59, 59);
     EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(1); }).numero, 5);
     EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(0); }).numero, 0);
+    for (const auto enorme :
+         {std::numeric_limits<std::int64_t>::max(), std::numeric_limits<std::int64_t>::min()}) {
+        EXPECT_EQ(sollevatoDa([&] { return DataOra().piuSecondi(enorme); }).numero, 5);
+        EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(enorme); }).numero, 5);
+    }
 }
 
 TEST(DataOra, LeOreDiDifferenzaContanoIConfini) {
