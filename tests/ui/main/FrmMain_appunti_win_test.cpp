@@ -138,7 +138,8 @@ TEST_F(FrmMainAppunti, UnTaglioAnnullatoLasciaIlSuoGuidAlPrimo) {
 TEST_F(FrmMainAppunti, FraDueFinestreIlPrimoCheIncollaTieneIlGuid) {
     taglia();
     Documento altro;
-    FrmMain altra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor}, altro};
+    FrmMain altra{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle},
+                  altro};
     altra.apri(SW_SHOWNORMAL);
     {
         const ConFiltro suo([&](MSG& msg) { return altra.anticipa(msg); });
