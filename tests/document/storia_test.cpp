@@ -19,6 +19,7 @@ ElementoCondiviso intitolato(const std::wstring& titolo) {
 
 std::vector<std::wstring> titoli(const Documento& documento) {
     std::vector<std::wstring> tutti;
+    tutti.reserve(static_cast<std::size_t>(documento.elementi().conteggio()));
     for (int i = 0; i < documento.elementi().conteggio(); ++i) {
         tutti.emplace_back(documento.elementi()(CampoElemento::Titolo, i));
     }
