@@ -2,6 +2,7 @@
 
 #include "support/errori/errore.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -25,11 +26,11 @@ std::wstring dueCifre(int numero) {
 } // namespace
 
 DataOra DataOra::daSecondi(std::int64_t secondi) {
-    DataOra data;
-    data.secondi_ = secondi;
-    if (momento(data) < primo || momento(data) >= oltre) {
+    if (secondi < (primo - zero).count() || secondi >= (oltre - zero).count()) {
         solleva(errori::chiamataNonValida);
     }
+    DataOra data;
+    data.secondi_ = secondi;
     return data;
 }
 
@@ -64,7 +65,9 @@ int DataOra::giornoSettimana() const noexcept {
 }
 
 DataOra DataOra::piuSecondi(std::int64_t secondi) const {
-    return daSecondi(secondi_ + secondi);
+    // The sum has room: it may come from bytes that anybody wrote.
+    constexpr std::int64_t tutti = (oltre - primo).count();
+    return daSecondi(secondi_ + std::clamp(secondi, -tutti, tutti));
 }
 
 int differenzaOre(DataOra da, DataOra a) noexcept {

@@ -2,6 +2,9 @@
 
 #include "tests/aiuti/sollevato.h"
 
+#include <cstdint>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -95,6 +98,12 @@ TEST(DataOra, FuoriDagliAnniErrore5) {
     const DataOra ultima = DataOra::daParti(9999, 12, 31, 23, 59, 59);
     EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(1); }).numero, 5);
     EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(0); }).numero, 0);
+    using Secondi = std::numeric_limits<std::int64_t>;
+    EXPECT_EQ(sollevatoDa([&] { return ultima.piuSecondi(Secondi::max()); }).numero, 5);
+    EXPECT_EQ(sollevatoDa([] { return DataOra().piuSecondi(Secondi::min()); }).numero, 5);
+    const DataOra prima = DataOra::daParti(100, 1, 1);
+    EXPECT_EQ(prima.piuSecondi(ultima.secondi() - prima.secondi()), ultima);
+    EXPECT_EQ(ultima.piuSecondi(prima.secondi() - ultima.secondi()), prima);
 }
 
 TEST(DataOra, LeOreDiDifferenzaContanoIConfini) {
