@@ -8,13 +8,15 @@
 #include <commdlg.h>
 #include <dlgs.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
 namespace {
 
 constexpr DWORD scadenza = 120000; // milliseconds
-constexpr std::size_t massimoCella = 2048;
+constexpr int celleInsieme = 500;
+using Testo = std::array<wchar_t, 1024>;
 
 std::wstring classeDi(HWND finestra) {
     std::array<wchar_t, 64> nome{};
@@ -67,7 +69,7 @@ OstrelleGuidata::OstrelleGuidata(const std::function<void(HANDLE)>& avviata) {
         principale_ = finestraDi(id_, L"OstrelleFrmMain");
         return principale_ != nullptr;
     });
-    memoria_ = VirtualAllocEx(processo(), nullptr, sizeof(LVITEMW) + sizeof(wchar_t) * massimoCella,
+    memoria_ = VirtualAllocEx(processo(), nullptr, celleInsieme * (sizeof(Testo) + sizeof(LVITEMW)),
                               MEM_COMMIT, PAGE_READWRITE);
     calma();
 }
@@ -220,24 +222,47 @@ void OstrelleGuidata::seleziona(int riga) {
 }
 
 std::vector<std::wstring> OstrelleGuidata::righe() const {
-    auto* const testi = static_cast<std::byte*>(memoria_) + sizeof(LVITEMW);
-    std::array<wchar_t, massimoCella> cella{};
-    const auto leggi = [&](int riga, int colonna) {
-        LVITEMW voce{};
-        voce.iSubItem = colonna;
-        voce.pszText = reinterpret_cast<wchar_t*>(testi);
-        voce.cchTextMax = static_cast<int>(massimoCella);
-        WriteProcessMemory(processo(), memoria_, &voce, sizeof voce, nullptr);
-        const auto lungo =
-            static_cast<std::size_t>(chiedi(lista(), LVM_GETITEMTEXTW, static_cast<WPARAM>(riga),
-                                            reinterpret_cast<LPARAM>(memoria_)));
-        ReadProcessMemory(processo(), testi, cella.data(), lungo * sizeof(wchar_t), nullptr);
-        return std::wstring(cella.data(), lungo);
-    };
     const auto quante = static_cast<int>(chiedi(lista(), LVM_GETITEMCOUNT));
     std::vector<std::wstring> righe;
-    for (int riga = 0; riga < quante && leggi(riga, 2) != L"-1"; ++riga) {
-        righe.push_back(leggi(riga, 1));
+    // A short list is filled up with rows of no item.
+    for (int prima = 0; prima < quante; prima += celleInsieme) {
+        const int queste = std::min(celleInsieme, quante - prima);
+        const auto indici = celle(prima, quante < celleInsieme ? queste : 0, 2);
+        for (std::wstring& cella : celle(prima, queste, 1)) {
+            if (!indici.empty() && indici[righe.size()] == L"-1") {
+                return righe;
+            }
+            righe.push_back(std::move(cella));
+        }
     }
     return righe;
+}
+
+// Another process's memory is slow to reach: once for many cells.
+std::vector<std::wstring> OstrelleGuidata::celle(int prima, int quante, int colonna) const {
+    if (quante == 0) {
+        return {};
+    }
+    const auto n = static_cast<std::size_t>(quante);
+    auto* const testi = static_cast<Testo*>(memoria_);
+    auto* const voci = reinterpret_cast<LVITEMW*>(testi + celleInsieme);
+    std::vector<LVITEMW> chieste(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        chieste[i].iSubItem = colonna;
+        chieste[i].pszText = testi[i].data();
+        chieste[i].cchTextMax = static_cast<int>(testi[i].size());
+    }
+    WriteProcessMemory(processo(), voci, chieste.data(), n * sizeof(LVITEMW), nullptr);
+    std::vector<LRESULT> lunghezze;
+    for (std::size_t i = 0; i < n; ++i) {
+        lunghezze.push_back(chiedi(lista(), LVM_GETITEMTEXTW, static_cast<WPARAM>(prima) + i,
+                                   reinterpret_cast<LPARAM>(voci + i)));
+    }
+    std::vector<Testo> letti(n);
+    ReadProcessMemory(processo(), testi, letti.data(), n * sizeof(Testo), nullptr);
+    std::vector<std::wstring> trovate;
+    for (std::size_t i = 0; i < n; ++i) {
+        trovate.emplace_back(letti[i].data(), static_cast<std::size_t>(lunghezze[i]));
+    }
+    return trovate;
 }

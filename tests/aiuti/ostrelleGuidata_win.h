@@ -63,6 +63,7 @@ public:
 private:
     [[nodiscard]] LRESULT chiedi(HWND finestra, UINT messaggio, WPARAM w = 0, LPARAM l = 0) const;
     [[nodiscard]] HWND lista() const;
+    [[nodiscard]] std::vector<std::wstring> celle(int prima, int quante, int colonna) const;
 
     ManigliaOggetto processo_;
     DWORD id_ = 0;
