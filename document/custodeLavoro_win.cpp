@@ -98,17 +98,9 @@ void CustodeLavoro::annotaEditor() {
     if (!testi) {
         return;
     }
-    if (!editorLetto_) {
-        editorLetto_ = true;
-        editor_->testi = std::move(*testi);
-        return;
-    }
-    if (*testi == editor_->testi && !inScrittura_) {
-        return;
-    }
     comincia();
     inScrittura_ = true;
-    scrittore_.bozza({.indice = editor_->indice, .testi = std::move(*testi)});
+    scrittore_.bozza({.indice = *editor_, .testi = std::move(*testi)});
 }
 
 void CustodeLavoro::codaVuota() noexcept {
@@ -124,8 +116,7 @@ void CustodeLavoro::codaVuota() noexcept {
 
 void CustodeLavoro::editorAperto(int indice) noexcept {
     if (!editor_) {
-        editor_ = Bozza{.indice = indice, .testi = {}};
-        editorLetto_ = false;
+        editor_ = indice;
         inScrittura_ = false;
     }
 }
@@ -176,8 +167,7 @@ void CustodeLavoro::riprendi(const LavoroNonSalvato& lavoro) {
     file_ = std::move(nuovo);
     destinazione_ = &*file_;
     if (lavoro.bozza) {
-        editor_ = lavoro.bozza;
-        editorLetto_ = true;
+        editor_ = lavoro.bozza->indice;
         inScrittura_ = true;
     }
 }
@@ -190,7 +180,7 @@ void CustodeLavoro::compatta() {
         scriviTutto(nuovo);
         if (editor_ && inScrittura_) {
             if (auto testi = testi_.editor()) {
-                scrittore_.bozza({.indice = editor_->indice, .testi = std::move(*testi)});
+                scrittore_.bozza({.indice = *editor_, .testi = std::move(*testi)});
             }
         }
     });

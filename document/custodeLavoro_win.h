@@ -18,7 +18,8 @@ public:
     TestiInScrittura& operator=(const TestiInScrittura&) = delete;
 
     [[nodiscard]] virtual TestiCampi canale() const = 0;
-    // Of the item editor that is open; nothing when none is.
+    // Of the item editor that is open, once something was written in it; nothing before, and when
+    // none is open.
     [[nodiscard]] virtual std::optional<TestiCampi> editor() const = 0;
 
 protected:
@@ -89,9 +90,8 @@ private:
     std::uint64_t lunghezzaBase_ = 0;
     DataOra ora_;
     int modifiche_ = 0;
-    // What the editor showed when it opened, once that was read.
-    std::optional<Bozza> editor_;
-    bool editorLetto_ = false;
+    // The index of the item whose editor is open.
+    std::optional<int> editor_;
     // The diary tells of what is being written there.
     bool inScrittura_ = false;
     bool campiCambiati_ = false;

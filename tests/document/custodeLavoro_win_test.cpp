@@ -112,12 +112,10 @@ TEST_F(CustodeLavoroDiProva, UnDocumentoApertoNonELavoro) {
 
 TEST_F(CustodeLavoroDiProva, CioCheSiScriveNellEditorSopravvive) {
     dimensiona(documento, 2);
-    testi.aperto = TestiCampi{L"prima", L"p"};
     custode->editorAperto(1);
     custode->codaVuota();
-    custode->codaVuota();
     EXPECT_EQ(quanti(), 0U) << "nothing was typed";
-    testi.aperto->front() = L"prima parte";
+    testi.aperto = TestiCampi{L"prima parte", L"p"};
     custode->codaVuota();
     testi.aperto->front() = L"prima parte e altro";
     custode->codaVuota();

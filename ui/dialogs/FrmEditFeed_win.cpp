@@ -26,6 +26,7 @@ void FrmEditFeed::mostra(HWND proprietaria) {
 // WM_QUIT.
 bool FrmEditFeed::inizializza() {
     annullato_ = true;
+    riempita_ = false;
     txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
     txtLink_ = CampoTesto(controllo(IDC_EDITLINK));
     txtAutore_ = CampoTesto(controllo(IDC_EDITAUTORE));
@@ -33,7 +34,10 @@ bool FrmEditFeed::inizializza() {
     txtData_ = SelettoreData(controllo(IDC_EDITDATA), SelettoreData::Parte::Data);
     txtOrario_ = SelettoreData(controllo(IDC_EDITORARIO), SelettoreData::Parte::Ora);
     CaricaDati();
+    // Before the user can have typed anything: who types ahead may do so before it is shown.
+    iniziali_ = testi();
     mostraBozza();
+    riempita_ = true;
     return true;
 }
 
@@ -92,6 +96,19 @@ void FrmEditFeed::CaricaDati() {
 TestiCampi FrmEditFeed::testi() const {
     return {txtTitolo_.testo(), txtLink_.testo(), txtAutore_.testo(), txtDescrizione_.testo(),
             comeTesto(combina(txtData_, txtOrario_))};
+}
+
+std::optional<TestiCampi> FrmEditFeed::scritti() const {
+    // A message about the date comes while they are being filled.
+    if (!riempita_) {
+        return std::nullopt;
+    }
+    TestiCampi ora = testi();
+    if (iniziali_ == ora) {
+        return std::nullopt;
+    }
+    iniziali_.reset();
+    return ora;
 }
 
 void FrmEditFeed::mostraBozza() {
@@ -184,5 +201,5 @@ std::optional<TestiCampi> EditorElementiWindows::testi() const {
     if (aperto_ == nullptr || aperto_->hwnd() == nullptr) {
         return std::nullopt;
     }
-    return aperto_->testi();
+    return aperto_->scritti();
 }

@@ -19,10 +19,11 @@ public:
     FrmEditFeed(Messaggi& messaggi, const Orologio& orologio, ::DataOra ultimaData) noexcept
         : messaggi_(messaggi), orologio_(orologio), ultimaData_(ultimaData) {}
 
-    // Texts that were being written, as `testi` gave them: shown instead of what Elemento holds.
+    // Texts that were being written, as `scritti` gave them: shown instead of what Elemento holds.
     void Bozza(const TestiCampi& testi) { bozza_ = testi; }
-    // What the controls show.
-    [[nodiscard]] TestiCampi testi() const;
+    // What the controls show, from the moment on when that is something else than Elemento gave
+    // them.
+    [[nodiscard]] std::optional<TestiCampi> scritti() const;
 
     // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
     // Raises the failure to make it.
@@ -50,6 +51,7 @@ private:
 
     void PulisciCampi() noexcept;
     void mostraBozza();
+    [[nodiscard]] TestiCampi testi() const;
     void cmdSalva_Click();
     void cmdAnnulla_Click();
     // Says that a required field is missing.
@@ -60,9 +62,12 @@ private:
     ::DataOra ultimaData_;
 
     bool annullato_ = true;
+    bool riempita_ = false;
     clsItemRss elemento_;
     ::DataOra dataOra_;
     std::optional<TestiCampi> bozza_;
+    // Until something else was seen in the controls.
+    mutable std::optional<TestiCampi> iniziali_;
 
     CampoTesto txtTitolo_;
     CampoTesto txtLink_;

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] virtual std::optional<DataOra> modifica(clsItemRss& elemento, DataOra ultimaData,
                                                           const TestiCampi* bozza) = 0;
 
-    // What the editor shows that is open; nothing when none is.
+    // What the editor shows that is open, from the moment on when that is not what it was opened
+    // with; nothing before, and when none is open.
     [[nodiscard]] virtual std::optional<TestiCampi> testi() const = 0;
 };
