@@ -7,6 +7,9 @@
 //   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
 //                                        size of that feed, each until the window is painted, and
 //                                        of painting the whole list once
+//   bench_ostrelle diario FILE TIMES     an edit with a diary and one without, in turns
+//   bench_ostrelle copia FILE TIMES      a save that keeps a copy of the old file and one that
+//                                        finds no file, in turns
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
@@ -87,7 +90,8 @@ private:
 // The program as it stands after its start.
 class Programma {
 public:
-    Programma() {
+    explicit Programma(CartelleDati cartelle = cartelleUtente(L"Ostrelle bench"))
+        : cartelle_(std::move(cartelle)) {
         finestra_.apri(SW_SHOW);
         calma();
     }
@@ -99,6 +103,12 @@ public:
         return FindWindowExW(griglia, nullptr, WC_LISTVIEWW, nullptr);
     }
     [[nodiscard]] const TabellaElementi& elementi() const noexcept { return documento_.elementi(); }
+
+    // What closes the notice that is shown.
+    [[nodiscard]] HWND avviso() const {
+        const HWND striscia = FindWindowExW(finestra_.hwnd(), nullptr, L"OstrelleAvvisi", nullptr);
+        return FindWindowExW(striscia, nullptr, L"Button", L"Chiudi avviso");
+    }
 
     // Until nothing is left to do: every message, every paint.
     void calma() {
@@ -125,7 +135,7 @@ private:
     OrologioSistema orologio_;
     ImpostazioniRegistro impostazioni_{prodotto::titolo};
     ClsCodaEliminazione coda_;
-    CartelleDati cartelle_ = cartelleUtente(L"Ostrelle bench");
+    CartelleDati cartelle_;
     EditorVeloce editor_;
     Documento documento_;
     FrmMain finestra_{
@@ -223,6 +233,66 @@ int modifica(const std::wstring& percorso, int volte) {
     return 0;
 }
 
+double modificaUno(Programma& programma, int riga) {
+    programma.finestra().SelezionaRiga(riga);
+    programma.calma();
+    const Cronometro tempo;
+    programma.finestra().esegui(mnEditFeed);
+    programma.calma();
+    return tempo.millisecondi();
+}
+
+int diario(const std::wstring& percorso, int volte) {
+    Programma con({.copie = percorso + L".copie", .diario = percorso + L".diario"});
+    // A folder below a file: no diary can be kept there.
+    Programma senza({.copie = percorso + L".copie", .diario = percorso + L"\\diario"});
+    std::vector<double> tempiCon;
+    std::vector<double> tempiSenza;
+    con.apri(percorso);
+    senza.apri(percorso);
+    const int riga = con.elementi().conteggio() / 2;
+    // The first change makes the diary with all that there is, or says that there can be none.
+    modificaUno(con, riga);
+    modificaUno(senza, riga);
+    SendMessageW(senza.avviso(), BM_CLICK, 0, 0);
+    senza.calma();
+    for (int i = 0; i < volte; ++i) {
+        tempiCon.push_back(modificaUno(con, riga));
+        tempiSenza.push_back(modificaUno(senza, riga));
+    }
+    riporta("con", mediana(std::move(tempiCon)));
+    riporta("senza", mediana(std::move(tempiSenza)));
+    return 0;
+}
+
+int copia(const std::wstring& percorso, int volte) {
+    Programma programma({.copie = percorso + L".copie", .diario = percorso + L".diario"});
+    programma.apri(percorso);
+    const int riga = programma.elementi().conteggio() / 2;
+    const auto salva = [&] {
+        // A file equal to its newest copy would not be copied.
+        modificaUno(programma, riga);
+        const Cronometro tempo;
+        if (!programma.finestra().Salva(false)) {
+            abbandona(L"cannot save");
+        }
+        programma.calma();
+        return tempo.millisecondi();
+    };
+    std::vector<double> tempiCon;
+    std::vector<double> tempiSenza;
+    for (int i = 0; i < volte; ++i) {
+        tempiCon.push_back(salva());
+        if (!DeleteFileW(percorso.c_str())) {
+            abbandona(L"cannot delete");
+        }
+        tempiSenza.push_back(salva());
+    }
+    riporta("con", mediana(std::move(tempiCon)));
+    riporta("senza", mediana(std::move(tempiSenza)));
+    return 0;
+}
+
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
@@ -243,6 +313,10 @@ int wmain(int quanti, wchar_t** argomenti) {
     }
     if (cosa == L"modifica") {
         return modifica(argomenti[2], volte(25));
+    }
+    if ((cosa == L"diario" || cosa == L"copia") && quanti > 3) {
+        const int volte = static_cast<int>(std::wcstol(argomenti[3], nullptr, 10));
+        return cosa == L"diario" ? diario(argomenti[2], volte) : copia(argomenti[2], volte);
     }
     return 2;
 }

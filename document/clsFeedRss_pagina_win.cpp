@@ -14,12 +14,16 @@ namespace {
 // The bytes are complete before the disk is touched.
 void scriviPagina(const std::wstring& path, const std::wstring& testo, CustodeFile* custode) {
     const std::string byte = inAnsiHtml(testo);
+    const auto scrivi = [&] {
+        FileNuovo file(path);
+        file.scrivi(byte);
+        file.conferma();
+    };
     if (fileEsiste(path)) {
-        cancellaConservando(path, custode);
+        sostituisciFile(path, custode, scrivi);
+    } else {
+        scrivi();
     }
-    FileNuovo file(path);
-    file.scrivi(byte);
-    file.conferma();
 }
 
 } // namespace

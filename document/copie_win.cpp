@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -83,6 +86,21 @@ void scarica(const std::wstring& percorso) {
 
 } // namespace
 
+std::optional<std::string> contenutoDi(const std::wstring& percorso) {
+    const ManigliaFile file = apri(percorso);
+    LARGE_INTEGER lungo{};
+    if (!file || !GetFileSizeEx(file.get(), &lungo) || lungo.HighPart != 0) {
+        return std::nullopt;
+    }
+    std::string contenuto(lungo.LowPart, '\0');
+    DWORD letti = 0;
+    if (!ReadFile(file.get(), contenuto.data(), lungo.LowPart, &letti, nullptr) ||
+        letti != lungo.LowPart) {
+        return std::nullopt;
+    }
+    return contenuto;
+}
+
 CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso) const {
     if (!fileEsiste(percorso)) {
         return Esito::NessunFile;
@@ -93,12 +111,43 @@ CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adess
     if (ultima != tenute.end() && uguali(percorso, dove + L'\\' + ultima->nome)) {
         return Esito::GiaTenuta;
     }
+    aggiungi(percorso, adesso, [&](const std::wstring& copia) {
+        if (!CopyFileW(percorso.c_str(), copia.c_str(), TRUE)) {
+            return false;
+        }
+        scarica(copia);
+        return true;
+    });
+    return Esito::Fatta;
+}
+
+void CopieFile::conserva(const std::wstring& percorso, DataOra adesso,
+                         std::string_view contenuto) const {
+    aggiungi(percorso, adesso, [&](const std::wstring& copia) {
+        const ManigliaFile file(CreateFileW(copia.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                            FILE_ATTRIBUTE_NORMAL, nullptr));
+        const auto quanti = static_cast<DWORD>(contenuto.size());
+        DWORD scritti = 0;
+        if (!file || !WriteFile(file.get(), contenuto.data(), quanti, &scritti, nullptr)) {
+            return false;
+        }
+        if (scritti != quanti) {
+            SetLastError(ERROR_DISK_FULL);
+            return false;
+        }
+        return FlushFileBuffers(file.get()) != FALSE;
+    });
+}
+
+// `crea` makes the copy of that name, and says whether it did.
+template <class Crea>
+void CopieFile::aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea) const {
+    const std::wstring dove = cartella(percorso);
     koUtilitaCartelle::CreaPercorsoDirectory(dove);
     const std::wstring ora = oraPerNomi(adesso);
     for (int numero = 1;; ++numero) {
         const std::wstring copia = dove + L'\\' + copie::nomeCopia(ora, numero, percorso);
-        if (CopyFileW(percorso.c_str(), copia.c_str(), TRUE)) {
-            scarica(copia);
+        if (crea(copia)) {
             break;
         }
         const DWORD codice = GetLastError();
@@ -109,7 +158,6 @@ CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adess
         }
     }
     sfoltisci();
-    return Esito::Fatta;
 }
 
 std::wstring CopieFile::cartella(const std::wstring& percorso) const {

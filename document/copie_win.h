@@ -2,8 +2,13 @@
 
 #include "support/tempo/dataora.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+
+// What a file holds; nothing where it cannot be read.
+[[nodiscard]] std::optional<std::string> contenutoDi(const std::wstring& percorso);
 
 // The copies of old files on disk: a folder for each file, below `radice`, made at the first need.
 class CopieFile {
@@ -17,11 +22,15 @@ public:
     // oldest copies go that are too many. `adesso` is the local time. Raises the run-time error of
     // the failure: no copy is kept then, and the file is as it was.
     Esito conserva(const std::wstring& percorso, DataOra adesso) const;
+    // The same of what such a file held.
+    void conserva(const std::wstring& percorso, DataOra adesso, std::string_view contenuto) const;
 
     // The folder with the copies of a file, whether it exists or not.
     [[nodiscard]] std::wstring cartella(const std::wstring& percorso) const;
 
 private:
+    template <class Crea>
+    void aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea) const;
     void sfoltisci() const;
 
     std::wstring radice_;

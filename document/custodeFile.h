@@ -12,6 +12,9 @@ public:
     // Called right before a file that is there is deleted; whatever comes of it, it will be.
     virtual void conserva(const std::wstring& percorso) noexcept = 0;
 
+    // The file that went was not replaced: what was to stand there failed, and nothing does.
+    virtual void nonSostituito(const std::wstring& percorso) noexcept = 0;
+
 protected:
     ~CustodeFile() = default;
 };

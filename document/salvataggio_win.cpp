@@ -35,23 +35,41 @@ std::string coda(const std::wstring& percorso) {
 
 } // namespace
 
-void cancellaConservando(const std::wstring& percorso, CustodeFile* custode) {
+void sostituisciFile(const std::wstring& percorso, CustodeFile* custode,
+                     const std::function<void()>& scrivi) {
     if (custode != nullptr) {
         custode->conserva(percorso);
     }
     cancellaFile(percorso);
+    try {
+        scrivi();
+    } catch (...) {
+        if (custode != nullptr) {
+            custode->nonSostituito(percorso);
+        }
+        throw;
+    }
 }
 
 void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso,
                      CustodeFile* custode) {
+    const auto scrivi = [&] {
+        try {
+            documento.salva(percorso);
+            verificaIntero(percorso);
+        } catch (...) {
+            // Half a document is no file, and takes the room of what may be put away yet.
+            DeleteFileW(percorso.c_str());
+            throw;
+        }
+    };
     if (fileEsiste(percorso)) {
-        cancellaConservando(percorso, custode);
+        sostituisciFile(percorso, custode, scrivi);
     } else {
         // The DOM's own error for a path that cannot be written says nothing of it.
         provaCreazione(percorso);
+        scrivi();
     }
-    documento.salva(percorso);
-    verificaIntero(percorso);
 }
 
 void verificaIntero(const std::wstring& percorso) {

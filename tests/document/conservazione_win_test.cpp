@@ -4,6 +4,7 @@
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/tabella_prova.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,13 @@ public:
         contenuti.push_back(leggiTutto(percorso));
     }
 
+    void nonSostituito(const std::wstring& percorso) noexcept override {
+        mancati.push_back(percorso);
+        EXPECT_FALSE(std::filesystem::exists(percorso));
+    }
+
     std::vector<std::wstring> percorsi;
+    std::vector<std::wstring> mancati;
     std::vector<std::string> contenuti;
 };
 

@@ -26,6 +26,7 @@ CustodeCopie::CustodeCopie(const Servizi& servizi, const FinestraPrincipale& fin
 
 void CustodeCopie::conserva(const std::wstring& percorso) noexcept {
     ignorando([&] {
+        trattenuto_.reset();
         try {
             const bool cambiato =
                 file_ && stessoFile(percorso, documento_.percorso()) && !ancora(*file_, percorso);
@@ -38,6 +39,7 @@ void CustodeCopie::conserva(const std::wstring& percorso) noexcept {
                                 .chiuso = {}});
             }
         } catch (...) {
+            trattenuto_ = contenutoDi(percorso);
             avvisi_.avvisa({.argomento = argomentoCopia,
                             .testo = L"Della versione precedente di «" +
                                      koUtilita::DeterminaSoloFileName(percorso) +
@@ -47,6 +49,16 @@ void CustodeCopie::conserva(const std::wstring& percorso) noexcept {
                             .chiuso = {}});
         }
     });
+}
+
+void CustodeCopie::nonSostituito(const std::wstring& percorso) noexcept {
+    // The room that the file took may be enough for its copy.
+    if (const auto contenuto = std::exchange(trattenuto_, std::nullopt)) {
+        ignorando([&] {
+            copie_.conserva(percorso, orologio_.adesso().locale, *contenuto);
+            avvisi_.ritira(argomentoCopia);
+        });
+    }
 }
 
 void CustodeCopie::nuovoDocumento() {
@@ -68,6 +80,7 @@ void CustodeCopie::aperto(std::optional<StatoFile> file, std::span<const Perdita
 
 void CustodeCopie::salvato() {
     file_ = statoFile(documento_.percorso());
+    trattenuto_.reset();
     avvisi_.ritira(argomentoPerdite);
 }
 

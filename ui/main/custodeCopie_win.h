@@ -28,6 +28,7 @@ public:
                  const Documento& documento, Avvisi& avvisi);
 
     void conserva(const std::wstring& percorso) noexcept override;
+    void nonSostituito(const std::wstring& percorso) noexcept override;
 
     // The document is another one, in no file yet.
     void nuovoDocumento();
@@ -47,4 +48,6 @@ private:
     Avvisi& avvisi_;
     // The document's file as the program knows it.
     std::optional<StatoFile> file_;
+    // What the file held that is being replaced, when no copy could be made of it.
+    std::optional<std::string> trattenuto_;
 };

@@ -5,6 +5,7 @@
 #include "support/windows/file_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/datiLocali_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
 #include "tests/aiuti/programma_prova_win.h"
 #include "tests/aiuti/testi.h"
@@ -44,6 +45,7 @@ constexpr std::array<std::pair<int, const wchar_t*>, 9> canale{{
 
 TEST(Ciclo, NuovoCanaleElementiSalvaChiudiRiapriEConfronta) {
     const CartellaProva cartella;
+    const DatiLocaliProva dati(cartella.file(L"dati"));
     const ChiaveSalvata impostazioni(HKEY_CURRENT_USER,
                                      L"Software\\VB and VBA Program Settings\\Ostrelle");
     const std::wstring feed = cartella.file(L"Il mio feed.xml");
