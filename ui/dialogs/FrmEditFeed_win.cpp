@@ -26,6 +26,7 @@ void FrmEditFeed::mostra(HWND proprietaria) {
 // WM_QUIT.
 bool FrmEditFeed::inizializza() {
     annullato_ = true;
+    iniziali_.clear();
     txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
     txtLink_ = CampoTesto(controllo(IDC_EDITLINK));
     txtAutore_ = CampoTesto(controllo(IDC_EDITAUTORE));
@@ -96,9 +97,14 @@ TestiCampi FrmEditFeed::testi() const {
             comeTesto(combina(txtData_, txtOrario_))};
 }
 
-bool FrmEditFeed::toccato() {
-    toccato_ = toccato_ || testi() != iniziali_;
-    return toccato_;
+std::optional<TestiCampi> FrmEditFeed::scritti() {
+    // Filled already, unless it is being made.
+    if (hwnd() == nullptr || iniziali_.empty()) {
+        return std::nullopt;
+    }
+    TestiCampi adesso = testi();
+    toccato_ = toccato_ || adesso != iniziali_;
+    return toccato_ ? std::optional(std::move(adesso)) : std::nullopt;
 }
 
 void FrmEditFeed::mostraBozza() {
@@ -188,6 +194,5 @@ std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, Dat
 }
 
 std::optional<TestiCampi> EditorElementiWindows::testi() {
-    const bool scritto = aperto_ != nullptr && aperto_->hwnd() != nullptr && aperto_->toccato();
-    return scritto ? std::optional(aperto_->testi()) : std::nullopt;
+    return aperto_ != nullptr ? aperto_->scritti() : std::nullopt;
 }

@@ -23,8 +23,9 @@ public:
     void Bozza(const TestiCampi& testi) { bozza_ = testi; }
     // What the controls show.
     [[nodiscard]] TestiCampi testi() const;
-    // Whether they ever showed, when this was asked, another thing than the item.
-    [[nodiscard]] bool toccato();
+    // The same, once they showed another thing than the item when this was asked; nothing before,
+    // and when there is no window.
+    [[nodiscard]] std::optional<TestiCampi> scritti();
 
     // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
     // Raises the failure to make it.
