@@ -161,6 +161,9 @@ void LavoroACaso::scriviNellEditor(std::optional<std::size_t> quale) {
     const auto prima = testiEditor();
     scrivi(GetDlgItem(finestraEditor_, campiEditor[campo]),
            [&](StatoLavoro& stato, std::wstring testo) {
+               if (!stato.bozza && testo == prima[campo]) {
+                   return; // nothing was there to be taken out
+               }
                stato.bozza = StatoLavoro::Bozza{*editor_, prima};
                stato.bozza->testi[campo] = std::move(testo);
            });
