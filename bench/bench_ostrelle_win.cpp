@@ -7,8 +7,8 @@
 //   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
 //                                        size of that feed, each until the window is painted, and
 //                                        of painting the whole list once
-//   bench_ostrelle diario FILE TIMES     an edit with a diary and one without, in turns
-//   bench_ostrelle copia FILE TIMES      a save that keeps a copy of the old file and one that
+//   bench_ostrelle diario FILE [TIMES]   an edit with a diary and one without, in turns
+//   bench_ostrelle copia FILE [TIMES]    a save that keeps a copy of the old file and one that
 //                                        finds no file, in turns
 
 #include "bench/misure_win.h"
@@ -265,7 +265,7 @@ int diario(const std::wstring& percorso, int volte) {
     return 0;
 }
 
-int copia(const std::wstring& percorso, int volte) {
+int salvaConCopia(const std::wstring& percorso, int volte) {
     Programma programma({.copie = percorso + L".copie", .diario = percorso + L".diario"});
     programma.apri(percorso);
     const int riga = programma.elementi().conteggio() / 2;
@@ -314,9 +314,11 @@ int wmain(int quanti, wchar_t** argomenti) {
     if (cosa == L"modifica") {
         return modifica(argomenti[2], volte(25));
     }
-    if ((cosa == L"diario" || cosa == L"copia") && quanti > 3) {
-        const int volte = static_cast<int>(std::wcstol(argomenti[3], nullptr, 10));
-        return cosa == L"diario" ? diario(argomenti[2], volte) : copia(argomenti[2], volte);
+    if (cosa == L"diario") {
+        return diario(argomenti[2], volte(15));
+    }
+    if (cosa == L"copia") {
+        return salvaConCopia(argomenti[2], volte(3));
     }
     return 2;
 }

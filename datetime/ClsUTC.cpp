@@ -71,7 +71,7 @@ ClsUTC::ClsUTC(const Istante& adesso, FormatoLocale formato)
 
 std::wstring ClsUTC::GetDataUtc(DataOra data, bool bLocale) const {
     if (!bLocale) {
-        data = data.piuSecondi(-std::int64_t{nDiffOre_} * 3600);
+        data = data.piuSecondi(-std::int64_t{nDiffOre()} * 3600);
     }
     const auto p = data.parti();
     std::wstring testo(giorniInglesi[static_cast<std::size_t>(data.giornoSettimana() - 1)]);
@@ -87,9 +87,9 @@ std::wstring ClsUTC::GetDataUtc(DataOra data, bool bLocale) const {
     testo += cifre(p.minuto, 2);
     testo += L':';
     testo += cifre(p.secondo, 2);
-    testo += nDiffOre_ < 0 ? L" -" : L" +";
+    testo += nDiffOre() < 0 ? L" -" : L" +";
     // The signed number: a second minus west of Greenwich.
-    testo += cifre(nDiffOre_ * 100, 4);
+    testo += cifre(nDiffOre() * 100, 4);
     return testo;
 }
 
@@ -109,7 +109,7 @@ DataOra ClsUTC::ToDate(std::wstring_view testo) const {
     Orario orario = leggiOrario(pezzi[3]);
     const auto zona = pezzi[4];
     if (std::ranges::find(zoneUtc, maiuscolo(zona)) != zoneUtc.end()) {
-        orario.ore += nDiffOre_;
+        orario.ore += nDiffOre();
     } else {
         // Only checked for being a number: the clock time is taken as written.
         static_cast<void>(testoAInt16(zona, formato_.lingua));

@@ -29,6 +29,8 @@ public:
         return nDiffOre_ == altro.nDiffOre_ && formato_ == altro.formato_;
     }
 
+    // Hours east of Greenwich, as the clock showed them when this was made.
+    [[nodiscard]] std::int16_t nDiffOre() const noexcept { return nDiffOre_; }
     [[nodiscard]] DataOra adessoLocale() const noexcept { return adesso_.locale; }
 
 private:
