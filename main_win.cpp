@@ -70,9 +70,8 @@ void __verbose_terminate_handler() {
 } // namespace __gnu_cxx
 
 namespace std {
-[[noreturn]] void __glibcxx_assert_fail(const char* /*file*/, int /*riga*/,
-                                        const char* /*funzione*/,
-                                        const char* /*condizione*/) noexcept {
+void __glibcxx_assert_fail(const char* /*file*/, int /*riga*/, const char* /*funzione*/,
+                           const char* /*condizione*/) noexcept {
     std::abort();
 }
 } // namespace std

@@ -23,7 +23,7 @@ std::uint32_t impronta(std::wstring_view testo) noexcept {
     std::uint32_t somma = 0x811C9DC5;
     const auto aggiungi = [&](std::uint32_t byte) { somma = (somma ^ byte) * 0x01000193U; };
     for (const wchar_t c : testo) {
-        const auto unita = static_cast<std::uint16_t>(c);
+        const auto unita = static_cast<char32_t>(c);
         aggiungi(unita & 0xFFU);
         aggiungi((unita >> 8U) & 0xFFU);
     }

@@ -91,13 +91,14 @@ void CustodeLavoro::annotaCampi() {
 }
 
 void CustodeLavoro::annotaEditor() {
-    auto testi = editor_ ? testi_.editor() : std::nullopt;
-    if (!testi) {
+    const std::optional<int> aperto = editor_;
+    auto testi = aperto ? testi_.editor() : std::nullopt;
+    if (!aperto || !testi) {
         return;
     }
     comincia();
     inScrittura_ = true;
-    scrittore_.bozza({.indice = *editor_, .testi = std::move(*testi)});
+    scrittore_.bozza({.indice = *aperto, .testi = std::move(*testi)});
 }
 
 void CustodeLavoro::codaVuota() noexcept {

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <ranges>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -28,8 +30,8 @@ CartellaLunga::~CartellaLunga() {
     for (const std::wstring& percorso : file_) {
         DeleteFileW(esteso(percorso).c_str());
     }
-    for (auto i = cartelle_.rbegin(); i != cartelle_.rend(); ++i) {
-        RemoveDirectoryW(esteso(*i).c_str());
+    for (const std::wstring& cartella : std::views::reverse(cartelle_)) {
+        RemoveDirectoryW(esteso(cartella).c_str());
     }
 }
 

@@ -14,6 +14,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <ranges>
 #include <stdexcept>
 #include <utility>
 
@@ -69,7 +70,7 @@ Copie copieCon(const std::wstring& cartella, std::string_view byte) {
 
 } // namespace
 
-Boia::Boia(HANDLE processo, std::uint32_t microsecondi, std::wstring dopoIlFile)
+Boia::Boia(HANDLE processo, std::uint32_t microsecondi, const std::wstring& dopoIlFile)
     : filo_([=] {
           constexpr microseconds largo(2000);
           constexpr std::chrono::seconds massimo(5);
@@ -276,7 +277,8 @@ StatoLavoro LavoroACaso::osserva(std::vector<std::wstring>& righe) {
         if (GetDlgItem(finestraEditor_, IDC_EDITTITOLO) == nullptr) {
             throw std::runtime_error("a box: " + scatola(*programma_, finestraEditor_));
         }
-        visto.bozza.emplace().testi = testiEditor();
+        visto.bozza = StatoLavoro::Bozza{};
+        visto.bozza->testi = testiEditor();
     }
     return visto;
 }
@@ -285,7 +287,7 @@ void LavoroACaso::riconosci() {
     std::vector<std::wstring> righe;
     const StatoLavoro visto = osserva(righe);
     std::string perche;
-    for (auto questo = possibili_.rbegin(); questo != possibili_.rend(); ++questo) {
+    for (const auto& questo : std::views::reverse(possibili_)) {
         std::string diverso;
         const auto confronta = [&](const std::string& che, std::wstring_view atteso,
                                    std::wstring_view trovato) {
@@ -296,25 +298,25 @@ void LavoroACaso::riconosci() {
         };
         confronta("caption",
                   minuscolo(L"Ostrelle  [" +
-                            (questo->percorso.empty() ? L"Nuovo Documento" : questo->percorso) +
+                            (questo.percorso.empty() ? L"Nuovo Documento" : questo.percorso) +
                             L"]"),
                   minuscolo(visto.percorso));
         for (std::size_t i = 0; i < campiCanale.size(); ++i) {
-            confronta("field " + std::to_string(i), questo->canale[i], visto.canale[i]);
+            confronta("field " + std::to_string(i), questo.canale[i], visto.canale[i]);
         }
-        confronta("items", std::to_wstring(questo->elementi.size()), std::to_wstring(righe.size()));
+        confronta("items", std::to_wstring(questo.elementi.size()), std::to_wstring(righe.size()));
         for (std::size_t i = 0; i < righe.size() && diverso.empty(); ++i) {
-            confronta("item " + std::to_string(i), riga(*questo->elementi[i]), righe[i]);
+            confronta("item " + std::to_string(i), riga(*questo.elementi[i]), righe[i]);
         }
-        confronta("editor", questo->bozza ? L"open" : L"", visto.bozza ? L"open" : L"");
-        for (std::size_t i = 0; i < 4 && questo->bozza && visto.bozza; ++i) {
-            confronta("draft " + std::to_string(i), questo->bozza->testi[i], visto.bozza->testi[i]);
+        confronta("editor", questo.bozza ? L"open" : L"", visto.bozza ? L"open" : L"");
+        for (std::size_t i = 0; i < 4 && questo.bozza && visto.bozza; ++i) {
+            confronta("draft " + std::to_string(i), questo.bozza->testi[i], visto.bozza->testi[i]);
         }
         if (diverso.empty()) {
-            if (questo->bozza) {
-                editor_ = questo->bozza->indice;
+            if (questo.bozza) {
+                editor_ = questo.bozza->indice;
             }
-            stato_ = StatoLavoro(*questo);
+            stato_ = StatoLavoro(questo);
             possibili_ = {stato_};
             storia_ = {stato_.elementi};
             posto_ = 0;

@@ -40,7 +40,7 @@ struct StatoLavoro {
 // Ends a process, once: a while from now or after a file has gone.
 class Boia {
 public:
-    Boia(HANDLE processo, std::uint32_t microsecondi, std::wstring dopoIlFile = {});
+    Boia(HANDLE processo, std::uint32_t microsecondi, const std::wstring& dopoIlFile = {});
     Boia(const Boia&) = delete;
     Boia& operator=(const Boia&) = delete;
     ~Boia() { filo_.join(); }

@@ -23,7 +23,7 @@ protected:
         return contenuti;
     }
     std::wstring apriFeed(std::string_view resto = "") {
-        const std::wstring feed =
+        std::wstring feed =
             cartella.scrivi(L"notizie.xml", rssCon("<title>C</title>" + std::string(resto) +
                                                    "<item><title>uno</title></item>"));
         EXPECT_TRUE(finestra.Apri(feed));

@@ -12,6 +12,11 @@
 namespace {
 
 class FrmMainRecupero : public ProvaFrmMain {
+public:
+    FrmMainRecupero() = default;
+    FrmMainRecupero(const FrmMainRecupero&) = delete;
+    FrmMainRecupero& operator=(const FrmMainRecupero&) = delete;
+
 protected:
     ~FrmMainRecupero() override { chiudiSeconda(); }
 
