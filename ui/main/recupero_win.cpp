@@ -25,9 +25,10 @@ void Recupero::proponi() {
         if (percorso == custode_.diario() || std::ranges::find(visti_, percorso) != visti_.end()) {
             continue;
         }
-        offerto_ = FileDiario::prendi(percorso);
-        if (offerto_) {
+        if (auto preso = FileDiario::prendi(percorso)) {
             visti_.push_back(percorso);
+            lettura_ = leggiDiario(preso->leggi());
+            offerto_ = std::move(preso);
             offri(percorso);
             return;
         }
@@ -35,7 +36,6 @@ void Recupero::proponi() {
 }
 
 void Recupero::offri(const std::wstring& percorso) {
-    lettura_ = leggiDiario(offerto_->leggi());
     const std::wstring nome = koUtilitaPercorsi::DeterminaSoloFileName(percorso);
     const PulsanteAvviso recuperare{.didascalia = L"Recupera",
                                     .azione = [this] { return recupera(); }};
@@ -87,15 +87,18 @@ bool Recupero::recupera() {
     if (!comandi_.ChiediSalvataggio()) {
         return false;
     }
-    const LavoroNonSalvato lavoro = std::move(*std::exchange(lettura_, {}).lavoro);
-    FileDiario diario = std::move(*std::exchange(offerto_, std::nullopt));
-    riempi(lavoro);
+    auto diario = std::exchange(offerto_, std::nullopt);
+    const auto lavoro = std::exchange(lettura_, {}).lavoro;
+    if (!diario || !lavoro) {
+        return true;
+    }
+    riempi(*lavoro);
     // From here on the work has a diary of this program.
-    custode_.riprendi(lavoro);
-    diario.elimina();
+    custode_.riprendi(*lavoro);
+    diario->elimina();
     avvisi_.ritira(argomentoRecupero);
-    if (lavoro.bozza) {
-        elementi_.riprendi(*lavoro.bozza);
+    if (lavoro->bozza) {
+        elementi_.riprendi(*lavoro->bozza);
     }
     proponi();
     return true;
