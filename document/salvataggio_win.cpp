@@ -54,12 +54,16 @@ void sostituisciFile(const std::wstring& percorso, CustodeFile* custode,
 void sostituisciFile(const DocumentoXml& documento, const std::wstring& percorso,
                      CustodeFile* custode) {
     const auto scrivi = [&] {
+        // A hidden file is no file to a listing; it is the user's all the same.
+        const bool libero = GetFileAttributesW(percorso.c_str()) == INVALID_FILE_ATTRIBUTES;
         try {
             documento.salva(percorso);
             verificaIntero(percorso);
         } catch (...) {
             // Half a document is no file, and takes the room of what may be put away yet.
-            DeleteFileW(percorso.c_str());
+            if (libero) {
+                DeleteFileW(percorso.c_str());
+            }
             throw;
         }
     };

@@ -397,3 +397,19 @@ TEST(ParserXml, SeMancaLErroreE429) {
     }
     EXPECT_EQ(leggiTutto(esistente), rssCon(""));
 }
+
+// A listing does not show it, so the save takes the path for a free one.
+TEST_F(Scrittura, UnSalvataggioFallitoLasciaIlFileNascostoCheCEra) {
+    metti(d.items, Titolo, 0, L"a");
+    percorso = cartella.scrivi(L"nascosto.xml", "del suo padrone");
+    SetFileAttributesW(percorso.c_str(), FILE_ATTRIBUTE_HIDDEN);
+    {
+        // Another program reads it, and would let it be deleted.
+        const ManigliaFile altrui(CreateFileW(percorso.c_str(), GENERIC_READ,
+                                              FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                                              OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(altrui);
+        EXPECT_NE(d.provaScrivi(percorso).numero, 0);
+    }
+    EXPECT_EQ(leggiTutto(percorso), "del suo padrone");
+}
