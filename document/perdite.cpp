@@ -1,11 +1,13 @@
 #include "document/perdite.h"
 
+#include "document/canale.h"
+#include "document/clsItemRss.h"
 #include "document/scansioneXml.h"
 #include "document/sostituzioni.h"
+#include "support/caratteri/codifica.h"
 #include "support/programma/prodotto.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 
 namespace {
@@ -74,11 +76,14 @@ struct Livello {
     Nodo ultimo = Nodo::Altro;
 };
 
-constexpr std::array<std::string_view, 8> figliCanale{
-    "title", "link", "description", "language", "copyright", "lastBuildDate", "webMaster", "image"};
-constexpr std::array<std::string_view, 5> figliImmagine{"title", "url", "link", "width", "height"};
-constexpr std::array<std::string_view, 6> figliElemento{"title",  "link",    "description",
-                                                        "author", "pubDate", "guid"};
+// The elements of a table of fields, as the bytes have them, and one more.
+template <class Voci>
+std::vector<std::string> nomiDi(const Voci& voci, std::vector<std::string> nomi = {}) {
+    for (const auto& voce : voci) {
+        nomi.push_back(comeUtf8(voce.nodo));
+    }
+    return nomi;
+}
 
 class Esaminatore final : public LettoreMarcatori {
 public:
@@ -165,11 +170,11 @@ private:
             if (nome == "item") {
                 return Ruolo::Elemento;
             }
-            return figlioNoto(padre, nome, figliCanale);
+            return figlioNoto(padre, nome, figliCanale_);
         case Ruolo::Immagine:
-            return figlioNoto(padre, nome, figliImmagine);
+            return figlioNoto(padre, nome, figliImmagine_);
         case Ruolo::Elemento:
-            return figlioNoto(padre, nome, figliElemento);
+            return figlioNoto(padre, nome, figliElemento_);
         case Ruolo::Descrizione:
             pezzo(padre, Nodo::Altro);
             return Ruolo::Ignoto;
@@ -182,8 +187,7 @@ private:
         return Ruolo::Ignoto;
     }
 
-    Ruolo figlioNoto(Livello& padre, std::string_view nome,
-                     std::span<const std::string_view> noti) {
+    Ruolo figlioNoto(Livello& padre, std::string_view nome, std::span<const std::string> noti) {
         const auto trovato = std::ranges::find(noti, nome);
         if (trovato == noti.end()) {
             conta_.aggiungi(nome);
@@ -246,6 +250,9 @@ private:
     }
 
     const std::wstring commentoNostro_ = prodotto::commentoFeed();
+    const std::vector<std::string> figliCanale_ = nomiDi(vociCanale, {"image"});
+    const std::vector<std::string> figliImmagine_{"title", "url", "link", "width", "height"};
+    const std::vector<std::string> figliElemento_ = nomiDi(vociElemento);
     std::vector<Livello> livelli_{1};
     Conta conta_;
     Sostituzioni sostituzioni_;

@@ -1,5 +1,7 @@
 #include "document/scansioneXml.h"
 
+#include "support/caratteri/codifica.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -26,27 +28,6 @@ private:
     const std::byte* byte_;
     std::size_t quante_;
 };
-
-void aggiungiUtf8(std::string& testo, std::uint32_t punto) {
-    const auto coda = [&](unsigned spostamento) {
-        testo += static_cast<char>(0x80U | ((punto >> spostamento) & 0x3FU));
-    };
-    if (punto < 0x80) {
-        testo += static_cast<char>(punto);
-    } else if (punto < 0x800) {
-        testo += static_cast<char>(0xC0U | (punto >> 6U));
-        coda(0);
-    } else if (punto < 0x10000) {
-        testo += static_cast<char>(0xE0U | (punto >> 12U));
-        coda(6);
-        coda(0);
-    } else {
-        testo += static_cast<char>(0xF0U | (punto >> 18U));
-        coda(12);
-        coda(6);
-        coda(0);
-    }
-}
 
 constexpr std::size_t unitaPerBlocco = 32;
 

@@ -37,22 +37,23 @@ char32_t leggiCarattere(std::wstring_view testo, std::size_t& posizione) noexcep
     return primo;
 }
 
-std::string comeUtf8(std::wstring_view testo) {
+void aggiungiUtf8(std::string& testo, char32_t punto) {
     // What the first byte begins with, by the number of bytes.
     constexpr std::array<char32_t, 4> testa{0x00, 0xC0, 0xE0, 0xF0};
+    std::size_t resto = byteUtf8(punto) - 1;
+    testo += static_cast<char>(testa[resto] | (punto >> (6 * resto)));
+    while (resto > 0) {
+        --resto;
+        testo += static_cast<char>(0x80 | ((punto >> (6 * resto)) & 0x3F));
+    }
+}
+
+std::string comeUtf8(std::wstring_view testo) {
     constexpr char32_t sostituto = 0xFFFD;
     std::string risultato;
     for (std::size_t posizione = 0; posizione < testo.size();) {
-        char32_t c = leggiCarattere(testo, posizione);
-        if (surrogatoAlto(c) || surrogatoBasso(c)) {
-            c = sostituto;
-        }
-        std::size_t resto = byteUtf8(c) - 1;
-        risultato += static_cast<char>(testa[resto] | (c >> (6 * resto)));
-        while (resto > 0) {
-            --resto;
-            risultato += static_cast<char>(0x80 | ((c >> (6 * resto)) & 0x3F));
-        }
+        const char32_t c = leggiCarattere(testo, posizione);
+        aggiungiUtf8(risultato, surrogatoAlto(c) || surrogatoBasso(c) ? sostituto : c);
     }
     return risultato;
 }

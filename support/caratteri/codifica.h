@@ -20,6 +20,9 @@ void aggiungiCarattere(std::wstring& testo, char32_t punto);
     return punto < 0x10000 ? 3 : 4;
 }
 
+// The code point in UTF-8, appended.
+void aggiungiUtf8(std::string& testo, char32_t punto);
+
 // The text as UTF-8; a lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string comeUtf8(std::wstring_view testo);
 
