@@ -64,7 +64,10 @@ public:
     int cicloMessaggi();
 
     // Nothing is left to do: what waited for that is done.
-    void codaVuota() noexcept { custodeLavoro_.codaVuota(); }
+    void codaVuota() noexcept {
+        custodeLavoro_.codaVuota();
+        parti_.documento.codaVuota();
+    }
 
     // What a message meets before it is translated and dispatched: accelerators, then the dialog
     // keys. True when one of them took it.

@@ -19,8 +19,6 @@
 #include "ui/main/finestraPrincipale_win.h"
 #include "ui/main/recenti.h"
 
-#include <shlobj.h>
-
 #include <utility>
 
 namespace {
@@ -29,14 +27,6 @@ const RichiestaFile dlgApri{L"File RSS (*.rss; *.xml)|*.rss; *.xml|Tutti i File 
                             opzioniApri, L""};
 const RichiestaFile dlgSalva{L"File RSS (*.xml; *.rss)|*.xml; *.rss|Tutti i File (*.*)|*.*",
                              opzioniSalva, L".xml"};
-
-// The file comes to the top of the system's own lists of recent documents, which hold no longer
-// paths.
-void ricordaNelSistema(const std::wstring& percorso) noexcept {
-    if (percorso.size() < MAX_PATH) {
-        SHAddToRecentDocs(SHARD_PATHW, percorso.c_str());
-    }
-}
 
 } // namespace
 
@@ -82,7 +72,7 @@ bool ComandiDocumento::Apri(const std::wstring& percorso) {
                 percorso.empty() ? servizi_.dialoghi.apri(dlgApri) : percorso;
             aperto = leggi(scelto);
             if (aperto) {
-                ricordaNelSistema(scelto);
+                recentiSistema_.ricorda(scelto);
             }
         },
         [&] { finestra_.MostraErrore(); });
@@ -152,7 +142,7 @@ bool ComandiDocumento::Salva(bool conNome) {
             finestra_.CaricaRecenti();
             documento_.modificato(false);
             lavoro_.dimentica();
-            ricordaNelSistema(percorso);
+            recentiSistema_.ricorda(percorso);
         },
         [&] { finestra_.MostraErrore(); });
 }

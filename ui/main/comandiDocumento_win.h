@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/main/recentiSistema_win.h"
 #include "ui/main/servizi.h"
 
 #include <cstddef>
@@ -39,6 +40,9 @@ public:
     // An entry of the recent files, from 1.
     void mnrec_Click(std::size_t posizione);
 
+    // Nothing is left to do: what waited for that is done.
+    void codaVuota() noexcept { recentiSistema_.codaVuota(); }
+
 private:
     // False when a field refused what it was given, which was told; the items are there all the
     // same. Raises what makes the file unreadable, the document then empty.
@@ -52,4 +56,5 @@ private:
     ElencoRecenti& recenti_;
     CustodeCopie& copie_;
     CustodeLavoro& lavoro_;
+    RecentiSistema recentiSistema_;
 };
