@@ -38,6 +38,10 @@
 #define IDC_EDITDESCRIZIONE 2005
 #define IDC_EDITDATA 2006
 #define IDC_EDITORARIO 2007
+#define IDC_LBLDATA 2008
+#define IDC_LBLORA 2009
+// The guide; no control has this number.
+#define IDC_GUIDA 2010
 #define IDC_CMDSALVA 1
 #define IDC_CMDANNULLA 2
 

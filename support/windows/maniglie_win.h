@@ -50,6 +50,7 @@ using ChiaveRegistro = Maniglia<HKEY, RegCloseKey>;
 using Libreria = Maniglia<HMODULE, FreeLibrary>;
 using ManigliaMenu = Maniglia<HMENU, DestroyMenu>;
 using Acceleratori = Maniglia<HACCEL, DestroyAcceleratorTable>;
+using Gancio = Maniglia<HHOOK, UnhookWindowsHookEx>;
 using Cursore = Maniglia<HCURSOR, DestroyCursor>;
 using ManigliaIcona = Maniglia<HICON, DestroyIcon>;
 using Carattere = Maniglia<HFONT, DeleteObject>;

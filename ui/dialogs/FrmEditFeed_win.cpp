@@ -8,13 +8,38 @@
 #include "support/servizi/messaggi.h"
 #include "support/servizi/orologio.h"
 #include "support/testi/testo.h"
+#include "support/utilita/guida_win.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/guardia_win.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <utility>
 
 static_assert(IDC_CMDSALVA == IDOK && IDC_CMDANNULLA == IDCANCEL);
+
+namespace {
+
+constexpr std::array<ControlloAncorato, 11> ancorati{{
+    {IDC_FRAMEEDIT, Ancoraggio::SiAllargaESiAllunga},
+    {IDC_EDITTITOLO, Ancoraggio::SiAllarga},
+    {IDC_EDITLINK, Ancoraggio::SiAllarga},
+    {IDC_EDITAUTORE, Ancoraggio::SiAllarga},
+    {IDC_EDITDESCRIZIONE, Ancoraggio::SiAllargaESiAllunga},
+    {IDC_LBLDATA, Ancoraggio::Scende},
+    {IDC_EDITDATA, Ancoraggio::Scende},
+    {IDC_LBLORA, Ancoraggio::Scende},
+    {IDC_EDITORARIO, Ancoraggio::Scende},
+    {IDC_CMDSALVA, Ancoraggio::ScendeESiSposta},
+    {IDC_CMDANNULLA, Ancoraggio::ScendeESiSposta},
+}};
+
+constexpr std::array<ACCEL, 3> tasti{{{FVIRTKEY | FCONTROL, 'S', IDC_CMDSALVA},
+                                      {FVIRTKEY | FCONTROL, VK_RETURN, IDC_CMDSALVA},
+                                      {FVIRTKEY, VK_F1, IDC_GUIDA}}};
+
+} // namespace
 
 void FrmEditFeed::mostra(HWND proprietaria) {
     mostraModale(IDD_FRMEDITFEED, proprietaria);
@@ -27,6 +52,8 @@ void FrmEditFeed::mostra(HWND proprietaria) {
 bool FrmEditFeed::inizializza() {
     annullato_ = true;
     iniziali_.clear();
+    ancoraggi_ = Ancoraggi(hwnd(), ancorati);
+    tasti_ = TastiDialogo(hwnd(), tasti);
     txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
     txtLink_ = CampoTesto(controllo(IDC_EDITLINK));
     txtAutore_ = CampoTesto(controllo(IDC_EDITAUTORE));
@@ -37,22 +64,78 @@ bool FrmEditFeed::inizializza() {
     iniziali_ = testi();
     toccato_ = false;
     mostraBozza();
+    applicaMisura();
     return true;
 }
 
-INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM /*lParam*/) {
-    if (msg != WM_COMMAND || HIWORD(wParam) != BN_CLICKED) {
-        return FALSE;
+// The dialog keeps its middle, as far as that leaves it on the screen.
+void FrmEditFeed::applicaMisura() const noexcept {
+    if (!misura_) {
+        return;
     }
-    switch (LOWORD(wParam)) {
-    case IDC_CMDSALVA:
-        cmdSalva_Click();
+    MONITORINFO schermo{};
+    schermo.cbSize = sizeof schermo;
+    GetMonitorInfoW(MonitorFromWindow(hwnd(), MONITOR_DEFAULTTONEAREST), &schermo);
+    const RECT& area = schermo.rcWork;
+    const POINT minima = ancoraggi_.misuraMinima();
+    RECT r{};
+    GetWindowRect(hwnd(), &r);
+    const LONG larghezza = std::max(minima.x, std::min(misura_->misura.cx, area.right - area.left));
+    const LONG altezza = std::max(minima.y, std::min(misura_->misura.cy, area.bottom - area.top));
+    const LONG sinistra = (r.left + r.right - larghezza) / 2;
+    const LONG alto = (r.top + r.bottom - altezza) / 2;
+    SetWindowPos(hwnd(), nullptr, std::max(area.left, std::min(sinistra, area.right - larghezza)),
+                 std::max(area.top, std::min(alto, area.bottom - altezza)), larghezza, altezza,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    if (misura_->tutta) {
+        ShowWindow(hwnd(), SW_MAXIMIZE);
+    }
+}
+
+void FrmEditFeed::ricordaMisura() noexcept {
+    WINDOWPLACEMENT posto{};
+    posto.length = sizeof posto;
+    if (GetWindowPlacement(hwnd(), &posto) != FALSE) {
+        const RECT& r = posto.rcNormalPosition;
+        misura_ = {{r.right - r.left, r.bottom - r.top}, IsZoomed(hwnd()) != FALSE};
+    }
+}
+
+INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
+    switch (msg) {
+    case WM_SIZE:
+        ancoraggi_.disponi();
         return TRUE;
-    case IDC_CMDANNULLA: // the close box too
-        cmdAnnulla_Click();
+    case WM_GETMINMAXINFO:
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = ancoraggi_.misuraMinima();
         return TRUE;
+    case WM_DESTROY:
+        ricordaMisura();
+        return FALSE;
+    case WM_COMMAND:
+        return comando(LOWORD(wParam), HIWORD(wParam)) ? TRUE : FALSE;
     default:
         return FALSE;
+    }
+}
+
+bool FrmEditFeed::comando(int id, int notifica) {
+    // A button that was pressed, or a key.
+    if (notifica != BN_CLICKED && notifica != 1) {
+        return false;
+    }
+    switch (id) {
+    case IDC_CMDSALVA:
+        cmdSalva_Click();
+        return true;
+    case IDC_CMDANNULLA: // the close box too
+        cmdAnnulla_Click();
+        return true;
+    case IDC_GUIDA:
+        apriGuida(messaggi_, hwnd());
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -184,8 +267,12 @@ std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, Dat
     if (bozza != nullptr) {
         editor.Bozza(*bozza);
     }
-    const Prestito<FrmEditFeed*> aperto(aperto_, &editor);
-    editor.mostra(GetActiveWindow());
+    editor.Misura(misura_);
+    {
+        const Prestito<FrmEditFeed*> aperto(aperto_, &editor);
+        editor.mostra(GetActiveWindow());
+    }
+    misura_ = editor.Misura();
     if (editor.Annullato()) {
         return std::nullopt;
     }

@@ -3,13 +3,21 @@
 #include "document/clsItemRss.h"
 #include "document/diario.h"
 #include "support/tempo/dataora.h"
+#include "ui/controls/ancoraggi_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
 #include "ui/controls/selettoreData_win.h"
+#include "ui/controls/tastiDialogo_win.h"
 #include "ui/dialogs/editorElementi.h"
 
 class Messaggi;
 class Orologio;
+
+// The size that the user gave the editor, frame and all, in pixels; `tutta` over it all the screen.
+struct MisuraEditor {
+    SIZE misura{};
+    bool tutta = false;
+};
 
 // The modal dialog that edits one item: fill Elemento, then mostra, then read Annullato and, where
 // it is false, Elemento and DataOra. The three stay readable after the window is gone.
@@ -26,6 +34,11 @@ public:
     // The same, once they showed another thing than the item when this was asked; nothing before,
     // and when there is no window.
     [[nodiscard]] std::optional<TestiCampi> scritti();
+
+    // The size to show the dialog with, no less than it needs and no more than there is room for;
+    // then the one that it had when it was closed.
+    [[nodiscard]] const std::optional<MisuraEditor>& Misura() const noexcept { return misura_; }
+    void Misura(const std::optional<MisuraEditor>& valore) noexcept { misura_ = valore; }
 
     // Shows the dialog over `proprietaria` with what Elemento holds and waits until it was closed.
     // Raises the failure to make it.
@@ -53,6 +66,10 @@ private:
 
     void PulisciCampi() noexcept;
     void mostraBozza();
+    void applicaMisura() const noexcept;
+    void ricordaMisura() noexcept;
+    // A command by its number; what sent it, as WM_COMMAND says.
+    [[nodiscard]] bool comando(int id, int notifica);
     void cmdSalva_Click();
     void cmdAnnulla_Click();
     // Says that a required field is missing.
@@ -68,6 +85,9 @@ private:
     std::optional<TestiCampi> bozza_;
     TestiCampi iniziali_;
     bool toccato_ = false;
+    std::optional<MisuraEditor> misura_;
+    Ancoraggi ancoraggi_;
+    TastiDialogo tasti_;
 
     CampoTesto txtTitolo_;
     CampoTesto txtLink_;
@@ -92,4 +112,6 @@ private:
     const Orologio& orologio_;
     // While it is shown.
     FrmEditFeed* aperto_ = nullptr;
+    // The last one's.
+    std::optional<MisuraEditor> misura_;
 };

@@ -1,25 +1,13 @@
 #include "ui/main/comandiAiuto_win.h"
 
 #include "support/programma/prodotto.h"
-#include "support/servizi/messaggi.h"
+#include "support/utilita/guida_win.h"
 #include "support/utilita/koUtilita.h"
-#include "support/windows/file_win.h"
-#include "support/windows/guardia_win.h"
 #include "ui/dialogs/frmAbout_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 
-std::wstring fileGuida() {
-    std::wstring cartella = cartellaProgramma();
-    std::wstring nome = nomeProgramma();
-    nome.resize(std::min(nome.rfind(L'.'), nome.size()));
-    const std::wstring base = koUtilita::AggiungiSepDir(cartella) + nome;
-    return fileEsiste(base + L".hlp") ? base + L".hlp" : base + L".htm";
-}
-
 void ComandiAiuto::mnGuida_Click() {
-    const koUtilita utilita(messaggi_);
-    protetto([&] { utilita.EseguiEx(finestra_.proprietaria(), fileGuida()); },
-             [&] { utilita.PrintErrore(); });
+    apriGuida(messaggi_, finestra_.proprietaria());
 }
 
 void ComandiAiuto::mniaco_Click() {

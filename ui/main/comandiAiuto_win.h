@@ -1,13 +1,7 @@
 #pragma once
 
-#include <string>
-
 class FinestraPrincipale;
 class Messaggi;
-
-// The help file of the program: its own path with ".hlp" for ".exe", or with ".htm" where there is
-// no such file.
-[[nodiscard]] std::wstring fileGuida();
 
 // The commands of the "?" menu: the help file, the maker's pages, the mail to the author, the about
 // box. Failures are reported.

@@ -4,6 +4,7 @@
 #include "tests/aiuti/spia_win.h"
 #include "tests/aiuti/testi.h"
 
+#include "support/utilita/guida_win.h"
 #include "support/windows/file_win.h"
 
 #include <commctrl.h>
