@@ -117,27 +117,35 @@ LRESULT Griglia::notifica(NMHDR& avviso) {
             allinea();
         }
         return 0;
-    case LVN_ODFINDITEMW:
-        return -1;
+    case LVN_ODFINDITEMW: {
+        const auto& cercata = reinterpret_cast<const NMLVFINDITEMW&>(avviso);
+        return (cercata.lvfi.flags & LVFI_PARTIAL) == 0 || cercata.lvfi.psz == nullptr
+                   ? -1
+                   : righe_.cheIniziaCon(cercata.lvfi.psz, cercata.iStart + 1) - 1;
+    }
     default:
         return 0;
     }
 }
 
 void Griglia::disegna(const DRAWITEMSTRUCT& disegno) const {
-    const int indice = static_cast<int>(disegno.itemID);
+    AspettoGriglia::Posto dove = posto(disegno.rcItem);
+    dove.selezionata = (disegno.itemState & ODS_SELECTED) != 0;
+    dove.fuoco = GetFocus() == lista_;
+    aspetto_.disegna(disegno.hDC, righe_, static_cast<int>(disegno.itemID) + 1, dove);
+}
+
+AspettoGriglia::Posto Griglia::posto(const RECT& riga) const noexcept {
     RECT client{};
     GetClientRect(lista_, &client);
     AspettoGriglia::Posto posto{};
-    posto.data = disegno.rcItem;
+    posto.data = riga;
     posto.data.right = posto.data.left + ListView_GetColumnWidth(lista_, 0);
-    posto.contenuto = disegno.rcItem;
+    posto.contenuto = riga;
     posto.contenuto.left = posto.data.right;
     // The index column is never painted: what is to be seen of it belongs to the contents.
     posto.contenuto.right = client.right;
-    posto.selezionata = (disegno.itemState & ODS_SELECTED) != 0;
-    posto.fuoco = GetFocus() == lista_;
-    aspetto_.disegna(disegno.hDC, righe_, indice + 1, posto);
+    return posto;
 }
 
 void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
@@ -198,6 +206,7 @@ void Griglia::completa() {
 }
 
 void Griglia::numeroRighe() noexcept {
+    suggerimento_.nascondi();
     const Alzata allineando(allineando_);
     ListView_SetItemCountEx(lista_, righe_.righe() - 1, 0);
 }

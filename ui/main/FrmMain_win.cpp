@@ -80,7 +80,8 @@ FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
                                           {servizi, *this, documento, campi_, recenti_},
                                           {servizi.messaggi, servizi.editor, documento},
                                           {servizi, *this, documento, campi_},
-                                          {servizi.messaggi, *this}},
+                                          {servizi.messaggi, *this},
+                                          {*this, documento}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
       acceleratori_(creaAcceleratori(Tasto::Ovunque)),
       acceleratoriGriglia_(creaAcceleratori(Tasto::Griglia)) {
@@ -120,7 +121,7 @@ int FrmMain::cicloMessaggi() {
 
 bool FrmMain::anticipa(MSG& msg) {
     if (hwnd() == nullptr || (msg.hwnd != hwnd() && !IsChild(hwnd(), msg.hwnd))) {
-        return false;
+        return hwnd() != nullptr && parti_.ricerca.anticipa(msg);
     }
     if (GetCapture() == griglia_.lista()) {
         // While a row is dragged the keys are the grid's.
@@ -221,7 +222,16 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         Form_Unload();
         PostQuitMessage(0);
         return 0;
+    case WM_ENABLE:
+        parti_.ricerca.abilita(w != FALSE);
+        break;
     default:
+        if (const auto comando = parti_.ricerca.richiesta(codice, l)) {
+            if (*comando != nessunComando) {
+                esegui(*comando);
+            }
+            return 0;
+        }
         break;
     }
     return predefinito(codice, w, l);

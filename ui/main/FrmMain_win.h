@@ -44,12 +44,12 @@ public:
     // Runs messages until the window is gone; gives the program's exit code.
     int cicloMessaggi();
 
-    // What a message meets before it is translated and dispatched: accelerators, then the dialog
-    // keys. True when one of them took it.
+    // What a message meets before it is translated and dispatched: the find dialog's keys in that
+    // dialog, here accelerators, then the dialog keys. True when one of them took it.
     [[nodiscard]] bool anticipa(MSG& messaggio);
 
     void ImpostaTitolo(std::wstring_view nome) override;
-    void ImpostaStato(std::wstring_view testo);
+    void ImpostaStato(std::wstring_view testo) override;
     void ImpostaModificato() noexcept { documento_.modificato(true); }
     void NuovoDocumento() override;
     void RiempiGriglia(bool soloIntestazioni) override;

@@ -145,6 +145,16 @@ constexpr std::array tabella{
         .tasto = inGriglia(VK_END, Tasto::Alt),
         .esegui = [](Parti& p,
                      int e) { p.elementi.SpostaElemento(e, p.elementi.ultimo(), Causa::Comando); }},
+
+    RigaComando{.comando = mnTrova,
+                .tasto = controllo(L'F'),
+                .esegui = [](Parti& p, int) { p.ricerca.mnTrova(); }},
+    RigaComando{.comando = trovaAvanti,
+                .tasto = {VK_F3},
+                .esegui = [](Parti& p, int e) { p.ricerca.prosegui(e, Direzione::Avanti); }},
+    RigaComando{.comando = trovaIndietro,
+                .tasto = {VK_F3, Tasto::Maiuscole},
+                .esegui = [](Parti& p, int e) { p.ricerca.prosegui(e, Direzione::Indietro); }},
 };
 
 constexpr std::array principali{

@@ -11,6 +11,7 @@ class FinestraPrincipale : public Trappola {
 public:
     virtual void NuovoDocumento() = 0;
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
+    virtual void ImpostaStato(std::wstring_view testo) = 0;
     virtual void CaricaRecenti() = 0;
     virtual void RiempiGriglia(bool soloIntestazioni) = 0;
     // A row that the grid lacks changes nothing.

@@ -55,13 +55,11 @@ Acceleratori creaAcceleratori(Tasto::Dove dove) {
         if (riga.tasto.codice == 0 || riga.tasto.dove != dove) {
             continue;
         }
-        BYTE come = FVIRTKEY;
-        if (riga.tasto.modificatore == Tasto::Controllo) {
-            come |= FCONTROL;
-        } else if (riga.tasto.modificatore == Tasto::Alt) {
-            come |= FALT;
-        }
-        voci.push_back({come, riga.tasto.codice, riga.comando});
+        int come = FVIRTKEY;
+        come |= riga.tasto.con(Tasto::Controllo) ? FCONTROL : 0;
+        come |= riga.tasto.con(Tasto::Alt) ? FALT : 0;
+        come |= riga.tasto.con(Tasto::Maiuscole) ? FSHIFT : 0;
+        voci.push_back({static_cast<BYTE>(come), riga.tasto.codice, riga.comando});
     }
     Acceleratori tabella(CreateAcceleratorTableW(voci.data(), static_cast<int>(voci.size())));
     if (!tabella) {

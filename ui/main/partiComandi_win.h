@@ -4,6 +4,7 @@
 #include "ui/main/comandiDocumento_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/comandiPagina_win.h"
+#include "ui/main/comandiRicerca_win.h"
 
 class FinestraPrincipale;
 
@@ -14,4 +15,5 @@ struct PartiComandi {
     ComandiElementi elementi;
     ComandiPagina pagina;
     ComandiAiuto aiuto;
+    ComandiRicerca ricerca;
 };

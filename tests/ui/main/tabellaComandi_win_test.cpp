@@ -46,5 +46,5 @@ TEST(TabellaComandi, UnTastoEsegueUnComandoSolo) {
                     visti.emplace(tasto.codice, tasto.modificatore, tasto.dove).second)
             << riga.comando;
     }
-    EXPECT_EQ(visti.size(), 11U);
+    EXPECT_EQ(visti.size(), 14U);
 }
