@@ -33,8 +33,9 @@ int primoTitolo(const TabellaElementi& tabella, std::wstring_view lettere, int d
     std::wstring memoria;
     piega(lettere, Maiuscole::Ignora, piegate);
     const int quanti = tabella.conteggio();
+    const int prima = da < quanti ? da : 0;
     for (int n = 0; n < quanti && !piegate.empty(); ++n) {
-        const int indice = giro(da, n, quanti);
+        const int indice = giro(prima, n, quanti);
         if (comincia(rifila(tabella(CampoElemento::Titolo, indice)), piegate, memoria)) {
             return indice;
         }

@@ -33,8 +33,8 @@ inline constexpr std::array campiCercati{CampoElemento::Titolo, CampoElemento::D
 [[nodiscard]] std::optional<Trovato> cerca(const TabellaElementi& tabella, const Criterio& criterio,
                                            int corrente, Direzione verso);
 
-// The first item from index `da` on, and on from the first one again, whose title begins with these
-// letters, case and accents aside; -1 when there is none. Looks at the titles' beginnings only. One
-// letter typed again and again that no title begins with in that number goes on by single letters:
-// to the first item after `da`.
+// The first item from index `da` on (from the first where there is none), and around the end, whose
+// title begins with these letters, case and accents aside; -1 when there is none. Looks at the
+// titles' beginnings only. One letter typed again and again that no title begins with in that
+// number goes on by single letters: to the first item after `da`.
 [[nodiscard]] int iniziaCon(const TabellaElementi& tabella, std::wstring_view lettere, int da);
