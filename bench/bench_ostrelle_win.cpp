@@ -3,9 +3,12 @@
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
 //   bench_ostrelle modifica FILE TIMES   medians of an edit, an add, a delete and a move at the
 //                                        size of that feed, each until the window is painted
+//   bench_ostrelle cerca FILE TIMES      medians of a search for a text that is nowhere, and of one
+//                                        folding of the texts that it looks at
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
+#include "document/ricerca.h"
 #include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
@@ -17,6 +20,8 @@
 #include "support/windows/heap_win.h"
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/FrmMain_win.h"
+
+#include <dlgs.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -173,6 +178,52 @@ int modifica(const std::wstring& percorso, int volte) {
     return 0;
 }
 
+// Looks for a text, as a user of the find dialog does, who then closes it.
+void cerca(FrmMain& finestra, const wchar_t* testo) {
+    finestra.esegui(mnTrova);
+    const HWND dialogo = GetWindow(finestra.hwnd(), GW_ENABLEDPOPUP);
+    if (dialogo == nullptr || dialogo == finestra.hwnd()) {
+        abbandona(L"no find dialog");
+    }
+    SetDlgItemTextW(dialogo, edt1, testo);
+    SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
+    SendMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
+}
+
+void piegaTutti(const TabellaElementi& elementi) {
+    std::wstring piegato;
+    for (int i = 0; i < elementi.conteggio(); ++i) {
+        for (const CampoElemento campo : campiCercati) {
+            piega(elementi(campo, i), Maiuscole::Ignora, piegato);
+        }
+    }
+}
+
+int cercaInvano(const std::wstring& percorso, int volte) {
+    Programma programma;
+    programma.apri(percorso);
+    FrmMain& finestra = programma.finestra();
+    const int elemento = finestra.ElementoSelezionato();
+    cerca(finestra, L"parola introvabile");
+    std::vector<double> ricerche;
+    std::vector<double> piegature;
+    for (int i = 0; i < volte; ++i) {
+        const Cronometro ricerca;
+        finestra.esegui(trovaAvanti);
+        programma.calma();
+        ricerche.push_back(ricerca.millisecondi());
+        const Cronometro piegatura;
+        piegaTutti(programma.elementi());
+        piegature.push_back(piegatura.millisecondi());
+    }
+    if (finestra.ElementoSelezionato() != elemento) {
+        abbandona(L"the text is somewhere");
+    }
+    riporta("search", mediana(std::move(ricerche)));
+    riporta("fold", mediana(std::move(piegature)));
+    return 0;
+}
+
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
@@ -187,6 +238,9 @@ int wmain(int quanti, wchar_t** argomenti) {
     }
     if (cosa == L"modifica" && quanti > 3) {
         return modifica(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
+    }
+    if (cosa == L"cerca" && quanti > 3) {
+        return cercaInvano(argomenti[2], static_cast<int>(std::wcstol(argomenti[3], nullptr, 10)));
     }
     return 2;
 }

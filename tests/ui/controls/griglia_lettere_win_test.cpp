@@ -54,7 +54,7 @@ protected:
     }
 
     // A list joins letters to a word within less than this, in milliseconds.
-    static constexpr DWORD dimentica = 1100;
+    static constexpr DWORD dimentica = 600;
 
     GrigliaProva p{0};
 };

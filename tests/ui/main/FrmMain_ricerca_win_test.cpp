@@ -151,9 +151,14 @@ TEST_F(FrmMainRicerca, CioCheNonCeSiDiceNellaBarraDiStato) {
 }
 
 TEST_F(FrmMainRicerca, UnaRigaFuoriVistaVieneInCima) {
+    std::vector<ElementoCondiviso> righe;
     for (int i = 0; i < 100; ++i) {
-        metti(L"riga " + std::to_wstring(i));
+        const std::wstring titolo = L"riga " + std::to_wstring(i);
+        righe.push_back(creaElemento({titolo, L"", L"", L"", L"", L""}));
     }
+    TabellaElementi tabella;
+    tabella.riempi(std::move(righe));
+    documento.sostituisci(std::move(tabella));
     cercaEChiudi(L"riga 63");
     EXPECT_EQ(riga(), 64);
     EXPECT_EQ(griglia().rigaInCima(), 64);
