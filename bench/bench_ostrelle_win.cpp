@@ -181,8 +181,8 @@ int modifica(const std::wstring& percorso, int volte) {
 // Looks for a text, as a user of the find dialog does, who then closes it.
 void cerca(FrmMain& finestra, const wchar_t* testo) {
     finestra.esegui(mnTrova);
-    const HWND dialogo = GetWindow(finestra.hwnd(), GW_ENABLEDPOPUP);
-    if (dialogo == nullptr || dialogo == finestra.hwnd()) {
+    const HWND dialogo = GetActiveWindow();
+    if (dialogo == finestra.hwnd() || GetDlgItem(dialogo, edt1) == nullptr) {
         abbandona(L"no find dialog");
     }
     SetDlgItemTextW(dialogo, edt1, testo);
@@ -210,8 +210,8 @@ int cercaInvano(const std::wstring& percorso, int volte) {
     for (int i = 0; i < volte; ++i) {
         const Cronometro ricerca;
         finestra.esegui(trovaAvanti);
-        programma.calma();
         ricerche.push_back(ricerca.millisecondi());
+        programma.calma();
         const Cronometro piegatura;
         piegaTutti(programma.elementi());
         piegature.push_back(piegatura.millisecondi());
