@@ -20,6 +20,15 @@ constexpr std::chrono::milliseconds poco{500};
 class GrigliaSuggerimento : public testing::Test {
 protected:
     void mostra() { GUI::RiempiGriglia(p.griglia, false); }
+    // More rows than there is room for, all cut, and the first one's tip.
+    void mostraLunghi() {
+        for (int i = 0; i < 60; ++i) {
+            p.aggiungi(std::to_wstring(i) + L' ' + lungo, L"");
+        }
+        mostra();
+        prepara();
+        EXPECT_TRUE(dice(1, L"0 " + lungo));
+    }
     [[nodiscard]] POINT punto(int riga, int x = 250) {
         POINT dove = p.punto(riga);
         ScreenToClient(p.lista(), &dove);
@@ -86,12 +95,7 @@ TEST_F(GrigliaSuggerimento, SiTaceQuandoLaGrigliaSiAllarga) {
 }
 
 TEST_F(GrigliaSuggerimento, SegueLaRigaSottoIlPuntatore) {
-    for (int i = 0; i < 60; ++i) {
-        p.aggiungi(std::to_wstring(i) + L' ' + lungo, L"");
-    }
-    mostra();
-    prepara();
-    EXPECT_TRUE(dice(1, L"0 " + lungo));
+    mostraLunghi();
     // The same place, another row.
     rotella(p.lista(), -1);
     EXPECT_TRUE(attendi([] { return !visibile(); }));
@@ -108,12 +112,7 @@ TEST_F(GrigliaSuggerimento, SegueLaRigaSottoIlPuntatore) {
 }
 
 TEST_F(GrigliaSuggerimento, SparisceQuandoLeRigheCambianoOScorronoDaSole) {
-    for (int i = 0; i < 60; ++i) {
-        p.aggiungi(std::to_wstring(i) + L' ' + lungo, L"");
-    }
-    mostra();
-    prepara();
-    EXPECT_TRUE(dice(1, L"0 " + lungo));
+    mostraLunghi();
     // As many rows as before, another item in that one.
     p.documento.applica(p.documento.spostamento(0, 1));
     p.griglia.aggiorna({.da = 1, .a = 2, .corrente = 2}, ClsUTC(), formatoUtente());
