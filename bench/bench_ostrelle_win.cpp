@@ -1,8 +1,7 @@
 // What the program itself takes, driven through its main window on the screen:
 //   bench_ostrelle apri FILE [TIMES]     until the grid has painted the items; the median
 //   bench_ostrelle esame FILE            the look at its bytes before they are parsed, the median
-//   of
-//                                        a few
+//                                        of a few
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
 //   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
 //                                        size of that feed, each until the window is painted, and
@@ -10,10 +9,13 @@
 //   bench_ostrelle diario FILE [TIMES]   an edit with a diary and one without, in turns
 //   bench_ostrelle copia FILE [TIMES]    a save that keeps a copy of the old file and one that
 //                                        finds no file, in turns
+//   bench_ostrelle cerca FILE [TIMES]    medians of a search for a text that is nowhere, and of one
+//                                        folding of the texts that it looks at
 
 #include "bench/misure_win.h"
 #include "document/clsItemRss.h"
 #include "document/perdite.h"
+#include "document/ricerca.h"
 #include "support/errori/errore.h"
 #include "support/programma/ClsCodaEliminazione.h"
 #include "support/programma/prodotto.h"
@@ -29,6 +31,7 @@
 #include "ui/main/FrmMain_win.h"
 
 #include <commctrl.h>
+#include <dlgs.h>
 
 #include <cstdint>
 #include <cstdio>
@@ -293,6 +296,52 @@ int salvaConCopia(const std::wstring& percorso, int volte) {
     return 0;
 }
 
+// Looks for a text, as a user of the find dialog does, who then closes it.
+void cerca(FrmMain& finestra, const wchar_t* testo) {
+    finestra.esegui(mnTrova);
+    const HWND dialogo = GetActiveWindow();
+    if (dialogo == finestra.hwnd() || GetDlgItem(dialogo, edt1) == nullptr) {
+        abbandona(L"no find dialog");
+    }
+    SetDlgItemTextW(dialogo, edt1, testo);
+    SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
+    SendMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
+}
+
+void piegaTutti(const TabellaElementi& elementi) {
+    std::wstring piegato;
+    for (int i = 0; i < elementi.conteggio(); ++i) {
+        for (const CampoElemento campo : campiCercati) {
+            piega(elementi(campo, i), Maiuscole::Ignora, piegato);
+        }
+    }
+}
+
+int cercaInvano(const std::wstring& percorso, int volte) {
+    Programma programma;
+    programma.apri(percorso);
+    FrmMain& finestra = programma.finestra();
+    const int elemento = finestra.ElementoSelezionato();
+    cerca(finestra, L"parola introvabile");
+    std::vector<double> ricerche;
+    std::vector<double> piegature;
+    for (int i = 0; i < volte; ++i) {
+        const Cronometro ricerca;
+        finestra.esegui(trovaAvanti);
+        ricerche.push_back(ricerca.millisecondi());
+        programma.calma();
+        const Cronometro piegatura;
+        piegaTutti(programma.elementi());
+        piegature.push_back(piegatura.millisecondi());
+    }
+    if (finestra.ElementoSelezionato() != elemento) {
+        abbandona(L"the text is somewhere");
+    }
+    riporta("search", mediana(std::move(ricerche)));
+    riporta("fold", mediana(std::move(piegature)));
+    return 0;
+}
+
 } // namespace
 
 int wmain(int quanti, wchar_t** argomenti) {
@@ -319,6 +368,9 @@ int wmain(int quanti, wchar_t** argomenti) {
     }
     if (cosa == L"copia") {
         return salvaConCopia(argomenti[2], volte(3));
+    }
+    if (cosa == L"cerca") {
+        return cercaInvano(argomenti[2], volte(5));
     }
     return 2;
 }

@@ -166,6 +166,18 @@ giro() {
   trascina_riga 4 1 "trascinamento"
   foto "elemento-spostato"
 
+  # Found by a word, with the system's find dialog; once more from the first, all round.
+  tasti ctrl+f
+  pronta '^Trova$|^Find$'
+  scrivi "luna"
+  tasti Return
+  foto "trova"
+  tasti Escape
+  attendi_chiusa '^Trova$|^Find$'
+  pronta 'Ostrelle  \[C:.*notizie.xml\]'
+  tasti F3
+  foto "trova-ancora"
+
   # The preview of the selected item, from the grid's own menu.
   xdotool click 3
   foto "menu-griglia"

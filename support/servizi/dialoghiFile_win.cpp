@@ -1,7 +1,6 @@
 #include "support/servizi/dialoghiFile_win.h"
 
-#include "support/windows/errori_win.h"
-#include "support/windows/maniglie_win.h"
+#include "support/windows/comdlg32_win.h"
 #include "support/windows/tastiTenuti_win.h"
 
 #include <windows.h>
@@ -10,21 +9,6 @@
 #include <commdlg.h>
 
 namespace {
-
-// Loaded with the first dialog: with what it needs itself it would take a good part of the
-// program's start. It stays, since a dialog may leave threads of the shell behind.
-template <class Funzione>
-Funzione comdlg32(const char* nome) {
-    const HMODULE libreria = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (libreria == nullptr) {
-        sollevaWin32();
-    }
-    const auto trovata = funzione<Funzione>(libreria, nome);
-    if (trovata == nullptr) {
-        sollevaWin32();
-    }
-    return trovata;
-}
 
 using FunzioneDialogo = decltype(&GetOpenFileNameW);
 

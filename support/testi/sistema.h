@@ -22,3 +22,10 @@
 // Full upper and lower case in every locale, accents included, one character for one.
 [[nodiscard]] std::wstring maiuscolo(std::wstring_view testo);
 [[nodiscard]] std::wstring minuscolo(std::wstring_view testo);
+
+enum class Maiuscole : std::uint8_t { Ignora, Distingui };
+
+// A text as a search compares it, into memory that is kept from text to text: ligatures taken
+// apart, letters without their accents and, unless case counts, in lower case. Character by
+// character: the pieces of a text give the pieces of what the whole gives.
+void piega(std::wstring_view testo, Maiuscole maiuscole, std::wstring& piegato);

@@ -8,7 +8,7 @@
 #include <cwchar>
 
 // Windows' part of pure code, as far as the tests need it where there is no Windows: numbers as a
-// person writes them, the letters of Western Europe.
+// person writes them, the letters of Western Europe and their accents.
 
 namespace {
 
@@ -23,6 +23,10 @@ std::wstring sposta(std::wstring_view testo, wchar_t prima, int quanto) {
     }
     return risultato;
 }
+
+// The letters from U+00C0 to U+00FF without their accents; a blank stays as it is.
+constexpr std::wstring_view senzaAccenti =
+    L"AAAAAA CEEEEIIII NOOOOO  UUUUY  aaaaaa ceeeeiiii nooooo  uuuuy y";
 
 } // namespace
 
@@ -65,4 +69,21 @@ std::wstring maiuscolo(std::wstring_view testo) {
 
 std::wstring minuscolo(std::wstring_view testo) {
     return sposta(testo, L'A', L'a' - L'A');
+}
+
+void piega(std::wstring_view testo, Maiuscole maiuscole, std::wstring& piegato) {
+    std::wstring scomposto;
+    for (const wchar_t c : testo) {
+        const bool accentata = c >= L'\u00C0' && c <= L'\u00FF';
+        const wchar_t lettera =
+            accentata ? senzaAccenti[static_cast<std::size_t>(c - L'\u00C0')] : L' ';
+        if (c == L'\u00DF') {
+            scomposto += L"ss";
+        } else if (c == L'\u00E6' || c == L'\u00C6') {
+            scomposto += c == L'\u00E6' ? L"ae" : L"AE";
+        } else if (c < L'\u0300' || c > L'\u036F') {
+            scomposto += lettera == L' ' ? c : lettera;
+        }
+    }
+    piegato = maiuscole == Maiuscole::Ignora ? minuscolo(scomposto) : scomposto;
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -16,14 +17,25 @@ int altezza(HDC dc, HFONT carattere) noexcept {
     return misure.tmHeight;
 }
 
+// The rows that fill the grid have no text: there are many, in sight at every start.
+bool vuota(const std::wstring& testo) noexcept {
+    return testo.find_first_not_of(L' ') == std::wstring::npos;
+}
+
 void scrivi(HDC dc, HFONT carattere, const std::wstring& testo, RECT posto) noexcept {
-    // The rows that fill the grid have none: there are many, in sight at every start.
-    if (testo.find_first_not_of(L' ') == std::wstring::npos) {
+    if (vuota(testo)) {
         return;
     }
     const Selezione selezione(dc, carattere);
     DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &posto,
               DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+int larghezza(HDC dc, HFONT carattere, const std::wstring& testo) noexcept {
+    const Selezione selezione(dc, carattere);
+    SIZE misura{};
+    GetTextExtentPoint32W(dc, testo.c_str(), static_cast<int>(testo.size()), &misura);
+    return misura.cx;
 }
 
 // The colour that tells the selected row from the others in any scheme: in some the fill of a
@@ -81,6 +93,21 @@ void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
 
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, GetSysColor(testo));
+    for (const Scritta& scritta : scritte(righe, riga, posto)) {
+        scrivi(dc, scritta.carattere, scritta.testo, scritta.posto);
+    }
+    if (posto.selezionata) {
+        RECT cornice = tutta;
+        --cornice.bottom;
+        incornicia(dc, cornice, cornice_, coloreSegno());
+        if (posto.fuoco) {
+            DrawFocusRect(dc, &cornice);
+        }
+    }
+}
+
+std::array<AspettoGriglia::Scritta, RigheGriglia::testi>
+AspettoGriglia::scritte(const RigheGriglia& righe, int riga, const Posto& posto) const {
     const int rientro = 2 * margine_;
     const auto riquadro = [&](const RECT& colonna, int riga_) {
         RECT r = colonna;
@@ -93,16 +120,21 @@ void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
     // A character is rarely narrower than a pixel: what is cut off here would not fit anyway.
     const auto massimo =
         static_cast<std::size_t>(std::max(1L, posto.contenuto.right - posto.contenuto.left));
-    scrivi(dc, normale_.get(), inUnaRiga(righe.cella(riga, 0), massimo), riquadro(posto.data, 0));
-    const auto contenuto = righe.contenuto(riga, massimo);
-    scrivi(dc, grassetto_.get(), contenuto.titolo, riquadro(posto.contenuto, 0));
-    scrivi(dc, normale_.get(), contenuto.descrizione, riquadro(posto.contenuto, 1));
-    if (posto.selezionata) {
-        RECT cornice = tutta;
-        --cornice.bottom;
-        incornicia(dc, cornice, cornice_, coloreSegno());
-        if (posto.fuoco) {
-            DrawFocusRect(dc, &cornice);
+    auto contenuto = righe.contenuto(riga, massimo);
+    return {{{inUnaRiga(righe.cella(riga, 0), massimo), normale_.get(), riquadro(posto.data, 0)},
+             {std::move(contenuto.titolo), grassetto_.get(), riquadro(posto.contenuto, 0)},
+             {std::move(contenuto.descrizione), normale_.get(), riquadro(posto.contenuto, 1)}}};
+}
+
+std::wstring AspettoGriglia::tagliati(HDC dc, const RigheGriglia& righe, int riga,
+                                      const Posto& posto) const {
+    std::wstring interi;
+    const auto testi = scritte(righe, riga, posto);
+    for (std::size_t i = 0; i < testi.size(); ++i) {
+        const auto& [testo, carattere, dove] = testi[i];
+        if (!vuota(testo) && larghezza(dc, carattere, testo) > dove.right - dove.left) {
+            interi.append(interi.empty() ? L"" : L"\r\n").append(righe.intero(riga, i));
         }
     }
+    return interi;
 }

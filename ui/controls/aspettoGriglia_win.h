@@ -6,6 +6,9 @@
 
 #include <windows.h>
 
+#include <array>
+#include <string>
+
 // How the grid's rows look: the user's message font, the title in bold over the description, system
 // colours only, a frame around the selected row. Measures in pixels.
 class AspettoGriglia {
@@ -27,7 +30,21 @@ public:
     };
     void disegna(HDC dc, const RigheGriglia& righe, int riga, const Posto& posto) const;
 
+    // The texts of a row that have no room there, whole and each on its own line; empty when all
+    // are seen.
+    [[nodiscard]] std::wstring tagliati(HDC dc, const RigheGriglia& righe, int riga,
+                                        const Posto& posto) const;
+
 private:
+    // A text of a row, as it is shown there.
+    struct Scritta {
+        std::wstring testo;
+        HFONT carattere;
+        RECT posto;
+    };
+    [[nodiscard]] std::array<Scritta, RigheGriglia::testi>
+    scritte(const RigheGriglia& righe, int riga, const Posto& posto) const;
+
     Carattere normale_;
     Carattere grassetto_;
     int altezzaTesto_ = 0;

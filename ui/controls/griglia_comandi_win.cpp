@@ -2,6 +2,7 @@
 
 #include "ui/controls/griglia_win.h"
 
+#include "support/windows/gdi_win.h"
 #include "support/windows/guardia_win.h"
 
 #include <windowsx.h>
@@ -42,6 +43,7 @@ LRESULT Griglia::messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) {
 }
 
 LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
+    suggerisci(codice, w, l);
     switch (codice) {
     case WM_NCCALCSIZE: {
         // The index column lies beyond the right edge, and no scroll bar leads there.
@@ -61,6 +63,9 @@ LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
             return TRUE;
         case HDN_DIVIDERDBLCLICKA:
         case HDN_DIVIDERDBLCLICKW:
+            return 0;
+        case TTN_GETDISPINFOW:
+            suggerimento(*reinterpret_cast<NMTTDISPINFOW*>(l));
             return 0;
         default:
             return inoltra(codice, w, l);
@@ -126,8 +131,7 @@ LRESULT Griglia::messaggioLista(UINT codice, WPARAM w, LPARAM l) {
     case WM_KEYDOWN:
         return tasto(codice, w, l);
     case WM_CHAR:
-        // No search by typing: the first column is a date.
-        return 0;
+        return premuto_ ? 0 : inoltraTasto(codice, w, l, false);
     default:
         return inoltra(codice, w, l);
     }
@@ -301,6 +305,10 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     default:
         break;
     }
+    return inoltraTasto(codice, w, l, muove);
+}
+
+LRESULT Griglia::inoltraTasto(UINT codice, WPARAM w, LPARAM l, bool muove) {
     // The list brings the row into sight after it has told the change: only then is it known
     // whether it has to become the top row.
     LRESULT esito = 0;
@@ -313,4 +321,48 @@ LRESULT Griglia::tasto(UINT codice, WPARAM w, LPARAM l) {
     }
     allinea();
     return esito;
+}
+
+void Griglia::suggerisci(UINT codice, WPARAM w, LPARAM l) noexcept {
+    switch (codice) {
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP: {
+        const int sotto = premuto_ ? 0 : std::max(rigaA(puntoDi(l).y), 0);
+        RECT r{};
+        if (sotto >= 1) {
+            ListView_GetItemRect(lista_, sotto - 1, &r, LVIR_BOUNDS);
+        }
+        MSG mouse{};
+        mouse.hwnd = lista_;
+        mouse.message = codice;
+        mouse.wParam = w;
+        mouse.lParam = l;
+        suggerimento_.segui(mouse, sotto, r);
+        break;
+    }
+    case WM_MOUSEWHEEL:
+    case WM_VSCROLL:
+    case WM_KEYDOWN:
+    case WM_CHAR:
+        suggerimento_.nascondi();
+        break;
+    default:
+        break;
+    }
+}
+
+void Griglia::suggerimento(NMTTDISPINFOW& richiesta) {
+    const int riga = suggerimento_.riga();
+    RECT r{};
+    RECT client{};
+    GetClientRect(lista_, &client);
+    std::wstring tagliati;
+    if (riga >= 1 && ListView_GetItemRect(lista_, riga - 1, &r, LVIR_BOUNDS)) {
+        const DcFinestra dc(lista_);
+        tagliati = aspetto_.tagliati(dc.get(), righe_, riga, posto(r));
+    }
+    suggerimento_.rispondi(richiesta, std::move(tagliati), client.right);
 }

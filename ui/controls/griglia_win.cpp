@@ -15,30 +15,6 @@ constexpr DWORD stileLista = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDRE
                              LVS_SHOWSELALWAYS | LVS_NOSORTHEADER;
 constexpr DWORD stileEsteso = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
-// While it lives the list changes unseen; then all of it is painted once, as it is. In sight it
-// would paint its scroll bar at every step and its rows at every scroll.
-class Velo {
-public:
-    Velo(HWND lista, HWND testata) noexcept
-        : lista_(lista),
-          testata_(GetUpdateRect(testata, nullptr, FALSE) != FALSE ? RDW_ALLCHILDREN
-                                                                   : RDW_NOCHILDREN) {
-        // Not to the list, which would do its own at the end.
-        DefWindowProcW(lista_, WM_SETREDRAW, FALSE, 0);
-    }
-    Velo(const Velo&) = delete;
-    Velo& operator=(const Velo&) = delete;
-    ~Velo() {
-        DefWindowProcW(lista_, WM_SETREDRAW, TRUE, 0);
-        RedrawWindow(lista_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | testata_);
-    }
-
-private:
-    HWND lista_;
-    // What was to be painted of the header before is forgotten with the rest.
-    UINT testata_;
-};
-
 } // namespace
 
 Griglia::Griglia(const TabellaElementi& tabella, OsservatoreGriglia& osservatore)
@@ -141,27 +117,35 @@ LRESULT Griglia::notifica(NMHDR& avviso) {
             allinea();
         }
         return 0;
-    case LVN_ODFINDITEMW:
-        return -1;
+    case LVN_ODFINDITEMW: {
+        const auto& cercata = reinterpret_cast<const NMLVFINDITEMW&>(avviso);
+        return (cercata.lvfi.flags & LVFI_PARTIAL) == 0 || cercata.lvfi.psz == nullptr
+                   ? -1
+                   : righe_.cheIniziaCon(cercata.lvfi.psz, cercata.iStart + 1) - 1;
+    }
     default:
         return 0;
     }
 }
 
 void Griglia::disegna(const DRAWITEMSTRUCT& disegno) const {
-    const int indice = static_cast<int>(disegno.itemID);
+    AspettoGriglia::Posto dove = posto(disegno.rcItem);
+    dove.selezionata = (disegno.itemState & ODS_SELECTED) != 0;
+    dove.fuoco = GetFocus() == lista_;
+    aspetto_.disegna(disegno.hDC, righe_, static_cast<int>(disegno.itemID) + 1, dove);
+}
+
+AspettoGriglia::Posto Griglia::posto(const RECT& riga) const noexcept {
     RECT client{};
     GetClientRect(lista_, &client);
     AspettoGriglia::Posto posto{};
-    posto.data = disegno.rcItem;
+    posto.data = riga;
     posto.data.right = posto.data.left + ListView_GetColumnWidth(lista_, 0);
-    posto.contenuto = disegno.rcItem;
+    posto.contenuto = riga;
     posto.contenuto.left = posto.data.right;
     // The index column is never painted: what is to be seen of it belongs to the contents.
     posto.contenuto.right = client.right;
-    posto.selezionata = (disegno.itemState & ODS_SELECTED) != 0;
-    posto.fuoco = GetFocus() == lista_;
-    aspetto_.disegna(disegno.hDC, righe_, indice + 1, posto);
+    return posto;
 }
 
 void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
@@ -225,54 +209,8 @@ void Griglia::completa() {
     numeroRighe();
 }
 
-void Griglia::aggiorna(const Cambiamento& cambiamento, const ClsUTC& utc, FormatoLocale formato) {
-    abbandona();
-    const int righe = righe_.righe();
-    const int elementi = righe_.elementi() + cambiamento.elementiInPiu;
-    const bool stesseDate = righe_.stesseDate(utc, formato);
-    righe_.elenca(utc, std::move(formato));
-    righe_.completa();
-    const int riga = cambiamento.corrente;
-    const int cima = visibile(riga, cambiamento.cima) ? cambiamento.cima : riga;
-    // The list scrolls no further than to its end.
-    const int ultimaCima = std::max<int>(1, righe_.righe() - ListView_GetCountPerPage(lista_));
-    const bool ferme = righe_.righe() == righe && rigaInCima() == std::min(cima, ultimaCima);
-    std::optional<Velo> velo;
-    if (!ferme && sospensioni_ == 0) {
-        velo.emplace(lista_, testata_);
-    }
-    {
-        // Whoever follows the selection hears of it even when it comes back to the same row.
-        const Alzata allineando(allineando_);
-        deseleziona(LVIS_SELECTED | LVIS_FOCUSED);
-    }
-    rigaCorrente_ = 0;
-    if (righe_.righe() != righe) {
-        numeroRighe(LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
-    }
-    seleziona(riga, cima);
-    if (ferme && stesseDate && righe_.elementi() == elementi) {
-        ridipingi(cambiamento.da, cambiamento.a);
-    } else {
-        InvalidateRect(lista_, nullptr, FALSE);
-    }
-}
-
-void Griglia::ridipingi(int da, int a) const noexcept {
-    RECT r{};
-    GetClientRect(lista_, &r);
-    const int testata = altezzaTestata();
-    const int altezza = altezzaRiga();
-    const int cima = rigaInCima();
-    const int visibili = (r.bottom - testata) / altezza + 1;
-    r.top = testata + std::clamp(da - cima, 0, visibili) * altezza;
-    r.bottom = std::min<int>(r.bottom, testata + std::clamp(a + 1 - cima, 0, visibili) * altezza);
-    if (r.top < r.bottom) {
-        InvalidateRect(lista_, &r, FALSE);
-    }
-}
-
 void Griglia::numeroRighe(DWORD modo) noexcept {
+    suggerimento_.nascondi();
     const Alzata allineando(allineando_);
     ListView_SetItemCountEx(lista_, righe_.righe() - 1, modo);
 }
@@ -337,6 +275,7 @@ int Griglia::rigaInCima() const noexcept {
 
 void Griglia::rigaInCima(int riga) noexcept {
     if (const int righe = riga - rigaInCima()) {
+        suggerimento_.nascondi();
         ListView_Scroll(lista_, 0, righe * altezzaRiga());
     }
 }

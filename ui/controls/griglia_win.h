@@ -7,6 +7,7 @@
 #include "ui/controls/puntatori_win.h"
 #include "ui/controls/righeGriglia.h"
 #include "ui/controls/sottoclasse_win.h"
+#include "ui/controls/suggerimentoRiga_win.h"
 #include "ui/controls/trascinamento.h"
 
 #include <windows.h>
@@ -110,6 +111,10 @@ private:
     void disponi();
     void applicaLarghezze();
     LRESULT notifica(NMHDR& avviso);
+    [[nodiscard]] AspettoGriglia::Posto posto(const RECT& riga) const noexcept;
+    // The mouse over the list, for the tooltip of the row that it is on.
+    void suggerisci(UINT codice, WPARAM w, LPARAM l) noexcept;
+    void suggerimento(NMTTDISPINFOW& richiesta);
     void disegna(const DRAWITEMSTRUCT& disegno) const;
     LRESULT messaggioLista(UINT codice, WPARAM w, LPARAM l);
     LRESULT messaggioTestata(UINT codice, WPARAM w, LPARAM l);
@@ -122,6 +127,8 @@ private:
     void lascia();
     void menuDaTastiera();
     LRESULT tasto(UINT codice, WPARAM w, LPARAM l);
+    // A key that the list works on and that may move its focus.
+    LRESULT inoltraTasto(UINT codice, WPARAM w, LPARAM l, bool muove);
     // Where Page Down goes, were there no end: the last row wholly in sight, or a page below it.
     [[nodiscard]] int rigaUnaPaginaSotto() const noexcept;
     void vaiGiu(int riga);
@@ -155,6 +162,7 @@ private:
     AspettoGriglia aspetto_;
     Puntatori puntatori_;
     Trascinamento trascinamento_;
+    SuggerimentoRiga suggerimento_;
     std::wstring nome_;
     HWND lista_ = nullptr;
     HWND testata_ = nullptr;

@@ -1,5 +1,6 @@
 #include "ui/controls/righeGriglia.h"
 
+#include "document/ricerca.h"
 #include "support/errori/errore.h"
 #include "support/tempo/dataora.h"
 #include "support/testi/testo.h"
@@ -65,11 +66,25 @@ std::wstring RigheGriglia::cella(int riga, int colonna) const {
     case 0:
         return dataOra(indice);
     case 1:
-        return senzaTabulazioni(campo(CampoElemento::Titolo, indice)) + L"\r\n" +
-               senzaTabulazioni(campo(CampoElemento::Descrizione, indice));
+        return intero(riga, 1) + L"\r\n" + intero(riga, 2);
     default:
         return {};
     }
+}
+
+std::wstring RigheGriglia::intero(int riga, std::size_t quale) const {
+    const int indice = elemento(riga);
+    if (indice < 0) {
+        return {};
+    }
+    return quale == 0
+               ? dataOra(indice)
+               : senzaTabulazioni(campo(
+                     quale == 1 ? CampoElemento::Titolo : CampoElemento::Descrizione, indice));
+}
+
+int RigheGriglia::cheIniziaCon(std::wstring_view lettere, int daRiga) const {
+    return iniziaCon(tabella_, lettere, std::max(daRiga - 1, 0)) + 1;
 }
 
 RigheGriglia::Righe RigheGriglia::contenuto(int riga, std::size_t massimo) const {

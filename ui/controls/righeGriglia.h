@@ -59,6 +59,15 @@ public:
     };
     [[nodiscard]] Righe contenuto(int riga, std::size_t massimo) const;
 
+    // The texts that a row shows of its item, by number: date, title, description. Whole, but for
+    // outer blanks and tabs.
+    static constexpr std::size_t testi = 3;
+    [[nodiscard]] std::wstring intero(int riga, std::size_t quale) const;
+
+    // The row, from a row on and around, whose item's title begins with these letters (see
+    // `iniziaCon`); 0 when there is none.
+    [[nodiscard]] int cheIniziaCon(std::wstring_view lettere, int daRiga) const;
+
 private:
     [[nodiscard]] std::wstring dataOra(int elemento) const;
     [[nodiscard]] std::wstring_view campo(CampoElemento campo, int elemento) const;

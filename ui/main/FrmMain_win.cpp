@@ -89,7 +89,8 @@ FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
              {servizi.messaggi, servizi.editor, documento, custodeLavoro_},
              {servizi, *this, documento, campi_, custodeCopie_},
              {servizi.messaggi, *this},
-             {servizi.messaggi, *this, documento}},
+             {servizi.messaggi, *this, documento},
+             {*this, documento}},
       esecutore_(servizi.messaggi, *this, campi_, griglia_, parti_),
       recupero_(servizi, *this, documento, campi_, parti_.documento, parti_.elementi,
                 custodeLavoro_, avvisi_),
@@ -138,7 +139,7 @@ int FrmMain::cicloMessaggi() {
 
 bool FrmMain::anticipa(MSG& msg) {
     if (hwnd() == nullptr || (msg.hwnd != hwnd() && !IsChild(hwnd(), msg.hwnd))) {
-        return false;
+        return hwnd() != nullptr && parti_.ricerca.anticipa(msg);
     }
     if (GetCapture() == griglia_.lista()) {
         // While a row is dragged the keys are the grid's.
@@ -248,7 +249,16 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         Form_Unload();
         PostQuitMessage(0);
         return 0;
+    case WM_ENABLE:
+        parti_.ricerca.abilita(w != FALSE);
+        break;
     default:
+        if (const auto comando = parti_.ricerca.richiesta(codice, l)) {
+            if (*comando != nessunComando) {
+                esegui(*comando);
+            }
+            return 0;
+        }
         break;
     }
     return predefinito(codice, w, l);
@@ -300,8 +310,8 @@ void FrmMain::ImpostaTitolo(std::wstring_view nome) {
 }
 
 void FrmMain::ImpostaStato(std::wstring_view testo) {
-    SendMessageW(StatusBar1_, SB_SETTEXTW, 0,
-                 reinterpret_cast<LPARAM>(std::wstring(rifila(testo)).c_str()));
+    stato_ = rifila(testo);
+    SendMessageW(StatusBar1_, SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(stato_.c_str()));
 }
 
 void FrmMain::avvisaSenzaDiario() noexcept {

@@ -69,12 +69,13 @@ public:
         parti_.documento.codaVuota();
     }
 
-    // What a message meets before it is translated and dispatched: accelerators, then the dialog
-    // keys. True when one of them took it.
+    // What a message meets before it is translated and dispatched: the find dialog's keys in that
+    // dialog, here accelerators, then the dialog keys. True when one of them took it.
     [[nodiscard]] bool anticipa(MSG& messaggio);
 
     void ImpostaTitolo(std::wstring_view nome) override;
     void ImpostaStato(std::wstring_view testo) override;
+    [[nodiscard]] std::wstring_view stato() const noexcept override { return stato_; }
     void ImpostaModificato() noexcept { documento_.modificato(true); }
     void NuovoDocumento() override;
     void RiempiGriglia(bool soloIntestazioni) override;
@@ -151,6 +152,7 @@ private:
     Acceleratori acceleratori_;
     Acceleratori acceleratoriGriglia_;
     HWND StatusBar1_ = nullptr;
+    std::wstring stato_;
     HWND fuoco_ = nullptr;
     // The end of the session was agreed to.
     bool congedata_ = false;

@@ -28,18 +28,23 @@ enum Comando : std::uint16_t {
     mnVerificaUpgrade,
     mnBug,
     mninfo,
-    // Keys only: the selected item one place up or down, to the first place, to the last.
+    // From here on keys only: the selected item one place up or down, to the first place, to the
+    // last.
     spostaSu,
     spostaGiu,
     spostaInCima,
     spostaInFondo,
-    // Keys only too: the last change of the items taken back, or done again.
+    // The last change of the items taken back, or done again.
     annullaPasso,
     ripetiPasso,
     // Of items, between the grid and the clipboard.
     taglia,
     copia,
     incolla,
+    // The find dialog, the next item of what was looked for, the one before.
+    mnTrova,
+    trovaAvanti,
+    trovaIndietro,
     // Entry 0 is the placeholder, entries 1 to 10 the files.
     mnrec = 40100,
     ultimoRecente = mnrec + 10,
@@ -60,14 +65,22 @@ struct MenuPrincipale {
 };
 [[nodiscard]] std::span<const MenuPrincipale> menuPrincipali() noexcept;
 
-// A key that runs a command: a virtual key code, 0 for none.
+// A key that runs a command: a virtual key code, 0 for none, and what is held with it.
 struct Tasto {
-    enum Modificatore : std::uint8_t { Nessuno, Controllo, Alt, ControlloMaiuscole };
+    enum Modificatore : std::uint8_t { Nessuno = 0, Controllo = 1, Alt = 2, Maiuscole = 4 };
     // Wherever the focus is, or while the grid has it.
     enum Dove : std::uint8_t { Ovunque, Griglia };
     std::uint16_t codice = 0;
     Modificatore modificatore = Nessuno;
     Dove dove = Ovunque;
+
+    // Both held.
+    friend constexpr Modificatore operator|(Modificatore a, Modificatore b) noexcept {
+        return static_cast<Modificatore>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+    }
+    [[nodiscard]] constexpr bool con(Modificatore quale) const noexcept {
+        return (static_cast<unsigned>(modificatore) & static_cast<unsigned>(quale)) != 0;
+    }
 };
 
 // A button of the toolbar, with the place of its picture in the strip of pictures.

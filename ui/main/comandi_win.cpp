@@ -151,7 +151,7 @@ constexpr std::array tabella{
                 .esegui = [](Parti& p, int) { p.ripercorri(&Storia::annulla); }},
     RigaComando{.comando = ripetiPasso,
                 .tasto = inGriglia(L'Y', Tasto::Controllo),
-                .altroTasto = inGriglia(L'Z', Tasto::ControlloMaiuscole),
+                .altroTasto = inGriglia(L'Z', Tasto::Controllo | Tasto::Maiuscole),
                 .esegui = [](Parti& p, int) { p.ripercorri(&Storia::ripeti); }},
     RigaComando{.comando = taglia,
                 .tasto = inGriglia(L'X', Tasto::Controllo),
@@ -162,6 +162,15 @@ constexpr std::array tabella{
     RigaComando{.comando = incolla,
                 .tasto = inGriglia(L'V', Tasto::Controllo),
                 .esegui = [](Parti& p, int e) { p.appunti.Incolla(e); }},
+    RigaComando{.comando = mnTrova,
+                .tasto = controllo(L'F'),
+                .esegui = [](Parti& p, int) { p.ricerca.mnTrova(); }},
+    RigaComando{.comando = trovaAvanti,
+                .tasto = {VK_F3},
+                .esegui = [](Parti& p, int e) { p.ricerca.prosegui(e, Direzione::Avanti); }},
+    RigaComando{.comando = trovaIndietro,
+                .tasto = {VK_F3, Tasto::Maiuscole},
+                .esegui = [](Parti& p, int e) { p.ricerca.prosegui(e, Direzione::Indietro); }},
 };
 
 constexpr std::array principali{

@@ -13,6 +13,7 @@ public:
     virtual void ImpostaTitolo(std::wstring_view nome) = 0;
     // The first panel of the status bar.
     virtual void ImpostaStato(std::wstring_view testo) = 0;
+    [[nodiscard]] virtual std::wstring_view stato() const noexcept = 0;
     virtual void CaricaRecenti() = 0;
     virtual void RiempiGriglia(bool soloIntestazioni) = 0;
     // A row that the grid lacks changes nothing.

@@ -20,16 +20,10 @@ void aggiungiSottomenu(HMENU menu, ManigliaMenu sottomenu, std::wstring_view did
 }
 
 BYTE modificatori(const Tasto& tasto) noexcept {
-    switch (tasto.modificatore) {
-    case Tasto::Controllo:
-        return FVIRTKEY | FCONTROL;
-    case Tasto::Alt:
-        return FVIRTKEY | FALT;
-    case Tasto::ControlloMaiuscole:
-        return FVIRTKEY | FCONTROL | FSHIFT;
-    default:
-        return FVIRTKEY;
-    }
+    const int insieme = FVIRTKEY | (tasto.con(Tasto::Controllo) ? FCONTROL : 0) |
+                        (tasto.con(Tasto::Alt) ? FALT : 0) |
+                        (tasto.con(Tasto::Maiuscole) ? FSHIFT : 0);
+    return static_cast<BYTE>(insieme);
 }
 
 // The only submenu of the first menu.

@@ -6,6 +6,7 @@
 #include "ui/main/comandiDocumento_win.h"
 #include "ui/main/comandiElementi_win.h"
 #include "ui/main/comandiPagina_win.h"
+#include "ui/main/comandiRicerca_win.h"
 #include "ui/main/finestraPrincipale_win.h"
 
 // What the rows of the table of commands work with.
@@ -24,4 +25,5 @@ struct PartiComandi {
     ComandiPagina pagina;
     ComandiAiuto aiuto;
     ComandiAppunti appunti;
+    ComandiRicerca ricerca;
 };

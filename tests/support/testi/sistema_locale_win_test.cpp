@@ -99,3 +99,44 @@ TEST(MaiuscoleDiSistema, OgniLetteraEUnaSola) {
     EXPECT_EQ(maiuscolo(L"a\0b"sv), L"A\0B"sv);
     EXPECT_EQ(maiuscolo(std::wstring(100000, L'è')), std::wstring(100000, L'È'));
 }
+
+namespace {
+
+std::wstring piegato(std::wstring_view testo, Maiuscole maiuscole = Maiuscole::Ignora) {
+    std::wstring esito = L"what stood there before";
+    piega(testo, maiuscole, esito);
+    return esito;
+}
+
+} // namespace
+
+TEST(PiegaDiSistema, SenzaAccentiNeMaiuscole) {
+    EXPECT_EQ(piegato(L"Perché la CITTÀ è già lì"), L"perche la citta e gia li");
+    EXPECT_EQ(piegato(L"Perché la CITTÀ", Maiuscole::Distingui), L"Perche la CITTA");
+    EXPECT_EQ(piegato(L"e\u0301E\u0301"), L"ee");
+    EXPECT_EQ(piegato(L"Ậậ Ñ ç Ω Ά Й"), L"aa n c ω α и");
+    EXPECT_EQ(piegato(L""), L"");
+    EXPECT_EQ(piegato(L"\u0301"), L"");
+    EXPECT_EQ(piegato(L"\0é"sv), L"\0e"sv);
+    // Spacing accents are characters of their own.
+    EXPECT_EQ(piegato(L"`^~´¨"), L"`^~´¨");
+    EXPECT_EQ(piegato(std::wstring(100000, L'È')), std::wstring(100000, L'e'));
+}
+
+TEST(PiegaDiSistema, LeLegatureSonoLeLoroLettere) {
+    EXPECT_EQ(piegato(L"Straße"), L"strasse");
+    EXPECT_EQ(piegato(L"Æther œuvre"), L"aether oeuvre");
+    EXPECT_EQ(piegato(L"Æß", Maiuscole::Distingui), L"AEss");
+    EXPECT_EQ(piegato(L"\uFB01\uFB03"), L"fiffi");
+    EXPECT_EQ(piegato(L"\u01C4"), L"dz");
+}
+
+// The system counts them as marks: they are letters all the same.
+TEST(PiegaDiSistema, LeLettereBarrateRestano) {
+    EXPECT_EQ(piegato(L"Øø Łł"), L"øø łł");
+}
+
+TEST(PiegaDiSistema, UnaMezzaCoppiaNonFaSparireIlTesto) {
+    EXPECT_EQ(piegato(L"\xD83D ciao"), L"\xD83D ciao");
+    EXPECT_EQ(piegato(L"\xD83D\xDE00 È"), L"\xD83D\xDE00 e");
+}

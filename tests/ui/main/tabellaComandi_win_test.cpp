@@ -47,5 +47,5 @@ TEST(TabellaComandi, UnTastoEsegueUnComandoSolo) {
                 << riga.comando;
         }
     }
-    EXPECT_EQ(visti.size(), 17U);
+    EXPECT_EQ(visti.size(), 20U);
 }
