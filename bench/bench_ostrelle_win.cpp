@@ -3,9 +3,10 @@
 //   bench_ostrelle esame FILE            the look at its bytes before they are parsed, the median
 //                                        of a few
 //   bench_ostrelle salva FILE            the open feed onto its own file, the median of a few
-//   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move at the
-//                                        size of that feed, each until the window is painted, and
-//                                        of painting the whole list once
+//   bench_ostrelle modifica FILE [TIMES] medians of an edit, an add, a delete and a move, and of
+//                                        undoing a delete and doing it again, at the size of that
+//                                        feed, each until the window is painted, and of painting
+//                                        the whole list once
 //   bench_ostrelle diario FILE [TIMES]   an edit with a diary and one without, in turns
 //   bench_ostrelle copia FILE [TIMES]    a save that keeps a copy of the old file and one that
 //                                        finds no file, in turns
@@ -207,6 +208,8 @@ int modifica(const std::wstring& percorso, int volte) {
     std::vector<Lavoro> lavori{{"edit", comando(mnEditFeed), {}},
                                {"move", comando(spostaGiu), {}},
                                {"delete", comando(mnDelFeed), {}},
+                               {"undo", comando(annullaPasso), {}},
+                               {"redo", comando(ripetiPasso), {}},
                                {"add", comando(mnaddFeed), {}},
                                {"redraw",
                                 [&] {
