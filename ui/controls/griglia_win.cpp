@@ -382,7 +382,6 @@ void Griglia::misura() {
 }
 
 void Griglia::aggiornaAspetto() {
-    const int cima = rigaInCima();
     misura();
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), TRUE);
     ListView_SetBkColor(lista_, GetSysColor(COLOR_WINDOW));
@@ -396,7 +395,6 @@ void Griglia::aggiornaAspetto() {
     posto.flags = SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOZORDER;
     SendMessageW(lista_, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&posto));
     applicaLarghezze();
-    rigaInCima(cima);
     InvalidateRect(lista_, nullptr, FALSE);
 }
 

@@ -81,6 +81,19 @@ TEST_F(FrmMainMonitor, SuOgniMonitorECosiComeSarebbeNataLi) {
     }
 }
 
+// As a maximised window between monitors with as many pixels.
+TEST_F(FrmMainMonitor, AncheSeLaFinestraNonCambiaMisura) {
+    RECT r{0, 0, 1400, 900};
+    SetWindowPos(finestra.hwnd(), nullptr, r.left, r.top, r.right, r.bottom, SWP_NOZORDER);
+    for (const int dpi : {144, 96}) {
+        SCOPED_TRACE(dpi);
+        SendMessageW(finestra.hwnd(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                     reinterpret_cast<LPARAM>(&r));
+        const Aspetto qui = aspetto(finestra);
+        confronta(qui, fattaPer(dpi));
+    }
+}
+
 TEST_F(FrmMainMonitor, OgniParteCresceConLaRisoluzione) {
     const HWND lista = griglia().lista();
     const auto stato = [&] { return GetDlgItem(finestra.hwnd(), IDC_STATUSBAR); };
@@ -102,6 +115,15 @@ TEST_F(FrmMainMonitor, OgniParteCresceConLaRisoluzione) {
                    sizeof(font), &font);
         return -font.lfHeight;
     };
+    // Of all tooltips together: those of the toolbar, of the fields and of the strip.
+    const auto suggerimenti = [&] {
+        long somma = 0;
+        HWND f = nullptr;
+        while ((f = FindWindowExW(nullptr, f, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+            somma += GetWindow(f, GW_OWNER) == finestra.hwnd() ? carattere(f) : 0;
+        }
+        return somma;
+    };
     const auto tendina = [&] {
         RECT r{};
         SendMessageW(campo(IDC_CBOLINGUA), CB_GETDROPPEDCONTROLRECT, 0,
@@ -117,6 +139,7 @@ TEST_F(FrmMainMonitor, OgniParteCresceConLaRisoluzione) {
                             carattere(stato()),
                             carattere(pulsante),
                             carattere(avvisi.testo()),
+                            suggerimenti(),
                             altezzaRiga(),
                             ListView_GetColumnWidth(lista, 0),
                             tendina()};
