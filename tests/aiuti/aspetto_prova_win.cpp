@@ -65,6 +65,9 @@ Aspetto aspettoDi(HWND finestra) {
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&dati));
+    // Nothing lights up under the pointer.
+    muoviMouse(GetDesktopWindow(),
+               {GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1});
     pompa();
     aspetto.immagine = sulloSchermo(finestra);
     return aspetto;

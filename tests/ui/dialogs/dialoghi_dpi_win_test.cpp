@@ -40,6 +40,8 @@ protected:
     [[nodiscard]] static Aspetto aspetto(HWND dialogo) {
         SendMessageW(dialogo, WM_NEXTDLGCTL,
                      reinterpret_cast<WPARAM>(GetDlgItem(dialogo, IDCANCEL)), TRUE);
+        // What lies beyond the screen has no pixels.
+        SetWindowPos(dialogo, nullptr, 0, 0, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
         RedrawWindow(dialogo, nullptr, nullptr,
                      RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
         return aspettoDi(dialogo);
