@@ -44,5 +44,16 @@ struct Dpi {
     bool operator==(const Dpi&) const = default;
 };
 
-// What a window is drawn with (null: the screen); 96 when nothing tells.
+// What a window is drawn with: what the top-level window around it keeps, else what the system
+// tells of it (null: of the screen); 96 when nothing tells.
 [[nodiscard]] Dpi dpiDi(HWND finestra) noexcept;
+
+// A top-level window keeps this resolution from here on, for itself and all inside it; it forgets
+// it before it is gone.
+void tieniDpi(HWND finestra, Dpi dpi) noexcept;
+void scordaDpi(HWND finestra) noexcept;
+
+// What GetSystemMetrics and SPI_GETNONCLIENTMETRICS tell, for a resolution; the screen's on systems
+// that know no other. The latter raises its failure.
+[[nodiscard]] int metrica(int quale, Risoluzione risoluzione) noexcept;
+[[nodiscard]] NONCLIENTMETRICSW metriche(Risoluzione risoluzione);

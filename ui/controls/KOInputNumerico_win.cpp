@@ -1,6 +1,7 @@
 #include "ui/controls/KOInputNumerico_win.h"
 
 #include "support/utilita/koUtilitaNumeri.h"
+#include "support/windows/dpi_win.h"
 #include "support/windows/errori_win.h"
 #include "support/windows/guardia_win.h"
 
@@ -14,9 +15,8 @@ constexpr int idPulsanti = 2;
 constexpr int idEtichetta = 3;
 
 HWND creaParte(DWORD stileEsteso, const wchar_t* classeParte, DWORD stile, HWND padre, int id) {
-    const HWND parte = CreateWindowExW(stileEsteso, classeParte, L"", WS_CHILD | stile, 0, 0,
-                                       GetSystemMetrics(SM_CXVSCROLL), 0, padre,
-                                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+    const HWND parte = CreateWindowExW(stileEsteso, classeParte, L"", WS_CHILD | stile, 0, 0, 0, 0,
+                                       padre, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                        GetModuleHandleW(nullptr), nullptr);
     if (parte == nullptr) {
         sollevaWin32();
@@ -77,12 +77,10 @@ void KOInputNumerico::aggiornaEtichetta() {
 
 void KOInputNumerico::disponi() noexcept {
     RECT interno{};
-    RECT pulsanti{};
     RECT casella{};
     GetClientRect(hwnd(), &interno);
-    GetWindowRect(UPNum_, &pulsanti);
     GetWindowRect(txtnumero_, &casella);
-    const int larghezzaPulsanti = pulsanti.right - pulsanti.left;
+    const int larghezzaPulsanti = metrica(SM_CXVSCROLL, dpiDi(hwnd()).x);
     int larghezza = casella.right - casella.left;
     if (interno.right - larghezzaPulsanti > 0) {
         larghezza = interno.right - larghezzaPulsanti;

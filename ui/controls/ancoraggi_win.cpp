@@ -23,11 +23,14 @@ Ancoraggi::Ancoraggi(HWND dialogo, std::span<const ControlloAncorato> controlli)
     }
 }
 
-void Ancoraggi::disponi() const {
+SIZE Ancoraggi::inPiu() const noexcept {
     RECT r{};
     GetClientRect(dialogo_, &r);
-    const LONG inPiuX = r.right - interno_.cx;
-    const LONG inPiuY = r.bottom - interno_.cy;
+    return {r.right - interno_.cx, r.bottom - interno_.cy};
+}
+
+void Ancoraggi::disponi() const {
+    const auto [inPiuX, inPiuY] = inPiu();
     for (const Posto& posto : posti_) {
         RECT dove = posto.inizio;
         switch (posto.ancoraggio) {

@@ -28,6 +28,9 @@ public:
     // Puts the controls where they belong at the dialog's present size.
     void disponi() const;
 
+    // By how much the dialog's inside is larger than it was made.
+    [[nodiscard]] SIZE inPiu() const noexcept;
+
     // The least size of the window, frame and all.
     [[nodiscard]] POINT misuraMinima() const noexcept { return {minima_.cx, minima_.cy}; }
 

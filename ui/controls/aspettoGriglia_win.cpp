@@ -1,6 +1,5 @@
 #include "ui/controls/aspettoGriglia_win.h"
 
-#include "support/windows/errori_win.h"
 #include "support/windows/gdi_win.h"
 #include "ui/controls/contrasto.h"
 
@@ -57,12 +56,7 @@ void incornicia(HDC dc, RECT r, int spessore, int colore) noexcept {
 } // namespace
 
 AspettoGriglia::AspettoGriglia(Risoluzione verticale) {
-    NONCLIENTMETRICSW misure{};
-    misure.cbSize = sizeof(misure);
-    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(misure), &misure, 0)) {
-        sollevaWin32();
-    }
-    LOGFONTW font = misure.lfMessageFont;
+    LOGFONTW font = metriche(verticale).lfMessageFont;
     normale_ = Carattere(CreateFontIndirectW(&font));
     font.lfWeight = FW_BOLD;
     grassetto_ = Carattere(CreateFontIndirectW(&font));

@@ -55,8 +55,7 @@ void Griglia::creaLista() {
 LRESULT Griglia::messaggio(UINT codice, WPARAM w, LPARAM l) {
     switch (codice) {
     case WM_CREATE:
-        dpi_ = dpiDi(hwnd());
-        aspetto_ = AspettoGriglia(dpi_.y);
+        misura();
         creaLista();
         return 0;
     case WM_DESTROY:
@@ -315,8 +314,14 @@ AreaRighe Griglia::area() const noexcept {
             .margineY = dpi_.y.pixelPerEccesso(100)};
 }
 
-void Griglia::aggiornaAspetto() {
+void Griglia::misura() {
+    dpi_ = dpiDi(hwnd());
     aspetto_ = AspettoGriglia(dpi_.y);
+    puntatori_ = Puntatori(dpi_);
+}
+
+void Griglia::aggiornaAspetto() {
+    misura();
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), TRUE);
     ListView_SetBkColor(lista_, GetSysColor(COLOR_WINDOW));
     // A list view measures its rows when its size changes, or so it believes.
@@ -328,6 +333,7 @@ void Griglia::aggiornaAspetto() {
     posto.cy = r.bottom - r.top;
     posto.flags = SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOZORDER;
     SendMessageW(lista_, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&posto));
+    applicaLarghezze();
     InvalidateRect(lista_, nullptr, FALSE);
 }
 

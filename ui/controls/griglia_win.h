@@ -87,7 +87,7 @@ public:
     // Gives up a drag, if there is one; for a command that begins during it.
     void abbandona() noexcept;
 
-    // Fonts and metrics read anew, after the user changed them.
+    // Fonts, metrics and resolution read anew, after they changed.
     void aggiornaAspetto();
 
     // While one lives, the grid does not redraw. They nest.
@@ -107,6 +107,8 @@ private:
     LRESULT messaggioDi(HWND hwnd, UINT codice, WPARAM w, LPARAM l) override;
     void onEccezione() noexcept override { osservatore_.onEccezione(); }
 
+    // The resolution and what follows it.
+    void misura();
     void creaLista();
     void disponi();
     void applicaLarghezze();
@@ -157,7 +159,7 @@ private:
 
     RigheGriglia righe_;
     OsservatoreGriglia& osservatore_;
-    // Of the window since it was made.
+    // Of the window around it, when it was last asked.
     Dpi dpi_;
     AspettoGriglia aspetto_;
     Puntatori puntatori_;

@@ -45,9 +45,9 @@ char punto(int x, int y, int larghezza, int altezza) noexcept {
     return riga < disegno.size() && colonna < disegno[riga].size() ? disegno[riga][colonna] : ' ';
 }
 
-Cursore creaTrascina() {
-    const int larghezza = GetSystemMetrics(SM_CXCURSOR);
-    const int altezza = GetSystemMetrics(SM_CYCURSOR);
+Cursore creaTrascina(Dpi dpi) {
+    const int larghezza = metrica(SM_CXCURSOR, dpi.x);
+    const int altezza = metrica(SM_CYCURSOR, dpi.y);
     // One bit a pixel, each line a whole number of words.
     const auto passo = static_cast<std::size_t>((larghezza + 15) / 16) * 2;
     std::vector<std::uint8_t> e(passo * static_cast<std::size_t>(altezza), 0xFF);
@@ -71,7 +71,7 @@ Cursore creaTrascina() {
 
 } // namespace
 
-Puntatori::Puntatori() : trascina_(creaTrascina()) {}
+Puntatori::Puntatori(Dpi dpi) : trascina_(creaTrascina(dpi)) {}
 
 void Puntatori::mostra(Puntatore tipo) const noexcept {
     switch (tipo) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/windows/dpi_win.h"
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/trascinamento.h"
 
@@ -8,7 +9,9 @@
 // The pointers of a drag: our own for a dragged row, the system's for the others.
 class Puntatori {
 public:
-    Puntatori();
+    // Without a picture of our own.
+    Puntatori() noexcept = default;
+    explicit Puntatori(Dpi dpi);
 
     // Shows the pointer of that kind until the next WM_SETCURSOR.
     void mostra(Puntatore tipo) const noexcept;

@@ -57,6 +57,7 @@ void StrisciaAvvisi::prepara(HWND padre, HFONT carattere, Risoluzione dpi) {
         for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
             SendMessageW(c, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
         }
+        suggerimenti_.adatta();
         aggiornaAspetto();
     }
     aggiorna();

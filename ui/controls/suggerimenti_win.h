@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/windows/maniglie_win.h"
+
 #include <windows.h>
 
 // Tooltips of the controls in one window, which has to outlive this object.
@@ -9,7 +11,11 @@ public:
     // Wider than `larghezza` pixels, unless 0, it goes on in another line.
     void testo(HWND controllo, const wchar_t* testo, int larghezza = 0);
 
+    // Their font is that of the controls' resolution from here on. Raises its failure.
+    void adatta();
+
 private:
     // Belongs to the controls' top-level window.
     HWND finestra_ = nullptr;
+    Carattere carattere_;
 };

@@ -39,6 +39,11 @@ constexpr std::array<ACCEL, 3> tasti{{{FVIRTKEY | FCONTROL, 'S', IDC_CMDSALVA},
                                       {FVIRTKEY | FCONTROL, VK_RETURN, IDC_CMDSALVA},
                                       {FVIRTKEY, VK_F1, IDC_GUIDA}}};
 
+// A size in pixels of one resolution, in those of another.
+SIZE portata(SIZE misura, Dpi da, Dpi a) noexcept {
+    return {MulDiv(misura.cx, a.x.dpi, da.x.dpi), MulDiv(misura.cy, a.y.dpi, da.y.dpi)};
+}
+
 } // namespace
 
 void FrmEditFeed::mostra(HWND proprietaria) {
@@ -52,6 +57,8 @@ void FrmEditFeed::mostra(HWND proprietaria) {
 bool FrmEditFeed::inizializza() {
     annullato_ = true;
     iniziali_.clear();
+    inPiu_ = {};
+    dpi_ = dpiDi(hwnd());
     ancoraggi_ = Ancoraggi(hwnd(), ancorati);
     tasti_ = TastiDialogo(hwnd(), tasti);
     txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
@@ -68,6 +75,18 @@ bool FrmEditFeed::inizializza() {
     return true;
 }
 
+// What the user added to the size grows with the rest.
+void FrmEditFeed::adattato() {
+    const Dpi dpi = dpiDi(hwnd());
+    ancoraggi_ = Ancoraggi(hwnd(), ancorati);
+    const SIZE inPiu = portata(inPiu_, std::exchange(dpi_, dpi), dpi);
+    RECT r{};
+    GetWindowRect(hwnd(), &r);
+    SetWindowPos(hwnd(), nullptr, r.left - inPiu.cx / 2, r.top - inPiu.cy / 2,
+                 r.right - r.left + inPiu.cx, r.bottom - r.top + inPiu.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 // The dialog keeps its middle, as far as that leaves it on the screen.
 void FrmEditFeed::applicaMisura() const noexcept {
     if (!misura_) {
@@ -78,10 +97,12 @@ void FrmEditFeed::applicaMisura() const noexcept {
     GetMonitorInfoW(MonitorFromWindow(hwnd(), MONITOR_DEFAULTTONEAREST), &schermo);
     const RECT& area = schermo.rcWork;
     const POINT minima = ancoraggi_.misuraMinima();
+    const SIZE inPiu = portata(misura_->inPiu, misura_->dpi, dpi_);
     RECT r{};
     GetWindowRect(hwnd(), &r);
-    const LONG larghezza = std::max(minima.x, std::min(misura_->misura.cx, area.right - area.left));
-    const LONG altezza = std::max(minima.y, std::min(misura_->misura.cy, area.bottom - area.top));
+    const LONG larghezza =
+        std::max(minima.x, std::min(minima.x + inPiu.cx, area.right - area.left));
+    const LONG altezza = std::max(minima.y, std::min(minima.y + inPiu.cy, area.bottom - area.top));
     const LONG sinistra = (r.left + r.right - larghezza) / 2;
     const LONG alto = (r.top + r.bottom - altezza) / 2;
     SetWindowPos(hwnd(), nullptr, std::max(area.left, std::min(sinistra, area.right - larghezza)),
@@ -97,7 +118,10 @@ void FrmEditFeed::ricordaMisura() noexcept {
     posto.length = sizeof posto;
     if (GetWindowPlacement(hwnd(), &posto) != FALSE) {
         const RECT& r = posto.rcNormalPosition;
-        misura_ = {{r.right - r.left, r.bottom - r.top}, IsZoomed(hwnd()) != FALSE};
+        const POINT minima = ancoraggi_.misuraMinima();
+        misura_ = {{r.right - r.left - minima.x, r.bottom - r.top - minima.y},
+                   IsZoomed(hwnd()) != FALSE,
+                   dpi_};
     }
 }
 
@@ -105,6 +129,7 @@ INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
     switch (msg) {
     case WM_SIZE:
         ancoraggi_.disponi();
+        inPiu_ = ancoraggi_.inPiu();
         return TRUE;
     case WM_GETMINMAXINFO:
         reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = ancoraggi_.misuraMinima();

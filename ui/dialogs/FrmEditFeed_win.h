@@ -3,6 +3,7 @@
 #include "document/clsItemRss.h"
 #include "document/diario.h"
 #include "support/tempo/dataora.h"
+#include "support/windows/dpi_win.h"
 #include "ui/controls/ancoraggi_win.h"
 #include "ui/controls/campoTesto_win.h"
 #include "ui/controls/dialogo_win.h"
@@ -13,10 +14,12 @@
 class Messaggi;
 class Orologio;
 
-// The size that the user gave the editor, frame and all, in pixels; `tutta` over it all the screen.
+// By how much the user made the editor larger than it is, in pixels of that resolution; `tutta`
+// over it all the screen.
 struct MisuraEditor {
-    SIZE misura{};
+    SIZE inPiu{};
     bool tutta = false;
+    Dpi dpi;
 };
 
 // The modal dialog that edits one item: fill Elemento, then mostra, then read Annullato and, where
@@ -35,8 +38,8 @@ public:
     // and when there is no window.
     [[nodiscard]] std::optional<TestiCampi> scritti();
 
-    // The size to show the dialog with, no less than it needs and no more than there is room for;
-    // then the one that it had when it was closed.
+    // The size to show the dialog with, as far as there is room for it; then the one that it had
+    // when it was closed.
     [[nodiscard]] const std::optional<MisuraEditor>& Misura() const noexcept { return misura_; }
     void Misura(const std::optional<MisuraEditor>& valore) noexcept { misura_ = valore; }
 
@@ -62,6 +65,7 @@ public:
 private:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
+    void adattato() override;
     void onEccezione() noexcept override;
 
     void PulisciCampi() noexcept;
@@ -86,6 +90,9 @@ private:
     TestiCampi iniziali_;
     bool toccato_ = false;
     std::optional<MisuraEditor> misura_;
+    // By how much the dialog is larger than it was made, in pixels of `dpi_`.
+    SIZE inPiu_{};
+    Dpi dpi_;
     Ancoraggi ancoraggi_;
     TastiDialogo tasti_;
 

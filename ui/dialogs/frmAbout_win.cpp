@@ -67,6 +67,15 @@ bool frmAbout::inizializza() {
     SetWindowTextW(controllo(IDC_LBLAUTORE), std::wstring(prodotto::autore).c_str());
     SetWindowTextW(controllo(IDC_LBLSITO), std::wstring(prodotto::sito).c_str());
 
+    logo_ = caricaImmagine(IDR_LOGO, L"GIF");
+    adattato();
+
+    // The link comes first in the order of Tab; Enter is to close the box at once.
+    SetFocus(controllo(IDC_CMDOK));
+    return false;
+}
+
+void frmAbout::adattato() {
     carattereTitolo_ = derivato(hwnd(), [](LOGFONTW& font) {
         font.lfWeight = FW_BOLD;
         font.lfHeight = MulDiv(font.lfHeight, 3, 2);
@@ -75,14 +84,8 @@ bool frmAbout::inizializza() {
                  reinterpret_cast<WPARAM>(carattereTitolo_.get()), FALSE);
     carattereSito_ = derivato(hwnd(), [](LOGFONTW& font) { font.lfUnderline = TRUE; });
     misuraSito();
-    ridimensiona(controllo(IDC_PICICON),
-                 {GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)});
-    logo_ = caricaImmagine(IDR_LOGO, L"GIF");
+    misuraIcona();
     misuraLogo();
-
-    // The link comes first in the order of Tab; Enter is to close the box at once.
-    SetFocus(controllo(IDC_CMDOK));
-    return false;
 }
 
 INT_PTR frmAbout::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
@@ -161,12 +164,11 @@ void frmAbout::disegna(const DRAWITEMSTRUCT& voce) const {
 }
 
 // Drawn here, because a static control of the icon kind has no name for those who cannot see it.
-void frmAbout::disegnaIcona(const DRAWITEMSTRUCT& voce) {
+void frmAbout::disegnaIcona(const DRAWITEMSTRUCT& voce) const {
     const RECT& r = voce.rcItem;
     FillRect(voce.hDC, &r, GetSysColorBrush(COLOR_3DFACE));
-    DrawIconEx(voce.hDC, r.left, r.top,
-               LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_OSTRELLE)),
-               r.right - r.left, r.bottom - r.top, 0, nullptr, DI_NORMAL);
+    DrawIconEx(voce.hDC, r.left, r.top, icona_.get(), r.right - r.left, r.bottom - r.top, 0,
+               nullptr, DI_NORMAL);
 }
 
 // Not by IPicture::Render, which works in hundredths of a millimetre and can miss the last pixels.
@@ -208,9 +210,18 @@ void frmAbout::misuraSito() const {
     GetClientRect(sito, &posto);
     // A line, half of it on either side: some fonts draw their texts wider than they say.
     const LONG margine = scritta.bottom;
-    const LONG orlo = 2 * GetSystemMetrics(SM_CYFOCUSBORDER);
+    const LONG orlo = 2 * metrica(SM_CYFOCUSBORDER, dpiDi(hwnd()).y);
     ridimensiona(sito, {std::min(scritta.right + margine, posto.right),
                         std::min(scritta.bottom + orlo, posto.bottom)});
+}
+
+void frmAbout::misuraIcona() {
+    const Dpi dpi = dpiDi(hwnd());
+    const SIZE misura{metrica(SM_CXICON, dpi.x), metrica(SM_CYICON, dpi.y)};
+    icona_ = ManigliaIcona(
+        static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_OSTRELLE),
+                                      IMAGE_ICON, misura.cx, misura.cy, LR_DEFAULTCOLOR)));
+    ridimensiona(controllo(IDC_PICICON), misura);
 }
 
 // The picture is drawn for 96 dpi.

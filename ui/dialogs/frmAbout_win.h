@@ -31,14 +31,16 @@ public:
 protected:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
+    void adattato() override;
     void onEccezione() noexcept override;
 
 private:
     bool comando(WORD id, WORD notifica);
     void disegna(const DRAWITEMSTRUCT& voce) const;
-    static void disegnaIcona(const DRAWITEMSTRUCT& voce);
+    void disegnaIcona(const DRAWITEMSTRUCT& voce) const;
     void disegnaLogo(const DRAWITEMSTRUCT& voce) const;
     void disegnaSito(const DRAWITEMSTRUCT& voce) const;
+    void misuraIcona();
     void misuraSito() const;
     void misuraLogo() const;
     void cmdOK_Click();
@@ -46,6 +48,7 @@ private:
     void lblSito_Click() const;
 
     Messaggi& messaggi_;
+    ManigliaIcona icona_;
     Carattere carattereTitolo_;
     Carattere carattereSito_;
     ComPtr<IPicture> logo_;

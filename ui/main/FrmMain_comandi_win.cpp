@@ -29,6 +29,7 @@ void FrmMain::cmdGetSize_Click() {
     esecutore_.daSolo([&] {
         protetto(
             [&] {
+                // A picture tells its size by the screen's resolution, wherever the window is.
                 const UnitaDiFinestra unita(dpiDi(nullptr));
                 ImmagineNascosta ImgDim;
                 ClsSizerImg misura;

@@ -19,32 +19,9 @@
 #include <commctrl.h>
 #include <shellapi.h>
 
-#include <algorithm>
-#include <array>
-
 namespace {
 
 constexpr const wchar_t* classe = L"OstrelleFrmMain";
-
-// The size the window opens with, the least one, and its parts, in pixels at 96 dpi.
-constexpr SIZE misuraIniziale{1000, 700};
-constexpr SIZE misuraMinima{640, 480};
-constexpr int larghezzaPicCmd = 124;
-constexpr int altezzaPulsante = 26;
-constexpr int larghezzaPannelloDimensioni = 110;
-
-RECT areaDiLavoro() noexcept {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
-}
-
-// Pixels at 96 dpi as this system's, no more than there is room for.
-POINT scalata(SIZE misura, const RECT& area) noexcept {
-    const Dpi dpi = dpiDi(nullptr);
-    return {std::min<LONG>(dpi.x.daProgetto(misura.cx), area.right - area.left),
-            std::min<LONG>(dpi.y.daProgetto(misura.cy), area.bottom - area.top)};
-}
 
 // Enter presses the button that has the focus; a window that is no dialog has to see to it.
 bool premeConInvio(const MSG& msg) noexcept {
@@ -99,7 +76,8 @@ FrmMain::FrmMain(const Servizi& servizi, Documento& documento)
     documento.ultimaData(servizi.orologio.adesso().locale);
 }
 
-void FrmMain::apri(int comeMostrare) {
+void FrmMain::apri(int comeMostrare, std::optional<Dpi> dpi) {
+    dpiIniziale_ = dpi;
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
     descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -108,12 +86,8 @@ void FrmMain::apri(int comeMostrare) {
     registra(descrizione);
 
     ManigliaMenu menu = creaBarraMenu();
-    const RECT area = areaDiLavoro();
-    const auto [larghezza, altezza] = scalata(misuraIniziale, area);
-    const LONG sinistra = area.left + (area.right - area.left - larghezza) / 2;
-    const LONG alto = area.top + (area.bottom - area.top - altezza) / 2;
     crea(classe, std::wstring(prodotto::titolo).c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-         WS_EX_CONTROLPARENT, RECT{sinistra, alto, larghezza, altezza}, nullptr, menu.get());
+         WS_EX_CONTROLPARENT, RECT{}, nullptr, menu.get());
     static_cast<void>(menu.cedi()); // the window's from here on
     ShowWindow(hwnd(), comeMostrare);
     UpdateWindow(hwnd());
@@ -165,6 +139,8 @@ bool FrmMain::acceleraGriglia(MSG& msg) {
 LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
     switch (codice) {
     case WM_CREATE:
+        tieniDpi(hwnd(), dpiIniziale_ ? *dpiIniziale_ : dpiDi(hwnd()));
+        posa();
         creaControlli();
         // Everything in its place before it is filled and seen: moved later, it would all be worked
         // out and painted twice.
@@ -172,11 +148,17 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         Form_Load();
         return 0;
     case WM_SIZE:
-        SendMessageW(StatusBar1_, WM_SIZE, w, l);
-        Form_Resize();
+        // Before there is anything in it, it gets its place.
+        if (StatusBar1_ != nullptr) {
+            SendMessageW(StatusBar1_, WM_SIZE, w, l);
+            Form_Resize();
+        }
+        return 0;
+    case WM_DPICHANGED:
+        cambiaDpi({{LOWORD(w)}, {HIWORD(w)}}, *reinterpret_cast<const RECT*>(l));
         return 0;
     case WM_GETMINMAXINFO:
-        reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = scalata(misuraMinima, areaDiLavoro());
+        reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = misuraMinima();
         return 0;
     case WM_COMMAND:
         // Enter and Esc in a field come as a dialog's answers; this window has no such commands.
@@ -215,6 +197,7 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         }
         return 0;
     case WM_SETTINGCHANGE:
+        caratteriDiSistema();
         griglia_.aggiornaAspetto();
         avvisi_.aggiornaAspetto();
         break;
@@ -247,6 +230,7 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
     }
     case WM_DESTROY:
         Form_Unload();
+        scordaDpi(hwnd());
         PostQuitMessage(0);
         return 0;
     case WM_ENABLE:
@@ -262,26 +246,6 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         break;
     }
     return predefinito(codice, w, l);
-}
-
-void FrmMain::creaControlli() {
-    KOInputNumerico::registraClasse();
-    const Dpi dpi = dpiDi(hwnd());
-    Toolbar1_.crea(hwnd(), IDC_TOOLBAR, dpi.y);
-    campi_.crea(IDD_FRADATI, hwnd());
-    const auto carattere = reinterpret_cast<HFONT>(SendMessageW(campi_.hwnd(), WM_GETFONT, 0, 0));
-    griglia_.creaIn(hwnd(), IDC_GRIGLIA, L"Elementi", RECT{});
-    striscia_.altezzaPulsante(dpi.y.daProgetto(altezzaPulsante));
-    striscia_.crea(hwnd(), carattere);
-    StatusBar1_ = CreateWindowExW(
-        0, STATUSCLASSNAMEW, nullptr, WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, hwnd(),
-        reinterpret_cast<HMENU>(UINT_PTR{IDC_STATUSBAR}), GetModuleHandleW(nullptr), nullptr);
-    if (StatusBar1_ == nullptr) {
-        sollevaWin32();
-    }
-    avvisi_.prepara(hwnd(), carattere, dpi.y);
-    // What is dropped on a control that takes no files comes to the window around it.
-    DragAcceptFiles(hwnd(), TRUE);
 }
 
 void FrmMain::Form_Load() {
@@ -351,48 +315,4 @@ void FrmMain::MostraErrore() {
 
 void FrmMain::onEccezione() noexcept {
     ignorando([this] { MostraErrore(); });
-}
-
-void FrmMain::Form_Resize() {
-    const Dpi dpi = dpiDi(hwnd());
-    RECT interno{};
-    RECT stato{};
-    RECT esterno{};
-    RECT griglia{};
-    GetClientRect(hwnd(), &interno);
-    GetClientRect(griglia_.hwnd(), &griglia);
-    GetClientRect(StatusBar1_, &stato);
-    GetWindowRect(hwnd(), &esterno);
-
-    MisureFinestra misure{};
-    misure.larghezzaInterna = dpi.x.twips(interno.right);
-    misure.altezzaInterna = dpi.y.twips(interno.bottom);
-    misure.altezzaStato = dpi.y.twips(stato.bottom + avvisi_.altezza());
-    misure.altezzaGriglia = dpi.y.twips(griglia.bottom);
-    misure.altoDati = dpi.y.twips(Toolbar1_.disponi()) + margineTwips;
-    misure.larghezzaPicCmd = dpi.x.twips(dpi.x.daProgetto(larghezzaPicCmd));
-    campi_.misura(misure, dpi);
-
-    const Disposizione disposizione = DisponiControlli(misure);
-    campi_.disponi(disposizione, dpi);
-    const auto sposta = [&](HWND controllo, const std::optional<Riquadro>& r) {
-        if (r) {
-            SetWindowPos(controllo, nullptr, dpi.x.pixelTroncati(r->sinistra),
-                         dpi.y.pixelTroncati(r->alto), dpi.x.pixelTroncati(r->larghezza),
-                         dpi.y.pixelTroncati(r->altezza),
-                         SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-        }
-    };
-    sposta(griglia_.hwnd(), disposizione.griglia);
-    sposta(striscia_.hwnd(), disposizione.picCmd);
-    avvisi_.disponi(
-        {0, interno.bottom - stato.bottom - avvisi_.altezza(), interno.right, avvisi_.altezza()});
-
-    const std::array<int, 2> pannelli{
-        static_cast<int>(interno.right) - dpi.x.daProgetto(larghezzaPannelloDimensioni), -1};
-    SendMessageW(StatusBar1_, SB_SETPARTS, pannelli.size(),
-                 reinterpret_cast<LPARAM>(pannelli.data()));
-    const std::wstring dimensioni = L"(" + std::to_wstring(esterno.right - esterno.left) + L"," +
-                                    std::to_wstring(esterno.bottom - esterno.top) + L")";
-    SendMessageW(StatusBar1_, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(dimensioni.c_str()));
 }

@@ -3,6 +3,7 @@
 #include "document/custodeLavoro_win.h"
 #include "document/documento.h"
 #include "document/storia.h"
+#include "support/windows/dpi_win.h"
 #include "support/windows/maniglie_win.h"
 #include "ui/controls/finestra_win.h"
 #include "ui/controls/griglia_win.h"
@@ -23,6 +24,7 @@
 #include "ui/main/vistaElementi_win.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -57,8 +59,9 @@ public:
     FrmMain& operator=(const FrmMain&) = delete;
     ~FrmMain() override { distruggi(); }
 
-    // Makes the window (Form_Load runs) and shows it. Raises the failure to make it.
-    void apri(int comeMostrare);
+    // Makes the window (Form_Load runs) and shows it, for its monitor's resolution unless another
+    // is given. Raises the failure to make it.
+    void apri(int comeMostrare, std::optional<Dpi> dpi = std::nullopt);
 
     // Runs messages until the window is gone; gives the program's exit code.
     int cicloMessaggi();
@@ -127,7 +130,14 @@ private:
     // The diary cannot be kept: why is in the exception being handled.
     void avvisaSenzaDiario() noexcept;
 
+    // Gives the window its first place, in the middle of the work area.
+    void posa() noexcept;
+    [[nodiscard]] POINT misuraMinima() const noexcept;
     void creaControlli();
+    // The window's fonts and sizes for its resolution; the fields come first.
+    void adattaParti();
+    void caratteriDiSistema();
+    void cambiaDpi(Dpi dpi, const RECT& posto);
     // Runs the command of a key of the grid, when it is one and the grid has the focus.
     [[nodiscard]] bool acceleraGriglia(MSG& messaggio);
 
@@ -153,6 +163,9 @@ private:
     Acceleratori acceleratoriGriglia_;
     HWND StatusBar1_ = nullptr;
     std::wstring stato_;
+    // Of the status bar and of tooltips.
+    Carattere carattereStato_;
+    std::optional<Dpi> dpiIniziale_;
     HWND fuoco_ = nullptr;
     // The end of the session was agreed to.
     bool congedata_ = false;

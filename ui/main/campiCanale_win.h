@@ -91,6 +91,7 @@ public:
 private:
     bool inizializza() override;
     INT_PTR messaggio(UINT msg, WPARAM wParam, LPARAM lParam) override;
+    void adattato() override { suggerimenti_.adatta(); }
     void onEccezione() noexcept override { finestra_.onEccezione(); }
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;

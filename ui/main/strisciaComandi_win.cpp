@@ -12,7 +12,7 @@ constexpr const wchar_t* classe = L"OstrellePicCmd";
 
 } // namespace
 
-void StrisciaComandi::crea(HWND padre, HFONT carattere) {
+void StrisciaComandi::crea(HWND padre) {
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
     descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -33,7 +33,24 @@ void StrisciaComandi::crea(HWND padre, HFONT carattere) {
         if (pulsante == nullptr) {
             sollevaWin32();
         }
-        SendMessageW(pulsante, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
+    }
+}
+
+void StrisciaComandi::adatta(HFONT carattere, int altezzaPulsante) noexcept {
+    altezzaPulsante_ = altezzaPulsante;
+    for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
+        SendMessageW(c, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
+    }
+    disponi();
+}
+
+void StrisciaComandi::disponi() noexcept {
+    RECT r{};
+    GetClientRect(hwnd(), &r);
+    int alto = 0;
+    for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
+        SetWindowPos(c, nullptr, 0, alto, r.right, altezzaPulsante_, SWP_NOZORDER | SWP_NOACTIVATE);
+        alto += altezzaPulsante_;
     }
 }
 
@@ -42,14 +59,7 @@ LRESULT StrisciaComandi::messaggio(UINT codice, WPARAM w, LPARAM l) {
         return SendMessageW(GetParent(hwnd()), codice, w, l);
     }
     if (codice == WM_SIZE) {
-        int alto = 0;
-        for (const RigaComando& riga : comandi()) {
-            if (riga.striscia.id != 0) {
-                SetWindowPos(GetDlgItem(hwnd(), riga.striscia.id), nullptr, 0, alto, LOWORD(l),
-                             altezzaPulsante_, SWP_NOZORDER | SWP_NOACTIVATE);
-                alto += altezzaPulsante_;
-            }
-        }
+        disponi();
         return 0;
     }
     return predefinito(codice, w, l);

@@ -11,15 +11,17 @@ public:
     StrisciaComandi& operator=(const StrisciaComandi&) = delete;
     ~StrisciaComandi() override { distruggi(); }
 
-    // The height of each button, in pixels; before the strip gets its size.
-    void altezzaPulsante(int pixel) noexcept { altezzaPulsante_ = pixel; }
+    // Makes it with its buttons. Raises the failure to make it.
+    void crea(HWND padre);
 
-    // Makes it with its buttons; the font is the caller's. Raises the failure to make it.
-    void crea(HWND padre, HFONT carattere);
+    // The font of the buttons, which is the caller's, and the height of each, in pixels.
+    void adatta(HFONT carattere, int altezzaPulsante) noexcept;
 
 private:
     LRESULT messaggio(UINT codice, WPARAM w, LPARAM l) override;
     void onEccezione() noexcept override {}
+
+    void disponi() noexcept;
 
     int altezzaPulsante_ = 0;
 };

@@ -88,3 +88,37 @@ TEST(DpiDi, SonoQuelliDelloSchermoEDelleSueFinestre) {
 TEST(DpiDi, UnaFinestraCheNonCEValeNovantasei) {
     EXPECT_EQ(dpiDi(reinterpret_cast<HWND>(INT_PTR{0x7FFFFFFE})), (Dpi{{96}, {96}}));
 }
+
+TEST(DpiDi, QuelliTenutiSonoDiTuttoCioCheStaNellaFinestra) {
+    const auto crea = [](DWORD stile, HWND padre) {
+        return CreateWindowExW(0, L"STATIC", L"", stile, 0, 0, 10, 10, padre, nullptr, nullptr,
+                               nullptr);
+    };
+    const HWND finestra = crea(WS_POPUP, nullptr);
+    const HWND posseduta = crea(WS_POPUP, finestra);
+    const HWND nipote = crea(WS_CHILD, crea(WS_CHILD, finestra));
+    const Dpi prima = dpiDi(finestra);
+    constexpr Dpi tenuti{{144}, {216}};
+    ASSERT_NE(prima, tenuti);
+    tieniDpi(finestra, tenuti);
+    EXPECT_EQ(dpiDi(finestra), tenuti);
+    EXPECT_EQ(dpiDi(nipote), tenuti);
+    EXPECT_EQ(dpiDi(posseduta), prima);
+    tieniDpi(finestra, {{192}, {192}});
+    EXPECT_EQ(dpiDi(nipote), (Dpi{{192}, {192}}));
+    scordaDpi(finestra);
+    EXPECT_EQ(dpiDi(nipote), prima);
+    DestroyWindow(posseduta);
+    DestroyWindow(finestra);
+}
+
+TEST(Metriche, CresconoConLaRisoluzione) {
+    for (const int quale : {SM_CXVSCROLL, SM_CXICON, SM_CXCURSOR}) {
+        EXPECT_EQ(metrica(quale, {192}), 2 * metrica(quale, {96})) << quale;
+    }
+    EXPECT_NEAR(metriche({192}).lfMessageFont.lfHeight, 2 * metriche({96}).lfMessageFont.lfHeight,
+                1);
+    EXPECT_NEAR(metriche({192}).lfStatusFont.lfHeight, 2 * metriche({96}).lfStatusFont.lfHeight, 1);
+    const Risoluzione schermo = dpiDi(nullptr).y;
+    EXPECT_EQ(metrica(SM_CXVSCROLL, schermo), GetSystemMetrics(SM_CXVSCROLL));
+}

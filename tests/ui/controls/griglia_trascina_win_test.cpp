@@ -64,7 +64,7 @@ TEST(GrigliaTrascina, IlPuntatoreEQuelloDisegnatoPerLaRiga) {
     p.vai(p.punto(3));
     const Immagine inMovimento = puntatore(sfondo);
     p.pulsante(MOUSEEVENTF_LEFTUP);
-    const Puntatori puntatori;
+    const Puntatori puntatori(dpiDi(nullptr));
     puntatori.mostra(Puntatore::Trascina);
     const Immagine disegnato = puntatore(sfondo);
     puntatori.mostra(Puntatore::Predefinito);

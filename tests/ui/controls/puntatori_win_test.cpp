@@ -18,7 +18,7 @@ int quanti(const Immagine& immagine, COLORREF colore) {
 } // namespace
 
 TEST(Puntatori, QuelloDelTrascinamentoSiVedeSuOgniSfondo) {
-    const Puntatori puntatori;
+    const Puntatori puntatori(dpiDi(nullptr));
     puntatori.mostra(Puntatore::Trascina);
     const Immagine suBianco = puntatore(bianco);
     const Immagine suNero = puntatore(nero);
@@ -34,7 +34,7 @@ TEST(Puntatori, QuelloDelTrascinamentoSiVedeSuOgniSfondo) {
 }
 
 TEST(Puntatori, GliAltriSonoDelSistema) {
-    const Puntatori puntatori;
+    const Puntatori puntatori(dpiDi(nullptr));
     puntatori.mostra(Puntatore::Vietato);
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_NO));
     puntatori.mostra(Puntatore::Predefinito);

@@ -111,7 +111,7 @@ TEST_F(FrmEditFeedMisura, LaMisuraRestaFinoAllaFineDelProgramma) {
 }
 
 TEST_F(FrmEditFeedMisura, UnaMisuraPiuGrandeDelloSchermoNonNeEsce) {
-    editor.Misura(MisuraEditor{{100'000, 100'000}, false});
+    editor.Misura(MisuraEditor{{100'000, 100'000}, false, dpiDi(proprietaria)});
     usa([&] {
         MONITORINFO schermo{};
         schermo.cbSize = sizeof schermo;
@@ -125,6 +125,7 @@ TEST_F(FrmEditFeedMisura, UnaMisuraPiuGrandeDelloSchermoNonNeEsce) {
 
 TEST_F(FrmEditFeedMisura, AncheUnaMisuraGrandeRestaInMezzo) {
     POINT mezzo{};
+    SIZE nata{};
     const auto mezzoDellaFinestra = [&] {
         RECT r{};
         GetWindowRect(finestra, &r);
@@ -132,13 +133,23 @@ TEST_F(FrmEditFeedMisura, AncheUnaMisuraGrandeRestaInMezzo) {
     };
     usa([&] {
         mezzo = mezzoDellaFinestra();
+        nata = misura();
         premi(VK_ESCAPE);
     });
-    editor.Misura(MisuraEditor{{900, 500}, false});
+    editor.Misura(MisuraEditor{{200, 100}, false, dpiDi(proprietaria)});
     usa([&] {
-        EXPECT_EQ(misura().cx, 900);
+        EXPECT_EQ(misura().cx, nata.cx + 200);
+        EXPECT_EQ(misura().cy, nata.cy + 100);
         EXPECT_NEAR(mezzoDellaFinestra().x, mezzo.x, 1);
         EXPECT_NEAR(mezzoDellaFinestra().y, mezzo.y, 1);
+        premi(VK_ESCAPE);
+    });
+    // On a monitor of half this one's resolution.
+    const Dpi qui = dpiDi(proprietaria);
+    editor.Misura(MisuraEditor{{70, 30}, false, {{qui.x.dpi / 2}, {qui.y.dpi / 2}}});
+    usa([&] {
+        EXPECT_EQ(misura().cx, nata.cx + 140);
+        EXPECT_EQ(misura().cy, nata.cy + 60);
         premi(VK_ESCAPE);
     });
 }

@@ -42,14 +42,31 @@ private:
 
 } // namespace
 
-TEST(BarraStrumenti, LeFigureSonoQuelleDelloSchermo) {
-    for (const auto& [dpi, lato] : {std::pair{72, 16}, std::pair{96, 16}, std::pair{119, 16},
-                                    std::pair{120, 24}, std::pair{144, 24}, std::pair{167, 24},
-                                    std::pair{168, 32}, std::pair{192, 32}, std::pair{288, 32}}) {
+TEST(BarraStrumenti, LeFigureSonoQuelleDellaRisoluzione) {
+    for (const auto& [dpi, lato] :
+         {std::pair{72, 16}, std::pair{96, 16}, std::pair{119, 16}, std::pair{120, 24},
+          std::pair{144, 24}, std::pair{167, 24}, std::pair{168, 32}, std::pair{192, 32},
+          std::pair{240, 40}, std::pair{288, 48}}) {
         const BarraProva p(dpi);
         EXPECT_EQ(p.lati(), std::pair(lato, lato)) << dpi;
         EXPECT_EQ(ImageList_GetImageCount(p.figure()), 5) << dpi;
         EXPECT_GE(p.barra.disponi(), lato) << dpi;
+    }
+}
+
+TEST(BarraStrumenti, PerUnAltraRisoluzioneELaBarraCheSarebbeNataPerQuella) {
+    const auto pulsante = [](const BarraProva& p) {
+        RECT r{};
+        SendMessageW(p.finestra(), TB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&r));
+        return std::array{r.left, r.top, r.right, r.bottom};
+    };
+    BarraProva p(96);
+    for (const int dpi : {288, 144, 192, 96}) {
+        p.barra.figure({dpi});
+        const BarraProva nuova(dpi);
+        EXPECT_EQ(p.lati(), nuova.lati()) << dpi;
+        EXPECT_EQ(p.barra.disponi(), nuova.barra.disponi()) << dpi;
+        EXPECT_EQ(pulsante(p), pulsante(nuova)) << dpi;
     }
 }
 
@@ -67,7 +84,7 @@ TEST(BarraStrumenti, OgniPulsanteHaLaSuaFiguraNellOrdineDellaTabella) {
 }
 
 TEST(BarraStrumenti, DoveLaFiguraETrasparenteSiVedeLoSfondo) {
-    for (const int dpi : {96, 144, 192}) {
+    for (const int dpi : {96, 144, 192, 288}) {
         const BarraProva p(dpi);
         const int lato = p.lati().first;
         const HDC schermo = GetDC(nullptr);
