@@ -30,6 +30,7 @@ RequestExecutionLevel user
 ManifestDPIAware true
 ManifestSupportedOS all
 AllowSkipFiles off
+CompletedText "Operazione completata"
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
 
