@@ -1,5 +1,5 @@
 ; The installer: for one user, no administrator. NOME, VERSIONE, CASA and ICONA come from whoever
-; calls makensis; the folder NOME beside the output is what gets installed.
+; calls makensis, as does file.nsh, which names what gets installed.
 
 ; Only 64-bit systems can run the program.
 Target amd64-unicode
@@ -127,9 +127,9 @@ FunctionEnd
 Section
   !insertmacro seInEsecuzione "l'installazione"
   ClearErrors
-  SetOutPath "$INSTDIR"
   RMDir /r "$INSTDIR\guida"
-  File /r "${NOME}/*"
+  !include file.nsh
+  SetOutPath "$INSTDIR"
   WriteUninstaller "${DISINSTALLA}"
   ${If} ${Errors}
     SetErrorLevel 1

