@@ -206,12 +206,13 @@ Section un.
   DeleteRegKey HKCU "${CLASSI}\${TIPO}"
   DeleteRegKey HKCU "${CLASSI}\Applications\${NOME}.exe"
   DeleteRegKey /ifempty HKCU "${CLASSI}\Applications"
-  DeleteRegKey HKCU "${VOCE}"
 
   ${If} $scelta = ${BST_CHECKED}
     DeleteRegKey HKCU "${IMPOSTAZIONI}\${NOME}"
     DeleteRegKey /ifempty HKCU "${IMPOSTAZIONI}"
     RMDir /r "${DATI}"
   ${EndIf}
+  ; Last: while anything is left to do, the list of programs has it.
+  DeleteRegKey HKCU "${VOCE}"
   !insertmacro associazioniCambiate
 SectionEnd

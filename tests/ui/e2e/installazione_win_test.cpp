@@ -124,12 +124,13 @@ protected:
         RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings");
     }
 
-    // As the list of programs removes it; waits until that has come of it.
+    // As the list of programs removes it; what is left then.
     static void attendiDisinstallata(const std::wstring& argomento, const Stato& prima,
                                      const std::string& resta) {
         EXPECT_EQ(
             codiceFinale(avviaProcesso(registrato(voce, L"QuietUninstallString") + argomento)), 0U);
-        static_cast<void>(attendiChe([&] { return cambiatoDa(prima) == resta; }));
+        // Last of all goes its entry; a file that is being read could not be deleted.
+        EXPECT_TRUE(attendiChe([] { return registrato(voce, L"DisplayName") == L"(no value)"; }));
         EXPECT_EQ(cambiatoDa(prima), resta);
     }
 
