@@ -88,6 +88,26 @@ prepara_prove() {
   ln -s unc/server/dati "$WINEPREFIX/dosdevices/r:"
 }
 
+# copia_prefisso FROM TO: a prefix's registry and drives once more.
+copia_prefisso() {
+  rm -rf "$2"
+  mkdir -p "$2"
+  cp -a "$1"/*.reg "$1/dosdevices" "$1/.update-timestamp" "$2"
+}
+
+# prefisso_installazione: beside the tests' prefix one like it, made anew, for those who install the
+# program; Windows itself is shared.
+prefisso_installazione() {
+  local nuovo="$build/wine-installazione"
+  copia_prefisso "$WINEPREFIX" "$nuovo"
+  mkdir "$nuovo/drive_c"
+  ln -s "$WINEPREFIX/drive_c"/* "$nuovo/drive_c"
+  rm "$nuovo/drive_c/users"
+  cp -a "$WINEPREFIX/drive_c/users" "$nuovo/drive_c"
+  # Nothing there leads out of it, into this user's own folders; they must be there all the same.
+  find "$nuovo/drive_c/users" -type l -exec rm {} \; -exec mkdir {} \;
+}
+
 # prefisso_doppio: the tests' prefix once more, its screen at 192 dpi; the drive is the same. Ends what
 # runs in the first one.
 prefisso_doppio() {
@@ -95,9 +115,7 @@ prefisso_doppio() {
   "$wineserver" -k || true
   "$wineserver" -w
   export WINEPREFIX="$build/wine-doppi"
-  rm -rf "$WINEPREFIX"
-  mkdir -p "$WINEPREFIX"
-  cp -a "$prima"/*.reg "$prima/dosdevices" "$prima/.update-timestamp" "$WINEPREFIX"
+  copia_prefisso "$prima" "$WINEPREFIX"
   ln -s "$prima/drive_c" "$WINEPREFIX/drive_c"
   "$wine64" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 192 /f >/dev/null
   "$wineserver" -p 30 </dev/null >/dev/null 2>&1 || true

@@ -2,9 +2,9 @@
 
 #include "res/risorse.h"
 #include "support/windows/file_win.h"
-#include "support/windows/maniglie_win.h"
 #include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/cartella_win.h"
+#include "tests/aiuti/processo_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/main/comandi.h"
 
@@ -14,6 +14,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -27,24 +28,17 @@ public:
     Programma() : Programma(L"") { attendiPrincipale(documentoNuovo); }
     // Started with these arguments, in that folder; what it shows first is the caller's to wait
     // for.
-    explicit Programma(const std::wstring& argomenti, const wchar_t* inCartella = nullptr) {
-        const std::wstring cartella = cartellaProgramma();
-        std::wstring comando =
-            L'"' + cartella.substr(0, cartella.rfind(L'\\')) + L"\\Ostrelle.exe\" " + argomenti;
-        STARTUPINFOW come{};
-        come.cb = sizeof(come);
-        PROCESS_INFORMATION chi{};
-        EXPECT_TRUE(CreateProcessW(nullptr, comando.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                   inCartella, &come, &chi));
-        processo_ = ManigliaFile(chi.hProcess);
-        const ManigliaFile filo(chi.hThread);
-        id_ = chi.dwProcessId;
+    explicit Programma(const std::wstring& argomenti, const wchar_t* inCartella = nullptr)
+        : processo_(avviaProcesso(qui() + argomenti, inCartella)) {}
+    // Started by a whole command line.
+    [[nodiscard]] static Programma daComando(const std::wstring& comando) {
+        return Programma(avviaProcesso(comando));
     }
     Programma(const Programma&) = delete;
     Programma& operator=(const Programma&) = delete;
     ~Programma() {
-        if (WaitForSingleObject(processo_.get(), 0) == WAIT_TIMEOUT) {
-            TerminateProcess(processo_.get(), 1); // a test that failed half way
+        if (WaitForSingleObject(processo_.maniglia.get(), 0) == WAIT_TIMEOUT) {
+            TerminateProcess(processo_.maniglia.get(), 1); // a test that failed half way
         }
     }
 
@@ -61,7 +55,7 @@ public:
                    nullptr) {
                 DWORD chi = 0;
                 GetWindowThreadProcessId(trovata, &chi);
-                if (chi == id_ && IsWindowVisible(trovata) != FALSE &&
+                if (chi == processo_.id && IsWindowVisible(trovata) != FALSE &&
                     IsWindowEnabled(trovata) != FALSE) {
                     return true;
                 }
@@ -162,13 +156,13 @@ public:
     [[nodiscard]] POINT punto(int riga) const {
         RECT r{};
         r.left = LVIR_BOUNDS;
-        void* const la =
-            VirtualAllocEx(processo_.get(), nullptr, sizeof(r), MEM_COMMIT, PAGE_READWRITE);
-        EXPECT_TRUE(WriteProcessMemory(processo_.get(), la, &r, sizeof(r), nullptr));
+        void* const la = VirtualAllocEx(processo_.maniglia.get(), nullptr, sizeof(r), MEM_COMMIT,
+                                        PAGE_READWRITE);
+        EXPECT_TRUE(WriteProcessMemory(processo_.maniglia.get(), la, &r, sizeof(r), nullptr));
         EXPECT_TRUE(SendMessageW(lista(), LVM_GETITEMRECT, static_cast<WPARAM>(riga),
                                  reinterpret_cast<LPARAM>(la)));
-        EXPECT_TRUE(ReadProcessMemory(processo_.get(), la, &r, sizeof(r), nullptr));
-        VirtualFreeEx(processo_.get(), la, 0, MEM_RELEASE);
+        EXPECT_TRUE(ReadProcessMemory(processo_.maniglia.get(), la, &r, sizeof(r), nullptr));
+        VirtualFreeEx(processo_.maniglia.get(), la, 0, MEM_RELEASE);
         return {60, (r.top + r.bottom) / 2};
     }
 
@@ -187,15 +181,18 @@ public:
     [[nodiscard]] DWORD chiudi() {
         attendiTastiera(principale);
         premi(VK_F4, {VK_MENU});
-        EXPECT_EQ(WaitForSingleObject(processo_.get(), 30000), WAIT_OBJECT_0);
-        DWORD codice = 99;
-        GetExitCodeProcess(processo_.get(), &codice);
-        return codice;
+        return codiceFinale(processo_);
     }
 
     HWND principale = nullptr;
 
 private:
-    ManigliaFile processo_;
-    DWORD id_ = 0;
+    explicit Programma(Processo processo) : processo_(std::move(processo)) {}
+
+    [[nodiscard]] static std::wstring qui() {
+        const std::wstring cartella = cartellaProgramma();
+        return L'"' + cartella.substr(0, cartella.rfind(L'\\')) + L"\\Ostrelle.exe\" ";
+    }
+
+    Processo processo_;
 };

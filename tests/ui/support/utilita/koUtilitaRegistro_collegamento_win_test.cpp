@@ -1,10 +1,9 @@
 #include "support/utilita/koUtilita.h"
 
-#include "support/windows/com_win.h"
-#include "support/windows/errori_win.h"
 #include "support/windows/file_win.h"
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
+#include "tests/aiuti/collegamento_win.h"
 #include "tests/aiuti/dischi_win.h"
 #include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/sollevato.h"
@@ -20,36 +19,6 @@
 namespace {
 
 const std::wstring classi = L"Software\\Classes\\";
-
-// What a shortcut holds, read by the shell itself.
-struct Letto {
-    std::wstring obiettivo;
-    std::wstring cartella;
-    std::wstring icona;
-    int indice = -1;
-    int stile = 0;
-};
-
-Letto leggiCollegamento(const std::wstring& file) {
-    const Apartamento apartamento;
-    ComPtr<IShellLinkW> link;
-    verifica(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                              reinterpret_cast<void**>(link.riempi())));
-    ComPtr<IPersistFile> su;
-    verifica(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(su.riempi())));
-    verifica(su->Load(file.c_str(), STGM_READ));
-    Letto letto;
-    std::array<wchar_t, MAX_PATH> testo{};
-    verifica(link->GetPath(testo.data(), MAX_PATH, nullptr, 0));
-    letto.obiettivo = testo.data();
-    verifica(link->GetWorkingDirectory(testo.data(), MAX_PATH));
-    letto.cartella = testo.data();
-    verifica(link->GetIconLocation(testo.data(), MAX_PATH, &letto.indice));
-    letto.icona = testo.data();
-    // The show command stands at this place of the file's header.
-    letto.stile = static_cast<unsigned char>(leggiTutto(file).at(0x3C));
-    return letto;
-}
 
 } // namespace
 
