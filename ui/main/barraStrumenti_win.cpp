@@ -25,7 +25,8 @@ Striscia striscia(int dpi) noexcept {
 
 void BarraStrumenti::crea(HWND padre, int id, Risoluzione verticale) {
     const HINSTANCE programma = GetModuleHandleW(nullptr);
-    barra_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
+    // The window text is its accessible name: it shows nowhere.
+    barra_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Barra degli strumenti",
                              WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_TOP, 0,
                              0, 0, 0, padre, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
                              programma, nullptr);
