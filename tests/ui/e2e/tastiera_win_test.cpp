@@ -51,6 +51,16 @@ protected:
         programma.attendiTastiera(programma.principale);
         attendiFuoco(programma, poi);
     }
+    static void scelta(const Programma& programma, int riga, int linea = __builtin_LINE()) {
+        SCOPED_TRACE("line " + std::to_string(linea));
+        programma.attendiScelta(riga);
+    }
+    static void attendiMenu() {
+        EXPECT_TRUE(attendiChe([] {
+            const HWND menu = FindWindowW(L"#32768", nullptr);
+            return menu != nullptr && IsWindowVisible(menu) != FALSE;
+        })) << "no menu comes up";
+    }
     // The editor is in front, the focus in its first field.
     static HWND editor(Programma& programma) {
         const HWND aperto = programma.attendiFinestra(L"#32770", L"Edit");
@@ -151,7 +161,7 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         compila(programma, aperto, L"uno");
         premi(VK_RETURN, {VK_CONTROL});
         finita(programma, aperto, lista);
-        programma.attendiScelta(0);
+        scelta(programma, 0);
         premi(VK_INSERT);
         aperto = editor(programma);
         compila(programma, aperto, L"due");
@@ -161,13 +171,13 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         }
         premi(VK_SPACE);
         finita(programma, aperto, lista);
-        programma.attendiScelta(1);
+        scelta(programma, 1);
         premi(VK_INSERT);
         aperto = editor(programma);
         compila(programma, aperto, L"tre");
         premi('S', {VK_CONTROL});
         finita(programma, aperto, lista);
-        programma.attendiScelta(2);
+        scelta(programma, 2);
 
         // The last gets another title; one that is given up stays as it is.
         premi(VK_RETURN);
@@ -179,7 +189,7 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         premi(VK_RETURN);
         finita(programma, aperto, lista);
         premi(VK_APPS);
-        EXPECT_TRUE(attendiChe([] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
+        attendiMenu();
         premi('M');
         aperto = editor(programma);
         scrivi(L"perduto");
@@ -188,9 +198,9 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
 
         // Moved: uno, tre bis, due; then tre bis, uno, due.
         premi(VK_UP, {VK_MENU});
-        programma.attendiScelta(1);
+        scelta(programma, 1);
         premi(VK_HOME, {VK_MENU});
-        programma.attendiScelta(0);
+        scelta(programma, 0);
 
         // Found, and once more all round.
         premi('F', {VK_CONTROL});
@@ -198,42 +208,42 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         attendiFuoco(programma, GetDlgItem(trova, casellaTrova));
         scriviQui(programma, L"DUE");
         premi(VK_RETURN);
-        programma.attendiScelta(2);
+        scelta(programma, 2);
         premi(VK_ESCAPE);
         finita(programma, trova, lista);
         premi(VK_HOME);
-        programma.attendiScelta(0);
+        scelta(programma, 0);
         premi(VK_F3);
-        programma.attendiScelta(2);
+        scelta(programma, 2);
         scrivi(L"u");
-        programma.attendiScelta(1);
+        scelta(programma, 1);
 
         // "uno" goes, once the question is answered with Yes, and comes back.
         premi(VK_DELETE);
         static_cast<void>(programma.attendiFinestra(L"#32770", testi::attenzione));
         premi(VK_TAB);
         chiudi(programma, testi::attenzione, VK_RETURN, lista);
-        programma.attendiScelta(1);
+        scelta(programma, 1);
         premi(VK_DELETE);
         chiudi(programma, testi::attenzione, VK_RETURN, lista);
-        programma.attendiScelta(0);
+        scelta(programma, 1);
         premi('Z', {VK_CONTROL});
-        programma.attendiScelta(1);
+        scelta(programma, 1);
 
         // A copy of "due" stands below "tre bis"; "uno" is cut and pasted at the end.
         premi(VK_END);
-        programma.attendiScelta(2);
+        scelta(programma, 2);
         premi('C', {VK_CONTROL});
         premi(VK_HOME);
-        programma.attendiScelta(0);
+        scelta(programma, 0);
         premi('V', {VK_CONTROL});
-        programma.attendiScelta(1);
+        scelta(programma, 1);
         premi(VK_DOWN);
-        programma.attendiScelta(2);
+        scelta(programma, 2);
         premi('X', {VK_CONTROL});
-        programma.attendiScelta(2);
+        scelta(programma, 2);
         premi('V', {VK_CONTROL});
-        programma.attendiScelta(3);
+        scelta(programma, 3);
 
         // The buttons beside the grid.
         for (const Comando comando : {cmdAggiungi, cmdModifica, cmdCancella}) {
@@ -251,12 +261,14 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
 
         // The menus: a save given up, and the about box.
         premi('F', {VK_MENU});
+        attendiMenu();
         premi('L');
         chiudi(programma, L"", VK_ESCAPE, programma.pulsante(cmdModifica));
         premi(VK_MENU);
         premi(VK_RIGHT);
         premi(VK_RIGHT);
         premi(VK_DOWN);
+        attendiMenu();
         premi('I');
         const HWND box = programma.attendiFinestra(L"#32770", informazioni);
         attendiFuoco(programma, GetDlgItem(box, IDC_CMDOK));
