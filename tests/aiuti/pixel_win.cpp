@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <numeric>
+#include <vector>
 
 namespace {
 
@@ -121,10 +123,13 @@ ColoriSistema::~ColoriSistema() {
 const std::vector<std::vector<ColoriSistema::Coppia>>& schemi() {
     constexpr COLORREF nero = RGB(0, 0, 0);
     constexpr COLORREF bianco = RGB(255, 255, 255);
-    const auto schema = [](COLORREF fondo, COLORREF testo, COLORREF scelta, COLORREF testoScelta) {
+    const auto schema = [](COLORREF fondo, COLORREF testo, COLORREF scelta, COLORREF testoScelta,
+                           COLORREF collegamento) {
         return std::vector<ColoriSistema::Coppia>{
             {COLOR_WINDOW, fondo},     {COLOR_WINDOWTEXT, testo},
             {COLOR_BTNFACE, fondo},    {COLOR_BTNTEXT, testo},
+            {COLOR_MENU, fondo},       {COLOR_MENUTEXT, testo},
+            {COLOR_MENUBAR, fondo},    {COLOR_HOTLIGHT, collegamento},
             {COLOR_HIGHLIGHT, scelta}, {COLOR_HIGHLIGHTTEXT, testoScelta},
             {COLOR_3DLIGHT, testo},    {COLOR_BTNSHADOW, testo},
             {COLOR_3DDKSHADOW, testo}, {COLOR_BTNHIGHLIGHT, testo},
@@ -133,9 +138,9 @@ const std::vector<std::vector<ColoriSistema::Coppia>>& schemi() {
     };
     static const std::vector<std::vector<ColoriSistema::Coppia>> tutti{
         {},
-        schema(nero, bianco, RGB(26, 235, 255), nero),
-        schema(nero, bianco, RGB(128, 0, 128), bianco),
-        schema(bianco, nero, RGB(55, 0, 110), bianco)};
+        schema(nero, bianco, RGB(26, 235, 255), nero, RGB(255, 255, 0)),
+        schema(nero, bianco, RGB(128, 0, 128), bianco, RGB(0, 0, 255)),
+        schema(bianco, nero, RGB(55, 0, 110), bianco, RGB(0, 0, 159))};
     return tutti;
 }
 
@@ -159,4 +164,24 @@ double distacco(const Immagine& riga, COLORREF sfondo) {
         minimo = std::min({minimo, migliore(0, y, 1, 0), migliore(larghezza - 1, y, -1, 0)});
     }
     return minimo;
+}
+
+double leggibilita(const Immagine& immagine) {
+    // What a letter leaves at least, however small.
+    constexpr int punti = 6;
+    std::map<COLORREF, int> quanti;
+    for (std::ptrdiff_t y = 0; y < immagine.altezza(); ++y) {
+        for (std::ptrdiff_t x = 0; x < immagine.larghezza; ++x) {
+            ++quanti[immagine.colore(x, y)];
+        }
+    }
+    const COLORREF fondo =
+        std::ranges::max_element(quanti, {}, &std::pair<const COLORREF, int>::second)->first;
+    std::vector<double> contrasti;
+    for (const auto& [colore, volte] : quanti) {
+        contrasti.insert(contrasti.end(), static_cast<std::size_t>(std::min(volte, punti)),
+                         contrasto(colore, fondo));
+    }
+    std::ranges::sort(contrasti, std::greater<>());
+    return contrasti.size() < punti ? 1 : contrasti[punti - 1];
 }

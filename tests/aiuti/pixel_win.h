@@ -65,3 +65,7 @@ private:
 // How well the whole edge of a row is told from the ground that the others have: the least contrast
 // on any of its lines and columns, each taken as the four pixels at the edge; corners go with them.
 [[nodiscard]] double distacco(const Immagine& riga, COLORREF sfondo = GetSysColor(COLOR_WINDOW));
+
+// How well what is written in a picture can be read: the contrast that its clearest pixels, as many
+// as the smallest letter has, have at least with the colour that most of it has.
+[[nodiscard]] double leggibilita(const Immagine& immagine);

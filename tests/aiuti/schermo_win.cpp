@@ -253,6 +253,12 @@ std::wstring testoDi(HWND finestra) {
     return testo;
 }
 
+std::wstring classeDi(HWND finestra) {
+    std::array<wchar_t, 64> nome{};
+    GetClassNameW(finestra, nome.data(), static_cast<int>(nome.size()));
+    return nome.data();
+}
+
 std::pair<DWORD, DWORD> selezioneDi(HWND casella) {
     DWORD inizio = 0;
     DWORD fine = 0;

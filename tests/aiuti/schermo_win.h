@@ -65,6 +65,7 @@ void rotella(HWND finestra, int scatti);
 
 // The text that a window or control shows.
 [[nodiscard]] std::wstring testoDi(HWND finestra);
+[[nodiscard]] std::wstring classeDi(HWND finestra);
 // The first character selected in an edit box and the one after the last.
 [[nodiscard]] std::pair<DWORD, DWORD> selezioneDi(HWND casella);
 // The text on the clipboard; empty when there is none.

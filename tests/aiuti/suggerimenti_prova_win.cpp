@@ -5,7 +5,6 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace {
@@ -15,9 +14,7 @@ std::vector<HWND> suggerimenti() {
     EnumThreadWindows(
         GetCurrentThreadId(),
         [](HWND hwnd, LPARAM l) -> BOOL {
-            std::array<wchar_t, 64> nome{};
-            GetClassNameW(hwnd, nome.data(), static_cast<int>(nome.size()));
-            if (std::wstring_view(nome.data()) == TOOLTIPS_CLASSW) {
+            if (classeDi(hwnd) == TOOLTIPS_CLASSW) {
                 reinterpret_cast<std::vector<HWND>*>(l)->push_back(hwnd);
             }
             return TRUE;
@@ -28,6 +25,12 @@ std::vector<HWND> suggerimenti() {
 
 } // namespace
 
+std::vector<HWND> suggerimentiInVista() {
+    std::vector<HWND> visti = suggerimenti();
+    std::erase_if(visti, [](HWND s) { return IsWindowVisible(s) == FALSE; });
+    return visti;
+}
+
 bool suggerisce(HWND finestra, POINT punto, std::wstring_view testo,
                 std::chrono::milliseconds scadenza) {
     for (const HWND s : suggerimenti()) {
@@ -37,8 +40,8 @@ bool suggerisce(HWND finestra, POINT punto, std::wstring_view testo,
     muoviMouse(finestra, punto);
     return attendi(
         [&] {
-            return std::ranges::any_of(
-                suggerimenti(), [&](HWND s) { return IsWindowVisible(s) && testoDi(s) == testo; });
+            return std::ranges::any_of(suggerimentiInVista(),
+                                       [&](HWND s) { return testoDi(s) == testo; });
         },
         scadenza);
 }

@@ -4,6 +4,10 @@
 
 #include <chrono>
 #include <string_view>
+#include <vector>
+
+// The tooltips that are up.
+[[nodiscard]] std::vector<HWND> suggerimentiInVista();
 
 // Moves the pointer to a point of a window and rests it there: whether this tooltip comes up in
 // time.

@@ -46,7 +46,7 @@ void KOInputNumerico::registraClasse() {
 }
 
 // The label comes first: what reads a screen takes the STATIC before a box as its name, seen or
-// not, and the container's own stands outside.
+// not, and the container's own stands outside. The other parts bear it as their window text.
 void KOInputNumerico::creaParti() {
     etichetta_ = creaParte(0, WC_STATICW, 0, hwnd(), idEtichetta);
     txtnumero_ = creaParte(WS_EX_CLIENTEDGE, WC_EDITW, WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,
@@ -71,7 +71,9 @@ void KOInputNumerico::aggiornaEtichetta() {
     }
     const std::wstring nome = testoFinestra(prima);
     if (nome != testoFinestra(etichetta_)) {
-        SetWindowTextW(etichetta_, nome.c_str());
+        for (const HWND parte : {etichetta_, UPNum_, hwnd()}) {
+            SetWindowTextW(parte, nome.c_str());
+        }
     }
 }
 

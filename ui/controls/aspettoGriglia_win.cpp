@@ -46,6 +46,11 @@ int coloreSegno() noexcept {
                : COLOR_WINDOWTEXT;
 }
 
+// That of the texts on a background: the one that goes with it, where it can be read there.
+int coloreTesti(int proprio, int sfondo) noexcept {
+    return siLegge(GetSysColor(proprio), GetSysColor(sfondo)) ? proprio : COLOR_WINDOWTEXT;
+}
+
 void incornicia(HDC dc, RECT r, int spessore, int colore) noexcept {
     for (int i = 0; i < spessore; ++i) {
         FrameRect(dc, &r, GetSysColorBrush(colore));
@@ -77,7 +82,7 @@ void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,
                        : posto.fuoco      ? COLOR_HIGHLIGHT
                                           : COLOR_BTNFACE;
     const int testo = !posto.selezionata ? COLOR_WINDOWTEXT
-                      : posto.fuoco      ? COLOR_HIGHLIGHTTEXT
+                      : posto.fuoco      ? coloreTesti(COLOR_HIGHLIGHTTEXT, sfondo)
                                          : COLOR_BTNTEXT;
     FillRect(dc, &tutta, GetSysColorBrush(sfondo));
     const RECT linea{tutta.left, tutta.bottom - 1, tutta.right, tutta.bottom};

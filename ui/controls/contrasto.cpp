@@ -19,3 +19,7 @@ double contrasto(std::uint32_t a, std::uint32_t b) noexcept {
     const auto [buio, chiaro] = std::minmax({luminanza(a), luminanza(b)});
     return (chiaro + 0.05) / (buio + 0.05);
 }
+
+bool siLegge(std::uint32_t testo, std::uint32_t sfondo) noexcept {
+    return contrasto(testo, sfondo) >= 4.45;
+}

@@ -30,14 +30,14 @@ void Griglia::creaIn(HWND padre, int id, const wchar_t* nome, const RECT& posto)
     descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     registra(descrizione);
     nome_ = nome;
-    crea(classe, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+    // The window text is its accessible name and the list's: it shows nowhere.
+    crea(classe, nome, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
          WS_EX_CONTROLPARENT, posto, padre, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)));
 }
 
 void Griglia::creaLista() {
     RECT r{};
     GetClientRect(hwnd(), &r);
-    // The window text is the list's accessible name: it shows nowhere.
     lista_ =
         CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, nome_.c_str(), stileLista, 0, 0, r.right,
                         r.bottom, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr);
@@ -47,6 +47,7 @@ void Griglia::creaLista() {
     ListView_SetExtendedListViewStyle(lista_, stileEsteso);
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), FALSE);
     testata_ = ListView_GetHeader(lista_);
+    SetWindowTextW(testata_, L"Intestazioni");
     SetWindowLongPtrW(testata_, GWL_STYLE, GetWindowLongPtrW(testata_, GWL_STYLE) | HDS_NOSIZING);
     sottoclasseLista_ = Sottoclasse(lista_, *this);
     sottoclasseTestata_ = Sottoclasse(testata_, *this);

@@ -40,8 +40,7 @@ struct Colori {
 
 // Those of a notice, where they let it be read.
 Colori colori() noexcept {
-    constexpr double leggibile = 4.5;
-    return contrasto(GetSysColor(COLOR_INFOTEXT), GetSysColor(COLOR_INFOBK)) >= leggibile
+    return siLegge(GetSysColor(COLOR_INFOTEXT), GetSysColor(COLOR_INFOBK))
                ? Colori{COLOR_INFOBK, COLOR_INFOTEXT}
                : Colori{COLOR_WINDOW, COLOR_WINDOWTEXT};
 }

@@ -9,10 +9,10 @@
 #include "support/windows/errori_win.h"
 #include "support/windows/gdi_win.h"
 #include "ui/controls/campoTesto_win.h"
+#include "ui/controls/contrasto.h"
 #include "ui/dialogs/infoSistema_win.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
@@ -28,16 +28,11 @@ Carattere derivato(HWND finestra, Cambia cambia) {
     return Carattere(CreateFontIndirectW(&*descrizione));
 }
 
-// Perceived brightness, 0 to 255.
-int chiarore(COLORREF colore) noexcept {
-    return (299 * GetRValue(colore) + 587 * GetGValue(colore) + 114 * GetBValue(colore)) / 1000;
-}
-
-// The system's colour of links, or that of text where a theme makes it vanish in the background.
+// The system's colour of links, or that of text where a theme makes it hard to read.
 COLORREF coloreCollegamento() noexcept {
     const COLORREF collegamento = GetSysColor(COLOR_HOTLIGHT);
-    const int stacco = chiarore(collegamento) - chiarore(GetSysColor(COLOR_3DFACE));
-    return std::abs(stacco) < 60 ? GetSysColor(COLOR_BTNTEXT) : collegamento;
+    return siLegge(collegamento, GetSysColor(COLOR_3DFACE)) ? collegamento
+                                                            : GetSysColor(COLOR_BTNTEXT);
 }
 
 void ridimensiona(HWND finestra, SIZE misura) noexcept {

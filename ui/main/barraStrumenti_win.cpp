@@ -72,7 +72,8 @@ ListaImmagini ingrandita(int lato) {
 } // namespace
 
 void BarraStrumenti::crea(HWND padre, int id, Risoluzione verticale) {
-    barra_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
+    // The window text is its accessible name: it shows nowhere.
+    barra_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Barra degli strumenti",
                              WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_TOP, 0,
                              0, 0, 0, padre, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
                              GetModuleHandleW(nullptr), nullptr);

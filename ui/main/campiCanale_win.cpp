@@ -21,6 +21,9 @@ constexpr double massimoPixel = 10000;
 } // namespace
 
 bool CampiCanale::inizializza() {
+    // The name of the dialog for assistive programs: the frame that shows it is no parent of the
+    // fields.
+    SetWindowTextW(hwnd(), std::wstring(rifila(testoFinestra(controllo(IDC_FRADATI)))).c_str());
     for (std::size_t i = 0; i < testi_.size(); ++i) {
         if (controlliCanale[i].testo()) {
             testi_[i] = CampoTesto(controllo(controlliCanale[i].id));

@@ -18,7 +18,8 @@ void StrisciaComandi::crea(HWND padre) {
     descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registra(descrizione);
-    Finestra::crea(classe, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
+    // The window text is its accessible name: it shows nowhere.
+    Finestra::crea(classe, L"Comandi", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT,
                    RECT{}, padre, reinterpret_cast<HMENU>(UINT_PTR{IDC_PICCMD}));
 
     for (const RigaComando& riga : comandi()) {

@@ -25,3 +25,12 @@ TEST(Contrasto, OgniCanalePesaASuoModo) {
     EXPECT_NEAR(contrasto(0x777777, bianco), 4.48, 0.005);
     EXPECT_NEAR(contrasto(0x0A0A0A, nero), 1.06, 0.005);
 }
+
+TEST(Contrasto, SiLeggeDaQuattroEMezzo) {
+    EXPECT_TRUE(siLegge(nero, bianco));
+    EXPECT_TRUE(siLegge(bianco, 0x757575));
+    EXPECT_FALSE(siLegge(bianco, 0x797979));
+    // The system's selection, as it has long been.
+    EXPECT_TRUE(siLegge(bianco, 0xD77800));
+    EXPECT_FALSE(siLegge(bianco, 0xFF9933));
+}

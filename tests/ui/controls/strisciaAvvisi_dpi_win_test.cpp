@@ -73,38 +73,6 @@ double migliore(const Immagine& immagine) {
     return massimo;
 }
 
-struct Evento {
-    DWORD quale;
-    HWND finestra;
-    LONG oggetto;
-    LONG figlio;
-};
-std::vector<Evento>& uditi() {
-    static std::vector<Evento> eventi;
-    return eventi;
-}
-
-// Hears what assistive programs do.
-class Ascolto {
-public:
-    Ascolto()
-        : gancio_(SetWinEventHook(
-              EVENT_SYSTEM_ALERT, EVENT_SYSTEM_ALERT, nullptr,
-              [](HWINEVENTHOOK, DWORD quale, HWND finestra, LONG oggetto, LONG figlio, DWORD,
-                 DWORD) noexcept {
-                  uditi().push_back({quale, finestra, oggetto, figlio});
-              },
-              GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT)) {
-        uditi().clear();
-    }
-    Ascolto(const Ascolto&) = delete;
-    Ascolto& operator=(const Ascolto&) = delete;
-    ~Ascolto() { UnhookWinEvent(gancio_); }
-
-private:
-    HWINEVENTHOOK gancio_;
-};
-
 constexpr const wchar_t* lungo =
     L"Salvando, di questo feed non restano: enclosure (82), category (45), itunes:author (12), "
     L"itunes:duration (12), itunes:explicit (12), commenti (3), guid isPermaLink (58) & altri 3.";
@@ -154,13 +122,13 @@ TEST_F(StrisciaDegliAvvisi, LAltezzaSegueCarattereERisoluzione) {
 }
 
 TEST_F(StrisciaDegliAvvisi, ChiAscoltaSaCheCEUnAvvisoEComSiChiamanoLeCose) {
-    const Ascolto ascolto;
+    const AscoltoEventi ascolto(EVENT_SYSTEM_ALERT);
     striscia.avvisa(avvisoProva(L"Lavoro non salvato", {L"Recupera", {}}, {L"Elimina", {}}));
-    ASSERT_TRUE(attendi([] { return !uditi().empty(); }));
-    EXPECT_EQ(uditi().front().quale, DWORD{EVENT_SYSTEM_ALERT});
-    EXPECT_EQ(uditi().front().finestra, striscia.hwnd());
-    EXPECT_EQ(uditi().front().oggetto, OBJID_CLIENT);
-    EXPECT_EQ(uditi().front().figlio, CHILDID_SELF);
+    ASSERT_TRUE(attendi([&] { return !ascolto.uditi().empty(); }));
+    EXPECT_EQ(ascolto.uditi().front().quale, DWORD{EVENT_SYSTEM_ALERT});
+    EXPECT_EQ(ascolto.uditi().front().finestra, striscia.hwnd());
+    EXPECT_EQ(ascolto.uditi().front().oggetto, OBJID_CLIENT);
+    EXPECT_EQ(ascolto.uditi().front().figlio, CHILDID_SELF);
     EXPECT_EQ(nomeAccessibile(striscia.hwnd()), L"Lavoro non salvato");
     EXPECT_EQ(nomeAccessibile(avvisi.testo()), L"Lavoro non salvato");
     EXPECT_EQ(nomeAccessibile(avvisi.pulsante(L"Recupera")), L"Recupera");
@@ -170,18 +138,18 @@ TEST_F(StrisciaDegliAvvisi, ChiAscoltaSaCheCEUnAvvisoEComSiChiamanoLeCose) {
     // One that waits is not told before its turn; the one that takes a place is.
     striscia.avvisa(avvisoProva(L"due"));
     pompa();
-    EXPECT_EQ(uditi().size(), 1U);
+    EXPECT_EQ(ascolto.uditi().size(), 1U);
     striscia.ritira(L"Lavoro non salvato");
-    EXPECT_TRUE(attendi([] { return uditi().size() == 2; }));
+    EXPECT_TRUE(attendi([&] { return ascolto.uditi().size() == 2; }));
     EXPECT_EQ(nomeAccessibile(striscia.hwnd()), L"due");
     Avviso altro = avvisoProva(L"tre");
     altro.argomento = L"due";
     striscia.avvisa(altro);
-    EXPECT_TRUE(attendi([] { return uditi().size() == 3; }));
+    EXPECT_TRUE(attendi([&] { return ascolto.uditi().size() == 3; }));
     EXPECT_EQ(avvisi.detto(), L"tre");
     striscia.ritira(L"due");
     pompa();
-    EXPECT_EQ(uditi().size(), 3U);
+    EXPECT_EQ(ascolto.uditi().size(), 3U);
 }
 
 TEST_F(StrisciaDegliAvvisi, SiVedonoSoloIPulsantiCheLAvvisoHa) {

@@ -226,8 +226,11 @@ TEST_F(frmAboutAperta, IlCollegamentoEDelColoreDelSistemaESottolineato) {
 }
 
 TEST_F(frmAboutAperta, UnColoreCheNonSiLeggeLasciaIlPostoAQuelloDelTesto) {
-    const ColoriSistema sfondo(COLOR_HOTLIGHT, GetSysColor(COLOR_3DFACE));
-    EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, GetSysColor(COLOR_BTNTEXT)), 80);
+    // One that vanishes, one that is only too pale.
+    for (const COLORREF colore : {GetSysColor(COLOR_3DFACE), COLORREF{RGB(51, 102, 255)}}) {
+        const ColoriSistema sfondo(COLOR_HOTLIGHT, colore);
+        EXPECT_GT(rigaPiuLunga(IDC_LBLSITO, GetSysColor(COLOR_BTNTEXT)), 80) << colore;
+    }
 }
 
 TEST_F(frmAboutAperta, IlCollegamentoELargoComeIlSuoTesto) {

@@ -37,12 +37,6 @@ std::string bmp(SIZE misura) {
     return byte;
 }
 
-std::wstring nomeClasse(HWND finestra) {
-    std::array<wchar_t, 64> nome{};
-    GetClassNameW(finestra, nome.data(), static_cast<int>(nome.size()));
-    return nome.data();
-}
-
 } // namespace
 
 TEST_F(FrmMainAperta, AllAvvioMostraUnDocumentoNuovoEPulito) {
@@ -211,7 +205,7 @@ TEST_F(FrmMainAperta, OgniCampoHaLaSuaEtichettaSubitoPrima) {
             continue;
         }
         const HWND prima = GetWindow(campo(id), GW_HWNDPREV);
-        EXPECT_EQ(nomeClasse(prima), L"Static") << id;
+        EXPECT_EQ(classeDi(prima), L"Static") << id;
         EXPECT_EQ(testoDi(prima), etichetta);
     }
 }
@@ -236,7 +230,7 @@ TEST_F(FrmMainAperta, IlTabulatoreSegueLOcchio) {
     for (std::size_t i = 0; i < ordine.size(); ++i) {
         const HWND fuoco = GetFocus();
         EXPECT_TRUE(fuoco == ordine[i] || IsChild(ordine[i], fuoco))
-            << "step " << i << ": " << inUtf8(nomeClasse(fuoco));
+            << "step " << i << ": " << inUtf8(classeDi(fuoco));
         premi(VK_TAB);
     }
     for (const wchar_t* const pulsante : {L"Aggiungi Feed", L"Modifica Feed", L"Cancella Feed"}) {
