@@ -140,7 +140,7 @@ AspettoGriglia::Posto Griglia::posto(const RECT& riga) const noexcept {
     GetClientRect(lista_, &client);
     AspettoGriglia::Posto posto{};
     posto.data = riga;
-    posto.data.right = posto.data.left + ListView_GetColumnWidth(lista_, 0);
+    posto.data.right = posto.data.left + larghezzaData_;
     posto.contenuto = riga;
     posto.contenuto.left = posto.data.right;
     // The index column is never painted: what is to be seen of it belongs to the contents.
@@ -195,6 +195,9 @@ void Griglia::applicaLarghezze() {
         const int pixel = dpi_.x.pixelVicini(larghezze[static_cast<std::size_t>(c)]);
         if (ListView_GetColumnWidth(lista_, c) != pixel) {
             ListView_SetColumnWidth(lista_, c, pixel);
+        }
+        if (c == 0) {
+            larghezzaData_ = pixel;
         }
     }
 }

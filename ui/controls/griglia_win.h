@@ -173,6 +173,8 @@ private:
 
     std::optional<double> primaLarghezza_;
     int larghezza_ = -1;
+    // Of the first column, in pixels: every row that is painted needs it.
+    int larghezzaData_ = 0;
     int rigaCorrente_ = 0;
     int sospensioni_ = 0;
     // True while the grid itself changes the list's states, or the list works on a key: what the
