@@ -330,8 +330,6 @@ TEST_F(Tastiera, GliAvvisiDelLavoroNonSalvato) {
         return trovato;
     };
     const HWND titolo = programma.campo(IDC_TXTTITOLO);
-    const auto detto = [&] { return Programma::testoNel(striscia); };
-    const std::wstring primo = detto();
     attendiFuoco(programma, titolo);
 
     // Left for another time.
@@ -341,8 +339,6 @@ TEST_F(Tastiera, GliAvvisiDelLavoroNonSalvato) {
     attendiFuoco(programma, pulsante(L"Elimina"));
     premi(VK_ESCAPE);
     attendiFuoco(programma, titolo);
-    EXPECT_TRUE(attendiChe([&] { return detto() != primo; }));
-    const std::wstring secondo = detto();
 
     // Thrown away, once the question is answered with Yes. By Tab alone it comes after all else.
     premi(VK_TAB, {VK_SHIFT});
@@ -351,9 +347,8 @@ TEST_F(Tastiera, GliAvvisiDelLavoroNonSalvato) {
     attendiFuoco(programma, pulsante(L"Elimina"));
     premi(VK_SPACE);
     chiudi(programma, testi::attenzione, VK_RETURN, titolo);
-    EXPECT_TRUE(attendiChe([&] { return detto() != secondo; }));
 
-    // Taken up.
+    // Taken up; no other one is left then.
     premi(VK_F6);
     attendiFuoco(programma, pulsante(L"Recupera"));
     premi(VK_RETURN);
