@@ -96,7 +96,7 @@ void confronta(FeedDiProva& letto, FeedDiProva& scritto) {
 } // namespace
 
 TEST(Giro, DocumentiCasualiSiRileggonoUguali) {
-    const std::uint32_t giri = daAmbiente("OSTRELLE_GIRI", 2000);
+    const std::uint32_t giri = daAmbiente("OSTRELLE_GIRI", 1000);
     const std::uint32_t seme = daAmbiente("OSTRELLE_SEME", 20041);
     const CartellaProva cartella;
     const auto percorso = cartella.file(L"giro.xml");
