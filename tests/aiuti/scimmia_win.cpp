@@ -7,6 +7,8 @@
 #include "res/risorse.h"
 #include "support/errori/errore.h"
 #include "support/testi/testo.h"
+#include "tests/aiuti/attesa_win.h"
+#include "tests/aiuti/secondoLettore_win.h"
 #include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
@@ -20,6 +22,11 @@ constexpr std::array dateElementi{L"Tue, 15 Nov 2005 10:00:00 +0100",
                                   L"Wed, 16 Nov 2005 23:59:59 +0000", L"ieri"};
 // Of Latin 1: beyond it the file's texts are written as references, and read back as these.
 constexpr std::wstring_view lettere = L"abcxyzàèìòùABC<&>\"'0123456789";
+constexpr std::string_view feedConPerdite =
+    "<rss version='2.0'><channel><title>c</title><ttl>5</ttl><category>x</category><item>"
+    "<title>uno</title><link>https://e.example/1</link><description>d</description>"
+    "<author>a@e.example</author><pubDate>ieri</pubDate><guid>ieri 1</guid>"
+    "<comments>y</comments></item></channel></rss>";
 constexpr int passiFraSorveglianze = 10; // milliseconds
 
 // Whose watch the timer keeps; a timer's procedure has no room for it.
@@ -57,10 +64,16 @@ HWND sopra(std::wstring_view classe) {
 
 Scimmia::Scimmia(std::uint32_t seme)
     : generatore_(seme), rovinato_(cartella_.scrivi(L"rovinato.xml", "<rss><channel>")),
+      conPerdite_(cartella_.scrivi(L"perdite.xml", feedConPerdite)),
       timer_(SetTimer(nullptr, 0, passiFraSorveglianze, &sorveglia)) {
     viva() = this;
+    // What opens a folder of copies.
+    registratore_.protocollo(L"Folder");
+    salvati_[minuscolo(conPerdite_)] = {
+        {L"uno", L"https://e.example/1", L"d", L"a@e.example", L"ieri", L"ieri 1"}};
     finestra_.apri(SW_SHOWNORMAL);
     portaAvanti(finestra_.hwnd());
+    ricomincia();
 }
 
 Scimmia::~Scimmia() {
@@ -105,8 +118,8 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
         if (caso(4) == 0) {
             return Risposta::No;
         }
-        const int i = finestra_.ElementoSelezionato();
-        if (i < 0 || i >= static_cast<int>(modello_.size())) {
+        const int i = scelto();
+        if (i < 0) {
             segnala("deletes what is no item");
             return Risposta::No;
         }
@@ -119,6 +132,19 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
     return *domanda_;
 }
 
+std::wstring Scimmia::percorsoDaLeggere() {
+    const int quale = caso(6);
+    return quale == 0   ? rovinato_
+           : quale == 1 ? conPerdite_
+                        : cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
+}
+
+std::wstring Scimmia::testoLettere(int massimo) {
+    std::wstring testo = testoCaso(massimo);
+    std::erase_if(testo, [](wchar_t c) { return c < L'a'; });
+    return testo.empty() ? L"a" : testo;
+}
+
 std::wstring Scimmia::percorsoCaso(bool salvataggio) {
     const int quale = caso(10);
     if (quale == 0) {
@@ -127,8 +153,8 @@ std::wstring Scimmia::percorsoCaso(bool salvataggio) {
     if (quale == 1) {
         return cartella_.file(L"manca\\") + L"n.xml";
     }
-    if (quale == 2 && !salvataggio) {
-        return rovinato_;
+    if (!salvataggio && quale < 4) {
+        return quale == 2 ? rovinato_ : conPerdite_;
     }
     return cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }
@@ -151,9 +177,12 @@ void Scimmia::scrivi(std::wstring_view sezione, std::wstring_view chiave,
                      std::wstring_view valore) {
     valori_.scrivi(sezione, chiave, valore);
     if (chiave == L"murl1") {
-        // A save has succeeded.
+        // A save has succeeded: another reader than the program's looks at it.
+        controllaFile(std::wstring(valore));
         salvati_[std::wstring(valore)] = modello_;
         salvato_ = true;
+        cambiati_ = false;
+        canale_ = testiCanale();
         ++conti_.salvati;
     }
 }
@@ -171,9 +200,8 @@ std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaDat
     nellEditor_ = false;
 
     const bool aggiunge = elemento.sTitle().empty();
-    const int i = aggiunge ? static_cast<int>(modello_.size()) : finestra_.ElementoSelezionato();
-    if (!aggiunge && (i < 0 || i >= static_cast<int>(modello_.size()) ||
-                      elemento.sTitle() != modello_[static_cast<std::size_t>(i)][0] ||
+    const int i = aggiunge ? static_cast<int>(modello_.size()) : scelto();
+    if (!aggiunge && (i < 0 || elemento.sTitle() != modello_[static_cast<std::size_t>(i)][0] ||
                       elemento.sDescription() != modello_[static_cast<std::size_t>(i)][2])) {
         segnala("the editor gets another item than the one selected");
         return std::nullopt;
@@ -208,8 +236,9 @@ void Scimmia::passo() {
     voceMenu_ = -1;
     battiti_ = 0;
     fatto_.clear();
+    trascinato_ = false;
     portaFuoco();
-    switch (caso(12)) {
+    switch (caso(17)) {
     case 0:
     case 1:
     case 2:
@@ -235,11 +264,41 @@ void Scimmia::passo() {
     case 10:
         caso(4) == 0 ? ridimensiona() : caso(8) == 0 ? chiudeEAnnulla() : comando();
         break;
-    default:
+    case 11:
         comando();
+        break;
+    case 12:
+    case 13:
+        annullaORipete();
+        break;
+    case 14:
+        usaAppunti();
+        break;
+    case 15:
+        caso(3) == 0 ? lascia() : risponde();
+        break;
+    default:
+        cerca();
         break;
     }
     confronta();
+    ricorda();
+}
+
+void Scimmia::ricorda() {
+    if (modello_ != storia_[posto_]) {
+        storia_.resize(posto_ + 1);
+        storia_.push_back(modello_);
+        ++posto_;
+        cambiati_ = cambiati_ || !trascinato_;
+    }
+}
+
+void Scimmia::ricomincia() {
+    storia_ = {modello_};
+    posto_ = 0;
+    cambiati_ = false;
+    canale_ = testiCanale();
 }
 
 void Scimmia::riposa() {
@@ -253,6 +312,35 @@ void Scimmia::riposa() {
     finestra_.NuovoDocumento();
     modello_.clear();
     pompa();
+    ricomincia();
+}
+
+int Scimmia::scelto() const {
+    const int riga = ListView_GetNextItem(grigliaDi(finestra_).lista(), -1, LVNI_SELECTED);
+    return riga < static_cast<int>(modello_.size()) ? riga : -1;
+}
+
+HWND Scimmia::attendiDialogo() {
+    HWND dialogo = nullptr;
+    static_cast<void>(attendi([&] { return (dialogo = sopra(L"#32770")) != nullptr; }));
+    return dialogo;
+}
+
+void Scimmia::controllaFile(const std::wstring& percorso) {
+    constexpr std::array nomi{"title", "link", "description", "author", "pubDate", "guid"};
+    const DocumentoLetto letto = leggiDaSolo(leggiTutto(percorso));
+    Modello nelFile;
+    for (const NodoLetto& nodo : letto.radice.figli.at(0).figli) {
+        if (nodo.nome == "item") {
+            Elemento& elemento = nelFile.emplace_back();
+            for (std::size_t i = 0; i < nomi.size(); ++i) {
+                elemento[i] = nodo.figli.at(i).nome == nomi[i] ? nodo.figli[i].testo : L"?";
+            }
+        }
+    }
+    if (nelFile != modello_) {
+        segnala("the file holds other items: " + inUtf8(percorso));
+    }
 }
 
 void Scimmia::confronta() {
@@ -285,8 +373,7 @@ void Scimmia::confronta() {
             }
         }
     }
-    const int scelto = finestra_.ElementoSelezionato();
-    if (scelto >= tabella.conteggio() ||
+    if (finestra_.ElementoSelezionato() != scelto() ||
         ListView_GetItemCount(griglia().lista()) !=
             std::max(RigheGriglia::minime - 1, int{tabella.conteggio()})) {
         segnala("the grid shows other rows");
@@ -305,6 +392,9 @@ void CALLBACK Scimmia::sorveglia(HWND, UINT, UINT_PTR, DWORD) noexcept {
 }
 
 void Scimmia::sorveglia() {
+    if (cerca_) {
+        return;
+    }
     if (const HWND dialogo = sopra(L"#32770")) {
         PostMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
         return;
