@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int passiDiProva = 1000;
+constexpr int passiDiProva = 700;
 // Long enough for the about box to come by: what the system makes when it first shows it stays.
-constexpr int passiDiRiscaldamento = 400;
+constexpr int passiDiRiscaldamento = 300;
 
 int passiVoluti() {
     return std::max(1, static_cast<int>(daAmbiente("OSTRELLE_SCIMMIA", passiDiProva)));
