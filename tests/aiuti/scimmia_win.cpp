@@ -118,6 +118,7 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
         if (caso(4) == 0) {
             return Risposta::No;
         }
+        ricorda();
         const int i = scelto();
         if (i < 0) {
             segnala("deletes what is no item");
@@ -209,6 +210,7 @@ std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaDat
     if (caso(4) == 0) {
         return std::nullopt;
     }
+    ricorda();
     Elemento nuovo{
         testoCaso(30),  L"https://e.example/" + std::to_wstring(caso(1000)), testoCaso(200),
         L"a@e.example", dateElementi[static_cast<std::size_t>(caso(3))],     L""};
@@ -285,7 +287,22 @@ void Scimmia::passo() {
     ricorda();
 }
 
+void Scimmia::impara() {
+    const TabellaElementi& tabella = documento_.elementi();
+    for (int i = 0; i < std::min<int>(tabella.conteggio(), static_cast<int>(modello_.size()));
+         ++i) {
+        Elemento& nostro = modello_[static_cast<std::size_t>(i)];
+        if (nostro[5].empty()) {
+            nostro[5] = tabella(CampoElemento::Guid, i);
+            if (!nostro[5].starts_with(nostro[4] + L" ")) {
+                segnala("guid: " + inUtf8(nostro[5]));
+            }
+        }
+    }
+}
+
 void Scimmia::ricorda() {
+    impara();
     if (modello_ != storia_[posto_]) {
         storia_.resize(posto_ + 1);
         storia_.push_back(modello_);
@@ -355,14 +372,9 @@ void Scimmia::confronta() {
                 std::to_string(modello_.size()));
         return;
     }
+    impara();
     for (int i = 0; i < tabella.conteggio(); ++i) {
-        Elemento& atteso = modello_[static_cast<std::size_t>(i)];
-        if (atteso[5].empty()) {
-            atteso[5] = tabella(CampoElemento::Guid, i);
-            if (!atteso[5].starts_with(atteso[4] + L" ")) {
-                segnala("guid: " + inUtf8(atteso[5]));
-            }
-        }
+        const Elemento& atteso = modello_[static_cast<std::size_t>(i)];
         for (int campo = 0; campo < numeroCampi; ++campo) {
             const std::wstring_view vero = tabella(static_cast<CampoElemento>(campo), i);
             if (vero != atteso[static_cast<std::size_t>(campo)]) {

@@ -116,7 +116,10 @@ private:
 
     void confronta();
     void controllaFile(const std::wstring& percorso);
-    // The step changed the items: undo takes that back.
+    // New items' guids, which the program makes.
+    void impara();
+    // The items were changed: undo takes that back. Before the next change begins, and a step may
+    // make two.
     void ricorda();
     // Another document: nothing before it can be taken back.
     void ricomincia();
