@@ -30,7 +30,7 @@ std::wstring piegato(std::wstring_view testo) {
 } // namespace
 
 void Scimmia::scalda() {
-    static_cast<void>(lasciaFile(finestra_.hwnd(), {conPerdite_}));
+    static_cast<void>(lasciaFile(finestra_.hwnd(), {perdite()}));
     pompa();
     if (!AvvisiProva(finestra_).inVista()) {
         segnala("nothing told of what a save drops");

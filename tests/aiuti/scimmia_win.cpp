@@ -64,13 +64,11 @@ HWND sopra(std::wstring_view classe) {
 
 Scimmia::Scimmia(std::uint32_t seme)
     : generatore_(seme), rovinato_(cartella_.scrivi(L"rovinato.xml", "<rss><channel>")),
-      conPerdite_(cartella_.scrivi(L"perdite.xml", feedConPerdite)),
+      conPerdite_(cartella_.file(L"perdite.xml")),
       timer_(SetTimer(nullptr, 0, passiFraSorveglianze, &sorveglia)) {
     viva() = this;
     // What opens a folder of copies.
     registratore_.protocollo(L"Folder");
-    salvati_[minuscolo(conPerdite_)] = {
-        {L"uno", L"https://e.example/1", L"d", L"a@e.example", L"ieri", L"ieri 1"}};
     finestra_.apri(SW_SHOWNORMAL);
     portaAvanti(finestra_.hwnd());
     ricomincia();
@@ -133,10 +131,17 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
     return *domanda_;
 }
 
+const std::wstring& Scimmia::perdite() {
+    static_cast<void>(cartella_.scrivi(L"perdite.xml", feedConPerdite));
+    salvati_[minuscolo(conPerdite_)] = {
+        {L"uno", L"https://e.example/1", L"d", L"a@e.example", L"ieri", L"ieri 1"}};
+    return conPerdite_;
+}
+
 std::wstring Scimmia::percorsoDaLeggere() {
     const int quale = caso(6);
     return quale == 0   ? rovinato_
-           : quale == 1 ? conPerdite_
+           : quale == 1 ? perdite()
                         : cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }
 
@@ -155,7 +160,7 @@ std::wstring Scimmia::percorsoCaso(bool salvataggio) {
         return cartella_.file(L"manca\\") + L"n.xml";
     }
     if (!salvataggio && quale < 4) {
-        return quale == 2 ? rovinato_ : conPerdite_;
+        return quale == 2 ? rovinato_ : perdite();
     }
     return cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }

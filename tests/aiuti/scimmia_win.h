@@ -141,6 +141,8 @@ private:
     [[nodiscard]] std::wstring testoCaso(int massimo);
     [[nodiscard]] std::wstring testoLettere(int massimo);
     [[nodiscard]] std::wstring percorsoDaLeggere();
+    // Another program writes conPerdite_ anew: a save may have been there.
+    const std::wstring& perdite();
     [[nodiscard]] std::wstring percorsoCaso(bool salvataggio);
     // A random point of a random control, where a press starts no loop of the system's own.
     struct Posto {
