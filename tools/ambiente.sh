@@ -180,6 +180,29 @@ chiudi() {
   return 0
 }
 
+# fuzza TARGET NEW RUNS SEED: one fuzz target, from the corpus that is kept; what it finds of new
+# inputs lands in NEW/its name, which is emptied first.
+fuzza() {
+  local nome nuovi
+  nome=$(basename "$1" _fuzz)
+  nuovi="$2/$nome"
+  rm -rf "$nuovi"
+  mkdir -p "$nuovi"
+  "$1" -seed="$4" -runs="$3" -max_len=256 -verbosity=0 -artifact_prefix="$nuovi-" "$nuovi" \
+    "$radice/tests/fuzz/corpus/$nome"
+}
+
+# riduci TARGET NEW: what NEW/its name adds to the corpus that is kept, and the least of both.
+riduci() {
+  local nome minimo
+  nome=$(basename "$1" _fuzz)
+  minimo="$2/$nome-minimo"
+  rm -rf "$minimo"
+  mkdir -p "$minimo"
+  "$1" -set_cover_merge=1 -max_len=256 -verbosity=0 "$minimo" "$radice/tests/fuzz/corpus/$nome" \
+    "$2/$nome"
+}
+
 # configura PRESET: what CMake says is shown only when it fails.
 configura() {
   cmake --preset "$1" >"$build/$1.log" 2>&1 || { cat "$build/$1.log"; return 1; }

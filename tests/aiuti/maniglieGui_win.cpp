@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <span>
+#include <vector>
 
 namespace {
 
@@ -64,16 +65,52 @@ DWORD contaFinestre() {
     return quante;
 }
 
+// An entry of the table of all handles of the system.
+struct VoceNucleo {
+    ULONG processo;
+    UCHAR tipo;
+    UCHAR opzioni;
+    USHORT valore;
+    void* oggetto;
+    ULONG accesso;
+};
+struct TabellaNucleo {
+    ULONG quante;
+    VoceNucleo voci[1];
+};
+constexpr ULONG tutteLeManiglie = 16; // SystemHandleInformation
+
+DWORD contaNucleo() {
+    using Chiede = LONG(WINAPI*)(ULONG, void*, ULONG, ULONG*);
+    const auto chiede = reinterpret_cast<Chiede>(reinterpret_cast<void (*)()>(
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
+    std::vector<std::byte> spazio(1U << 20U);
+    while (chiede(tutteLeManiglie, spazio.data(), static_cast<ULONG>(spazio.size()), nullptr) < 0) {
+        if (spazio.size() > 1U << 26U) {
+            return 0;
+        }
+        spazio.resize(spazio.size() * 2);
+    }
+    const auto* const tabella = reinterpret_cast<const TabellaNucleo*>(spazio.data());
+    const DWORD noi = GetCurrentProcessId();
+    return static_cast<DWORD>(
+        std::ranges::count_if(std::span(&tabella->voci[0], tabella->quante),
+                              [noi](const VoceNucleo& voce) { return voce.processo == noi; }));
+}
+
 } // namespace
 
 ManiglieGui ManiglieGui::adesso() {
     ManiglieGui m{GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS),
-                  GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)};
+                  GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), 0};
     if (m.gdi == 0) {
         m.gdi = contaGdi();
     }
     if (m.user == 0) {
         m.user = contaFinestre();
+    }
+    if (GetProcessHandleCount(GetCurrentProcess(), &m.nucleo) == FALSE || m.nucleo == 0) {
+        m.nucleo = contaNucleo();
     }
     return m;
 }

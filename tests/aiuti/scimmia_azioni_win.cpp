@@ -46,7 +46,7 @@ void Scimmia::tasto() {
     if (caso(3) == 0) {
         SetFocus(griglia().lista());
         if (caso(2) == 0) {
-            const int da = finestra_.ElementoSelezionato();
+            const int da = scelto();
             const int fondo = static_cast<int>(modello_.size()) - 1;
             const std::array<std::pair<WORD, int>, 4> mosse{
                 {{VK_UP, da - 1}, {VK_DOWN, da + 1}, {VK_HOME, 0}, {VK_END, fondo}}};
@@ -161,8 +161,7 @@ void Scimmia::trascinaInGriglia() {
     // Between the pages of a pair of clicks a double click would open the editor.
     clic(campi_.hwnd(), {1, 1});
     premiMouse(lista, *inizio);
-    const int preso =
-        puntatoreVisto() == Puntatore::Trascina ? finestra_.ElementoSelezionato() : -1;
+    const int preso = puntatoreVisto() == Puntatore::Trascina ? scelto() : -1;
     for (int i = caso(6); i > 0; --i) {
         muoviMouse(lista, puntoGriglia().value_or(*inizio));
     }
@@ -171,9 +170,9 @@ void Scimmia::trascinaInGriglia() {
         premi(tasti[static_cast<std::size_t>(caso(4))]);
     }
     const int da = GetCapture() == lista ? preso : -1;
-    const int a = finestra_.ElementoSelezionato();
+    const int a = scelto();
     lasciaMouse();
-    static_cast<void>(sposta(da, a));
+    trascinato_ = sposta(da, a);
 }
 
 void Scimmia::menuGriglia() {
@@ -197,21 +196,27 @@ void Scimmia::eseguiUno(int comando) {
     pompa();
 }
 
-bool Scimmia::daChiedere() {
-    if (!documento_.modificato()) {
+std::vector<std::wstring> Scimmia::testiCanale() const {
+    std::vector<std::wstring> testi;
+    for (const int id : campiTesto) {
+        testi.push_back(testoDi(GetDlgItem(campi_.hwnd(), id)));
+    }
+    return testi;
+}
+
+bool Scimmia::daChiedere() const {
+    const auto testi = testiCanale();
+    if (!cambiati_ && testi == canale_) {
         return false;
     }
-    if (!modello_.empty() || testoDi(finestra_.hwnd()) != L"Ostrelle  [Nuovo Documento]") {
-        return true;
-    }
-    return std::ranges::any_of(campiTesto, [&](int id) {
-        const std::wstring testo = testoDi(GetDlgItem(campi_.hwnd(), id));
-        return testo.find_first_not_of(L' ') != std::wstring::npos;
-    });
+    return !modello_.empty() || testoDi(finestra_.hwnd()) != L"Ostrelle  [Nuovo Documento]" ||
+           std::ranges::any_of(testi, [](const std::wstring& testo) {
+               return testo.find_first_not_of(L' ') != std::wstring::npos;
+           });
 }
 
 void Scimmia::controllaDomanda(bool attesa) {
-    if (attesa && !domanda_ && !daChiedere()) {
+    if (attesa && !domanda_) {
         segnala("a document went without a question");
     }
 }
@@ -231,6 +236,7 @@ void Scimmia::nuovo() {
     controllaDomanda(attesa);
     if (lasciato()) {
         modello_.clear();
+        ricomincia();
     }
 }
 
@@ -247,6 +253,10 @@ void Scimmia::apre(int comando) {
     const bool attesa = daChiedere();
     eseguiUno(comando);
     controllaDomanda(attesa);
+    aperto();
+}
+
+void Scimmia::aperto() {
     if (!lasciato() || scelto_.empty()) {
         return;
     }
@@ -257,6 +267,7 @@ void Scimmia::apre(int comando) {
         modello_ = salvato->second;
         ++conti_.aperti;
     }
+    ricomincia();
 }
 
 void Scimmia::comando() {
@@ -322,6 +333,9 @@ void Scimmia::chiudeEAnnulla() {
         SendMessageW(finestra_.hwnd(), WM_CLOSE, 0, 0);
         pompa();
         chiude_ = false;
+        if (!domanda_) {
+            segnala("closes without a question");
+        }
     }
 }
 

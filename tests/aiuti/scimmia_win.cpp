@@ -7,6 +7,7 @@
 #include "res/risorse.h"
 #include "support/errori/errore.h"
 #include "support/testi/testo.h"
+#include "tests/aiuti/attesa_win.h"
 #include "tests/aiuti/testi.h"
 
 #include <commctrl.h>
@@ -20,6 +21,11 @@ constexpr std::array dateElementi{L"Tue, 15 Nov 2005 10:00:00 +0100",
                                   L"Wed, 16 Nov 2005 23:59:59 +0000", L"ieri"};
 // Of Latin 1: beyond it the file's texts are written as references, and read back as these.
 constexpr std::wstring_view lettere = L"abcxyzàèìòùABC<&>\"'0123456789";
+constexpr std::string_view feedConPerdite =
+    "<rss version='2.0'><channel><title>c</title><ttl>5</ttl><category>x</category><item>"
+    "<title>uno</title><link>https://e.example/1</link><description>d</description>"
+    "<author>a@e.example</author><pubDate>ieri</pubDate><guid>ieri 1</guid>"
+    "<comments>y</comments></item></channel></rss>";
 constexpr int passiFraSorveglianze = 10; // milliseconds
 
 // Whose watch the timer keeps; a timer's procedure has no room for it.
@@ -57,10 +63,14 @@ HWND sopra(std::wstring_view classe) {
 
 Scimmia::Scimmia(std::uint32_t seme)
     : generatore_(seme), rovinato_(cartella_.scrivi(L"rovinato.xml", "<rss><channel>")),
+      conPerdite_(cartella_.file(L"perdite.xml")),
       timer_(SetTimer(nullptr, 0, passiFraSorveglianze, &sorveglia)) {
     viva() = this;
+    // What opens a folder of copies.
+    registratore_.protocollo(L"Folder");
     finestra_.apri(SW_SHOWNORMAL);
     portaAvanti(finestra_.hwnd());
+    ricomincia();
 }
 
 Scimmia::~Scimmia() {
@@ -105,8 +115,9 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
         if (caso(4) == 0) {
             return Risposta::No;
         }
-        const int i = finestra_.ElementoSelezionato();
-        if (i < 0 || i >= static_cast<int>(modello_.size())) {
+        ricorda();
+        const int i = scelto();
+        if (i < 0) {
             segnala("deletes what is no item");
             return Risposta::No;
         }
@@ -119,6 +130,26 @@ Risposta Scimmia::mostra(const std::wstring& testo, const std::wstring& titolo, 
     return *domanda_;
 }
 
+const std::wstring& Scimmia::perdite() {
+    static_cast<void>(cartella_.scrivi(L"perdite.xml", feedConPerdite));
+    salvati_[minuscolo(conPerdite_)] = {
+        {L"uno", L"https://e.example/1", L"d", L"a@e.example", L"ieri", L"ieri 1"}};
+    return conPerdite_;
+}
+
+std::wstring Scimmia::percorsoDaLeggere() {
+    const int quale = caso(6);
+    return quale == 0   ? rovinato_
+           : quale == 1 ? perdite()
+                        : cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
+}
+
+std::wstring Scimmia::testoLettere(int massimo) {
+    std::wstring testo = testoCaso(massimo);
+    std::erase_if(testo, [](wchar_t c) { return c < L'a'; });
+    return testo.empty() ? L"a" : testo;
+}
+
 std::wstring Scimmia::percorsoCaso(bool salvataggio) {
     const int quale = caso(10);
     if (quale == 0) {
@@ -127,8 +158,8 @@ std::wstring Scimmia::percorsoCaso(bool salvataggio) {
     if (quale == 1) {
         return cartella_.file(L"manca\\") + L"n.xml";
     }
-    if (quale == 2 && !salvataggio) {
-        return rovinato_;
+    if (!salvataggio && quale < 4) {
+        return quale == 2 ? rovinato_ : perdite();
     }
     return cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }
@@ -151,9 +182,12 @@ void Scimmia::scrivi(std::wstring_view sezione, std::wstring_view chiave,
                      std::wstring_view valore) {
     valori_.scrivi(sezione, chiave, valore);
     if (chiave == L"murl1") {
-        // A save has succeeded.
+        // A save has succeeded: another reader than the program's looks at it.
+        controllaFile(std::wstring(valore));
         salvati_[std::wstring(valore)] = modello_;
         salvato_ = true;
+        cambiati_ = false;
+        canale_ = testiCanale();
         ++conti_.salvati;
     }
 }
@@ -171,9 +205,8 @@ std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaDat
     nellEditor_ = false;
 
     const bool aggiunge = elemento.sTitle().empty();
-    const int i = aggiunge ? static_cast<int>(modello_.size()) : finestra_.ElementoSelezionato();
-    if (!aggiunge && (i < 0 || i >= static_cast<int>(modello_.size()) ||
-                      elemento.sTitle() != modello_[static_cast<std::size_t>(i)][0] ||
+    const int i = aggiunge ? static_cast<int>(modello_.size()) : scelto();
+    if (!aggiunge && (i < 0 || elemento.sTitle() != modello_[static_cast<std::size_t>(i)][0] ||
                       elemento.sDescription() != modello_[static_cast<std::size_t>(i)][2])) {
         segnala("the editor gets another item than the one selected");
         return std::nullopt;
@@ -181,6 +214,7 @@ std::optional<DataOra> Scimmia::modifica(clsItemRss& elemento, DataOra ultimaDat
     if (caso(4) == 0) {
         return std::nullopt;
     }
+    ricorda();
     Elemento nuovo{
         testoCaso(30),  L"https://e.example/" + std::to_wstring(caso(1000)), testoCaso(200),
         L"a@e.example", dateElementi[static_cast<std::size_t>(caso(3))],     L""};
@@ -208,8 +242,9 @@ void Scimmia::passo() {
     voceMenu_ = -1;
     battiti_ = 0;
     fatto_.clear();
+    trascinato_ = false;
     portaFuoco();
-    switch (caso(12)) {
+    switch (caso(17)) {
     case 0:
     case 1:
     case 2:
@@ -235,11 +270,25 @@ void Scimmia::passo() {
     case 10:
         caso(4) == 0 ? ridimensiona() : caso(8) == 0 ? chiudeEAnnulla() : comando();
         break;
-    default:
+    case 11:
         comando();
+        break;
+    case 12:
+    case 13:
+        annullaORipete();
+        break;
+    case 14:
+        usaAppunti();
+        break;
+    case 15:
+        caso(3) == 0 ? lascia() : risponde();
+        break;
+    default:
+        cerca();
         break;
     }
     confronta();
+    ricorda();
 }
 
 void Scimmia::riposa() {
@@ -253,47 +302,13 @@ void Scimmia::riposa() {
     finestra_.NuovoDocumento();
     modello_.clear();
     pompa();
+    ricomincia();
 }
 
-void Scimmia::confronta() {
-    if (IsWindow(finestra_.hwnd()) == FALSE || IsWindowVisible(finestra_.hwnd()) == FALSE ||
-        IsWindowEnabled(finestra_.hwnd()) == FALSE) {
-        segnala("the window does not answer");
-        return;
-    }
-    const TabellaElementi& tabella = documento_.elementi();
-    if (tabella.conteggio() != static_cast<int>(modello_.size())) {
-        segnala("items: " + std::to_string(tabella.conteggio()) + ", in the model " +
-                std::to_string(modello_.size()));
-        return;
-    }
-    for (int i = 0; i < tabella.conteggio(); ++i) {
-        Elemento& atteso = modello_[static_cast<std::size_t>(i)];
-        if (atteso[5].empty()) {
-            atteso[5] = tabella(CampoElemento::Guid, i);
-            if (!atteso[5].starts_with(atteso[4] + L" ")) {
-                segnala("guid: " + inUtf8(atteso[5]));
-            }
-        }
-        for (int campo = 0; campo < numeroCampi; ++campo) {
-            const std::wstring_view vero = tabella(static_cast<CampoElemento>(campo), i);
-            if (vero != atteso[static_cast<std::size_t>(campo)]) {
-                segnala("item " + std::to_string(i) + ", field " + std::to_string(campo) + ": " +
-                        inUtf8(vero) + ", in the model " +
-                        inUtf8(atteso[static_cast<std::size_t>(campo)]));
-                return;
-            }
-        }
-    }
-    const int scelto = finestra_.ElementoSelezionato();
-    if (scelto >= tabella.conteggio() ||
-        ListView_GetItemCount(griglia().lista()) !=
-            std::max(RigheGriglia::minime - 1, int{tabella.conteggio()})) {
-        segnala("the grid shows other rows");
-    }
-    if (GetCapture() == griglia().lista()) {
-        segnala("a drag that has no end");
-    }
+HWND Scimmia::attendiDialogo() {
+    HWND dialogo = nullptr;
+    static_cast<void>(attendi([&] { return (dialogo = sopra(L"#32770")) != nullptr; }));
+    return dialogo;
 }
 
 // Inside the loops of menus and dialogs.
@@ -305,6 +320,9 @@ void CALLBACK Scimmia::sorveglia(HWND, UINT, UINT_PTR, DWORD) noexcept {
 }
 
 void Scimmia::sorveglia() {
+    if (cerca_) {
+        return;
+    }
     if (const HWND dialogo = sopra(L"#32770")) {
         PostMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
         return;

@@ -10,6 +10,7 @@
 #include "tests/aiuti/elementi_prova_win.h"
 #include "tests/aiuti/impostazioni_finte.h"
 #include "tests/aiuti/orologio_fermo.h"
+#include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "ui/dialogs/editorElementi.h"
 #include "ui/main/FrmMain_win.h"
@@ -22,10 +23,12 @@
 #include <random>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Does random things to the real main window and answers at random what it asks. What the items
-// must be afterwards it knows from what it was asked and what it answered.
+// must be afterwards it knows from what it did, what it was asked, what it answered and which row
+// it sees marked; it asks the program for nothing but an item's new guid.
 class Scimmia : private Messaggi,
                 private DialoghiFile,
                 private EditorElementi,
@@ -38,6 +41,11 @@ public:
         int spostati = 0;
         int salvati = 0;
         int aperti = 0;
+        int annullati = 0;
+        int incollati = 0;
+        int lasciati = 0;
+        int trovati = 0;
+        int avvisi = 0;
     };
 
     explicit Scimmia(std::uint32_t seme);
@@ -45,6 +53,8 @@ public:
     Scimmia& operator=(const Scimmia&) = delete;
     ~Scimmia() override;
 
+    // Makes what is made once, when it is first needed: the strip, the find dialog.
+    void scalda();
     // One random thing, then the comparison with the model.
     void passo();
     // The window as it was at the start.
@@ -88,14 +98,40 @@ private:
     void apre(int comando);
     void ridimensiona();
     void chiudeEAnnulla();
+    void annullaORipete();
+    void ripercorre(std::size_t posto);
+    void usaAppunti();
+    void lascia();
+    void cerca();
+    void risponde();
 
     [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra_); }
+    // The item whose row is marked, or -1.
+    [[nodiscard]] int scelto() const;
+    // Where a search must come to.
+    [[nodiscard]] std::optional<int> atteso(bool avanti) const;
+    void controllaTrovato(std::optional<int> voluto, int prima);
+    // The dialog in front, in a while; null when none comes.
+    [[nodiscard]] HWND attendiDialogo();
+
     void confronta();
+    void controllaFile(const std::wstring& percorso);
+    // New items' guids, which the program makes.
+    void impara();
+    // The items were changed: undo takes that back. Before the next change begins, and a step may
+    // make two.
+    void ricorda();
+    // Another document: nothing before it can be taken back.
+    void ricomincia();
     void segnala(std::string guasto);
     // Moves an item of the model; whether there was one to move elsewhere.
     bool sposta(int da, int a);
+    // The texts of the channel's fields.
+    [[nodiscard]] std::vector<std::wstring> testiCanale() const;
     // Whether the document, as the window shows it, must not go without a question.
-    [[nodiscard]] bool daChiedere();
+    [[nodiscard]] bool daChiedere() const;
+    // After scelto_ was to be opened.
+    void aperto();
     // After what throws the document away; `attesa`: a question had to come first.
     void controllaDomanda(bool attesa);
     // Whether the question of this step, if any, let the document go.
@@ -103,6 +139,10 @@ private:
 
     [[nodiscard]] int caso(int quanti);
     [[nodiscard]] std::wstring testoCaso(int massimo);
+    [[nodiscard]] std::wstring testoLettere(int massimo);
+    [[nodiscard]] std::wstring percorsoDaLeggere();
+    // Another program writes conPerdite_ anew: a save may have been there.
+    const std::wstring& perdite();
     [[nodiscard]] std::wstring percorsoCaso(bool salvataggio);
     // A random point of a random control, where a press starts no loop of the system's own.
     struct Posto {
@@ -124,6 +164,9 @@ private:
     CartelleDati cartelle_{dati_.file(L"copie"), dati_.file(L"diario")};
     CartellaProva cartella_;
     std::wstring rovinato_;
+    // With what a save drops, which the strip tells.
+    std::wstring conPerdite_;
+    Registratore registratore_;
     Documento documento_;
     FrmMain finestra_{Servizi{*this, *this, orologio_, *this, coda_, *this, cartelle_}, documento_};
     CampiProva campi_{finestra_};
@@ -131,6 +174,18 @@ private:
     UINT_PTR timer_;
 
     Modello modello_;
+    // What undo walks through, and where it stands.
+    std::vector<Modello> storia_{1};
+    std::size_t posto_ = 0;
+    // The items were changed since they were opened or saved; and the fields as they were then.
+    bool cambiati_ = false;
+    std::vector<std::wstring> canale_;
+    // What the grid put on the clipboard, whether it was cut, and the clipboard's number then.
+    std::optional<std::pair<Elemento, bool>> appunti_;
+    DWORD numeroAppunti_ = 0;
+    // What was searched for last.
+    std::wstring cercato_;
+    bool esatto_ = false;
     // By path in lower case, as the recent files hold it.
     std::map<std::wstring, Modello> salvati_;
     Conti conti_;
@@ -146,4 +201,8 @@ private:
     int voceMenu_ = -1;
     int battiti_ = 0;
     bool nellEditor_ = false;
+    // The rows were moved with the mouse, which does not count as a change.
+    bool trascinato_ = false;
+    // The dialog in front is the find dialog, which is being used.
+    bool cerca_ = false;
 };

@@ -238,6 +238,50 @@ TEST(ClsUTC, ZoneDiMezzOraContanoIConfiniDiOra) {
     EXPECT_EQ(scarto(59, 570), L"+1000");
 }
 
+// Rome in 2005: on 30 October half past two comes twice, on 27 March never.
+TEST(ClsUTC, LOraCheSiRipeteEQuellaCheManca) {
+    const DataOra dueEMezzaDiOttobre = DataOra::daParti(2005, 10, 30, 2, 30, 0);
+    const ClsUTC prima({DataOra::daParti(2005, 10, 30, 0, 30, 0), dueEMezzaDiOttobre}, {});
+    const ClsUTC dopo({DataOra::daParti(2005, 10, 30, 1, 30, 0), dueEMezzaDiOttobre}, {});
+    const std::wstring conLegale = prima.GetDataUtc(prima.adessoLocale(), true);
+    const std::wstring conSolare = dopo.GetDataUtc(dopo.adessoLocale(), true);
+    EXPECT_EQ(conLegale, L"Sun, 30 Oct 2005 02:30:00 +0200");
+    EXPECT_EQ(conSolare, L"Sun, 30 Oct 2005 02:30:00 +0100");
+    EXPECT_EQ(prima.GetDataUtc(dueEMezzaDiOttobre, false), L"Sun, 30 Oct 2005 00:30:00 +0200");
+    EXPECT_EQ(dopo.GetDataUtc(dueEMezzaDiOttobre, false), L"Sun, 30 Oct 2005 01:30:00 +0100");
+    EXPECT_FALSE(prima.leggeCome(dopo));
+
+    const ClsUTC ultima(
+        {DataOra::daParti(2005, 3, 27, 0, 59, 59), DataOra::daParti(2005, 3, 27, 1, 59, 59)}, {});
+    const ClsUTC saltata(
+        {DataOra::daParti(2005, 3, 27, 1, 0, 0), DataOra::daParti(2005, 3, 27, 3, 0, 0)}, {});
+    EXPECT_EQ(ultima.nDiffOre(), 1);
+    EXPECT_EQ(saltata.nDiffOre(), 2);
+    // A clock time is a clock time, whichever it is and whenever it is read.
+    const DataOra dueEMezzaDiMarzo = DataOra::daParti(2005, 3, 27, 2, 30, 0);
+    for (const ClsUTC* const utc : {&prima, &dopo, &ultima, &saltata}) {
+        EXPECT_EQ(utc->ToDate(conLegale), dueEMezzaDiOttobre);
+        EXPECT_EQ(utc->ToDate(conSolare), dueEMezzaDiOttobre);
+        EXPECT_EQ(utc->ToDate(utc->GetDataUtc(dueEMezzaDiMarzo, true)), dueEMezzaDiMarzo);
+        EXPECT_EQ(utc->ToDate(L"Sun, 30 Oct 2005 00:30:00 GMT"),
+                  DataOra::daParti(2005, 10, 30, utc->nDiffOre(), 30, 0));
+    }
+}
+
+TEST(ClsUTC, LoScartoDiCapodannoEDellUltimoGiorno) {
+    const DataOra capodanno = DataOra::daParti(2006, 1, 1, 0, 30, 0);
+    EXPECT_EQ(ClsUTC({capodanno.piuSecondi(-3600), capodanno}, {}).nDiffOre(), 1);
+    EXPECT_EQ(ClsUTC({capodanno, capodanno.piuSecondi(-3600)}, {}).nDiffOre(), -1);
+    const DataOra ultima = DataOra::daParti(9999, 12, 31, 23, 59, 59);
+    const ClsUTC laggiu({ultima.piuSecondi(-14 * 3600), ultima}, {});
+    EXPECT_EQ(laggiu.nDiffOre(), 14);
+    EXPECT_EQ(laggiu.GetDataUtc(ultima, true), L"Fri, 31 Dec 9999 23:59:59 +1400");
+    EXPECT_EQ(laggiu.GetDataUtc(ultima, false), L"Fri, 31 Dec 9999 09:59:59 +1400");
+    EXPECT_EQ(laggiu.ToDate(L"Fri, 31 Dec 9999 09:59:59 GMT"), ultima);
+    EXPECT_EQ(sollevatoDa([&] { return laggiu.ToDate(L"Fri, 31 Dec 9999 10:00:00 GMT"); }).numero,
+              5);
+}
+
 TEST(ClsUTC, GliAnniEstremi) {
     const ClsUTC utc = conScarto(0);
     const DataOra prima = DataOra::daParti(100, 1, 1);

@@ -2,10 +2,10 @@
 
 #include "document/byteDiario.h"
 #include "document/documento.h"
+#include "tests/aiuti/giri.h"
 #include "tests/aiuti/tabella_prova.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <random>
 #include <string>
 #include <vector>
@@ -159,12 +159,6 @@ private:
     std::vector<Tappa> tappe_;
 };
 
-// How many rounds whoever runs this asks for.
-int giri(int predefiniti) {
-    const char* const chiesti = std::getenv("OSTRELLE_GIRI"); // NOLINT(concurrency-mt-unsafe)
-    return chiesti != nullptr ? std::atoi(chiesti) : predefiniti;
-}
-
 LavoroNonSalvato unLavoro() {
     LavoroNonSalvato lavoro;
     lavoro.ora = DataOra::daParti(2026, 11, 21, 13, 5, 59);
@@ -218,7 +212,7 @@ TEST(Diario, UnaCodaStrappataCadeEIlRestoVale) {
 }
 
 TEST(Diario, UnByteGuastoNonPassaPerBuono) {
-    const int quanti = giri(20000);
+    const auto quanti = static_cast<int>(daAmbiente("OSTRELLE_GIRI", 20000));
     std::mt19937 motore(20261121);
     const auto caso = [&] { return static_cast<std::uint32_t>(motore()); };
     for (int giro = 0; giro < quanti;) {

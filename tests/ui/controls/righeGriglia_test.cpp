@@ -139,6 +139,17 @@ TEST(RigheGriglia, LeRigheSonoQuelleDellUltimoElenco) {
     EXPECT_EQ(p.righe.cella(2, 1), L" ");
 }
 
+TEST(RigheGriglia, UnAltraZonaSiVedeAllElencoSeguente) {
+    Prova p;
+    p.aggiungi(L"a", L"", L"Tue, 15 Nov 2005 10:00:00 GMT");
+    p.elenca();
+    EXPECT_EQ(p.righe.cella(1, 0), L"15/11/2005 11:00:00");
+    const DataOra ora = DataOra::daParti(2005, 11, 15, 9);
+    const ClsUTC lontano({ora, ora.piuSecondi(std::int64_t{14} * 3600)}, formato);
+    p.righe.elenca(lontano, formato);
+    EXPECT_EQ(p.righe.cella(1, 0), L"16/11/2005 00:00:00");
+}
+
 TEST(RigheGriglia, TestiEnormi) {
     Prova p;
     const std::wstring milione(1 << 20, L'x');

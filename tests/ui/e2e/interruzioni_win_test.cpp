@@ -3,28 +3,18 @@
 #include "tests/aiuti/cartella_win.h"
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/datiLocali_win.h"
+#include "tests/aiuti/giri.h"
 #include "tests/aiuti/lavoroACaso_win.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-std::uint32_t daAmbiente(const char* nome, std::uint32_t predefinito) {
-    const char* const valore = std::getenv(nome);
-    return valore == nullptr ? predefinito
-                             : static_cast<std::uint32_t>(std::strtoul(valore, nullptr, 10));
-}
-
-} // namespace
 
 TEST(Interruzioni, NienteSiPerdeQualunqueSiaIlMomento) {
     using Genere = LavoroACaso::Genere;

@@ -1,25 +1,25 @@
 // A monkey: random work with a fixed seed on the real window, against a plain model of the items.
 
+#include "tests/aiuti/giri.h"
 #include "tests/aiuti/maniglieGui_win.h"
+#include "tests/aiuti/registratore_win.h"
 #include "tests/aiuti/schermo_win.h"
 #include "tests/aiuti/scimmia_win.h"
 
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdlib>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr int passiDiProva = 1000;
+constexpr int passiDiProva = 700;
 // Long enough for the about box to come by: what the system makes when it first shows it stays.
-constexpr int passiDiRiscaldamento = 400;
+constexpr int passiDiRiscaldamento = 300;
 
 int passiVoluti() {
-    const char* const voluti = std::getenv("OSTRELLE_SCIMMIA");
-    return voluti == nullptr ? passiDiProva : std::max(1, std::atoi(voluti));
+    return std::max(1, static_cast<int>(daAmbiente("OSTRELLE_SCIMMIA", passiDiProva)));
 }
 
 // Makes the system's own pointers: it does so when one is first shown, and keeps its bitmaps for
@@ -36,8 +36,10 @@ void mostraPuntatori() {
 } // namespace
 
 TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
-    Scimmia scimmia(20051115);
+    const std::uint32_t seme = daAmbiente("OSTRELLE_SEME", 20051115);
+    Scimmia scimmia(seme);
     mostraPuntatori();
+    scimmia.scalda();
     for (int i = 0; i < passiDiRiscaldamento; ++i) {
         scimmia.passo();
         ASSERT_EQ(scimmia.guasto(), "") << "warm-up step " << i << ": " << scimmia.fatto();
@@ -58,8 +60,14 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     }
     scimmia.riposa();
     const ManiglieGui dopo = ManiglieGui::adesso();
-    EXPECT_EQ(dopo, prima);
-    // The monkey did reach what it is for.
+    EXPECT_EQ(dopo.gdi, prima.gdi);
+    EXPECT_EQ(dopo.user, prima.user);
+    // Of the kernel's the system may keep a few that it first needed meanwhile.
+    EXPECT_LE(dopo.nucleo, prima.nucleo + 4);
+    // Given the time, the monkey does reach what it is for.
+    if (passi < passiDiProva) {
+        return;
+    }
     const Scimmia::Conti& conti = scimmia.conti();
     EXPECT_GT(conti.aggiunti, passi / 200);
     EXPECT_GT(conti.modificati, passi / 500);
@@ -67,6 +75,11 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     EXPECT_GT(conti.spostati, passi / 500);
     EXPECT_GT(conti.salvati, passi / 500);
     EXPECT_GT(conti.aperti, passi / 1000);
+    EXPECT_GT(conti.annullati, passi / 100);
+    EXPECT_GT(conti.incollati, passi / 500);
+    EXPECT_GT(conti.lasciati, passi / 500);
+    EXPECT_GT(conti.trovati, passi / 100);
+    EXPECT_GT(conti.avvisi, 0);
     RecordProperty("aggiunti", conti.aggiunti);
     RecordProperty("spostati", conti.spostati);
     RecordProperty("salvati", conti.salvati);
