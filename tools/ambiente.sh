@@ -101,6 +101,8 @@ prefisso_installazione() {
   local nuovo="$build/wine-installazione"
   copia_prefisso "$WINEPREFIX" "$nuovo"
   mkdir "$nuovo/drive_c"
+  # A test that was ended may have left its own folder for the programs' data.
+  sed -i 's|^"Local AppData"=str(2):.*|"Local AppData"=str(2):"%USERPROFILE%\\\\AppData\\\\Local"|' "$nuovo/user.reg"
   ln -s "$WINEPREFIX/drive_c"/* "$nuovo/drive_c"
   rm "$nuovo/drive_c/users"
   cp -a "$WINEPREFIX/drive_c/users" "$nuovo/drive_c"

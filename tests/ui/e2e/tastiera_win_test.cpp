@@ -266,11 +266,9 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         attendiMenu();
         premi('L');
         chiudi(programma, L"", VK_ESCAPE, programma.pulsante(cmdModifica));
-        premi(VK_MENU);
-        premi(VK_RIGHT);
-        premi(VK_RIGHT);
-        premi(VK_DOWN);
+        premi('C', {VK_MENU});
         attendiMenu();
+        premi(VK_RIGHT);
         premi('I');
         const HWND box = programma.attendiFinestra(L"#32770", informazioni);
         attendiFuoco(programma, GetDlgItem(box, IDC_CMDOK));
