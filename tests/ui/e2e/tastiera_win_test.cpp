@@ -5,7 +5,6 @@
 #include "tests/aiuti/chiaveSalvata_win.h"
 #include "tests/aiuti/datiLocali_win.h"
 #include "tests/aiuti/feedDiProva_win.h"
-#include "tests/aiuti/ostrelleGuidata_win.h"
 #include "tests/aiuti/programma_prova_win.h"
 #include "tests/aiuti/testi.h"
 
@@ -303,54 +302,4 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         EXPECT_EQ(documento.items(CampoElemento::Titolo, i), titoli[static_cast<std::size_t>(i)]);
         EXPECT_EQ(documento.items(CampoElemento::Descrizione, i), L"prima\r\npoi");
     }
-}
-
-TEST_F(Tastiera, GliAvvisiDelLavoroNonSalvato) {
-    // Work that three runs left behind.
-    for (const wchar_t* const titolo : {L"primo", L"secondo", L"terzo"}) {
-        OstrelleGuidata finita([](HANDLE) {});
-        finita.digita(finita.campo(IDC_TXTTITOLO), titolo);
-        finita.calma();
-    }
-    Programma programma;
-    // It comes after the window.
-    HWND striscia = nullptr;
-    ASSERT_TRUE(attendiChe([&] {
-        striscia = FindWindowExW(programma.principale, nullptr, L"OstrelleAvvisi", nullptr);
-        return striscia != nullptr && IsWindowVisible(striscia) != FALSE;
-    }));
-    const auto pulsante = [&](const wchar_t* didascalia) {
-        HWND trovato = nullptr;
-        EXPECT_TRUE(attendiChe([&] {
-            trovato = FindWindowExW(striscia, nullptr, L"Button", didascalia);
-            return trovato != nullptr && IsWindowVisible(trovato) != FALSE;
-        }));
-        return trovato;
-    };
-    const HWND titolo = programma.campo(IDC_TXTTITOLO);
-    attendiFuoco(programma, titolo);
-
-    // Left for another time.
-    premi(VK_F6);
-    attendiFuoco(programma, pulsante(L"Recupera"));
-    premi(VK_TAB);
-    attendiFuoco(programma, pulsante(L"Elimina"));
-    premi(VK_ESCAPE);
-    attendiFuoco(programma, titolo);
-
-    // Thrown away, once the question is answered with Yes. By Tab alone it comes after all else.
-    premi(VK_TAB, {VK_SHIFT});
-    attendiFuoco(programma, pulsante(L"Chiudi avviso"));
-    premi(VK_TAB, {VK_SHIFT});
-    attendiFuoco(programma, pulsante(L"Elimina"));
-    premi(VK_SPACE);
-    chiudi(programma, testi::attenzione, VK_RETURN, titolo);
-
-    // Taken up; no other one is left then.
-    premi(VK_F6);
-    attendiFuoco(programma, pulsante(L"Recupera"));
-    premi(VK_RETURN);
-    EXPECT_TRUE(attendiChe([&] { return !Programma::testoNel(titolo).empty(); }));
-    attendiFuoco(programma, titolo);
-    EXPECT_TRUE(attendiChe([&] { return IsWindowVisible(striscia) == FALSE; }));
 }
