@@ -1,7 +1,7 @@
 // Every menu entry and every button that the running window has does its work.
 
-#include "support/utilita/guida_win.h"
 #include "support/programma/prodotto.h"
+#include "support/utilita/guida_win.h"
 #include "support/windows/file_win.h"
 #include "tests/aiuti/comandi_prova_win.h"
 #include "tests/aiuti/proprietariaShell_win.h"

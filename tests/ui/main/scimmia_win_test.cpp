@@ -39,6 +39,7 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     const std::uint32_t seme = daAmbiente("OSTRELLE_SEME", 20051115);
     Scimmia scimmia(seme);
     mostraPuntatori();
+    testoAppunti(L""); // no item that another test left
     scimmia.scalda();
     for (int i = 0; i < passiDiRiscaldamento; ++i) {
         scimmia.passo();
