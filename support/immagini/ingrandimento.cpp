@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int canali = 4;
 constexpr int opacita = 3;
 
 // The two pixels that lie around a place, and how much of the second is in it.
@@ -31,31 +30,35 @@ double canale(std::uint32_t punto, int quale) noexcept {
 
 std::vector<std::uint32_t> ingrandite(const FilaDiFigure& fila, int lato) {
     std::vector<std::uint32_t> nuovi;
-    nuovi.reserve(static_cast<std::size_t>(fila.quante) * lato * lato);
+    const int larga = fila.quante * fila.lato;
     for (int y = 0; y < lato; ++y) {
         const Fra righe = fra(y, lato, fila.lato);
         for (int x = 0; x < fila.quante * lato; ++x) {
             const Fra colonne = fra(x % lato, lato, fila.lato);
             const int figura = x / lato * fila.lato;
-            std::array<double, canali> somma{};
+            std::array<double, opacita> colori{};
+            double opaco = 0;
             const auto conta = [&](int colonna, int riga, double peso) {
                 const std::uint32_t punto =
-                    fila.punti[static_cast<std::size_t>(riga) * fila.quante * fila.lato + figura +
-                               colonna];
-                const double peso_ = peso * canale(punto, opacita);
-                for (int c = 0; c < opacita; ++c) {
-                    somma[c] += peso_ * canale(punto, c);
+                    fila.punti[static_cast<std::size_t>(riga * larga + figura + colonna)];
+                const double quanto = peso * canale(punto, opacita);
+                int quale = 0;
+                for (double& colore : colori) {
+                    colore += quanto * canale(punto, quale++);
                 }
-                somma[opacita] += peso_;
+                opaco += quanto;
             };
             conta(colonne.primo, righe.primo, (1 - colonne.parte) * (1 - righe.parte));
             conta(colonne.secondo, righe.primo, colonne.parte * (1 - righe.parte));
             conta(colonne.primo, righe.secondo, (1 - colonne.parte) * righe.parte);
             conta(colonne.secondo, righe.secondo, colonne.parte * righe.parte);
-            auto punto = static_cast<std::uint32_t>(std::lround(somma[opacita])) << (8 * opacita);
-            for (int c = 0; c < opacita && somma[opacita] > 0; ++c) {
-                punto |= static_cast<std::uint32_t>(std::lround(somma[c] / somma[opacita]))
-                         << (8 * c);
+            auto punto = static_cast<std::uint32_t>(std::lround(opaco)) << (8U * opacita);
+            if (opaco > 0) {
+                unsigned bit = 0;
+                for (const double colore : colori) {
+                    punto |= static_cast<std::uint32_t>(std::lround(colore / opaco)) << bit;
+                    bit += 8;
+                }
             }
             nuovi.push_back(punto);
         }
