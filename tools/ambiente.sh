@@ -67,6 +67,11 @@ prefisso() {
 
 # prefisso_persona: the prefix in which a person works.
 prefisso_persona() { prefisso wine prepara_persona; }
+# prefisso_giro: one like it for the tour, where nobody's work is found or left.
+prefisso_giro() {
+  prefisso wine-giro prepara_persona
+  rm -rf "$WINEPREFIX"/drive_c/users/*/AppData/Local/Ostrelle
+}
 # Pages open in this machine's own browser; Wine's is not part of the prefix.
 prepara_persona() {
   "$wine64" reg add 'HKCR\.htm' /ve /d paginaweb /f >/dev/null

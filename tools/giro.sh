@@ -100,7 +100,7 @@ trascina_riga() {
 ordine() {
   local ultimo=0 testo posto
   for testo in "$@"; do
-    posto=$(grep -bo -m 1 "$testo" "$disco/notizie.xml" | head -n 1 | cut -d: -f1)
+    posto=$(grep -bo -m 1 "$testo" "$disco/notizie.xml" | head -n 1 | cut -d: -f1) || true
     [ "${posto:-0}" -gt "$ultimo" ] || { echo "The saved feed has \"$testo\" elsewhere." >&2; return 1; }
     ultimo=$posto
   done
@@ -166,6 +166,12 @@ giro() {
   trascina_riga 4 1 "trascinamento"
   foto "elemento-spostato"
 
+  # Taken back, and done again.
+  tasti ctrl+z
+  foto "annullato"
+  tasti ctrl+y
+  foto "ripetuto"
+
   # Found by a word, with the system's find dialog; once more from the first, all round.
   tasti ctrl+f
   pronta '^Trova$|^Find$'
@@ -216,7 +222,31 @@ giro() {
   tasti Return
   attendi_chiusa '^Informazioni su'
 
+  # A change that is not saved, and the program is gone: the next one offers it.
   pronta 'Ostrelle  \[C:.*notizie.xml\]'
+  tasti alt+c
+  quieto
+  tasti m
+  pronta '^Edit$'
+  tasti ctrl+a
+  scrivi "Le Pleiadi, rimandata"
+  tasti Return
+  attendi_chiusa '^Edit$'
+  quieto
+  kill -9 "$programma"
+  wait "$programma" 2>/dev/null || true
+  attendi_chiusa 'Ostrelle'
+  "$wine64" build/windows/Ostrelle.exe 2>/dev/null &
+  programma=$!
+  pronta 'Ostrelle  \[Nuovo Documento\]'
+  foto "lavoro-non-salvato"
+  tasti F6 Return
+  pronta 'Ostrelle  \[C:.*notizie.xml\]'
+  foto "recuperato"
+  tasti ctrl+s
+  quieto
+  ordine 'edizione di dicembre' 'Le Pleiadi, rimandata' 'Serata sulla Luna'
+
   tasti alt+f
   quieto
   tasti c
