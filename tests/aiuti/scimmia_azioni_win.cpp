@@ -198,6 +198,7 @@ void Scimmia::eseguiUno(int comando) {
 
 std::vector<std::wstring> Scimmia::testiCanale() const {
     std::vector<std::wstring> testi;
+    testi.reserve(std::size(campiTesto));
     for (const int id : campiTesto) {
         testi.push_back(testoDi(GetDlgItem(campi_.hwnd(), id)));
     }
