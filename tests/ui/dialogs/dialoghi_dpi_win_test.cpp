@@ -17,7 +17,10 @@ constexpr std::array viaggio{96, 144, 192, 96, 120, 192, 96};
 class DialoghiMonitor : public ProvaEditor {
 protected:
     DialoghiMonitor() { editor.Elemento().sTitle(L"Un titolo"); }
-    ~DialoghiMonitor() override { scordaDpi(proprietaria); }
+    void TearDown() override {
+        scordaDpi(proprietaria);
+        ProvaEditor::TearDown();
+    }
 
     void mostraEditor(int dpi, const std::function<void(HWND)>& azione) {
         tieniDpi(proprietaria, {{dpi}, {dpi}});
@@ -115,8 +118,8 @@ TEST_F(DialoghiMonitor, OgniParteDelleInformazioniCresce) {
         });
     }
     for (const auto& [id, prima] : parti[96]) {
-        EXPECT_NEAR(parti[192][id].cx, 2 * prima.cx, prima.cx / 4) << id;
-        EXPECT_NEAR(parti[192][id].cy, 2 * prima.cy, prima.cy / 4) << id;
+        EXPECT_NEAR(parti[192][id].cx, 2 * prima.cx, prima.cx / 4.0) << id;
+        EXPECT_NEAR(parti[192][id].cy, 2 * prima.cy, prima.cy / 4.0) << id;
     }
     EXPECT_EQ(parti[192][IDC_PICICON].cx, 2 * parti[96][IDC_PICICON].cx);
     EXPECT_EQ(parti[192][IDC_IMAGE1].cx, 2 * parti[96][IDC_IMAGE1].cx);
