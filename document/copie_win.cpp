@@ -13,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -75,6 +74,16 @@ bool uguali(const std::wstring& uno, const std::wstring& altro) {
     }
 }
 
+// The copy is on the disk itself before the file that it was made of may go.
+void scarica(const std::wstring& percorso) {
+    SetFileAttributesW(percorso.c_str(), FILE_ATTRIBUTE_NORMAL);
+    const ManigliaFile file(CreateFileW(percorso.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file || !FlushFileBuffers(file.get())) {
+        sollevaWin32();
+    }
+}
+
 } // namespace
 
 std::optional<std::string> contenutoDi(const std::wstring& percorso) {
@@ -92,7 +101,7 @@ std::optional<std::string> contenutoDi(const std::wstring& percorso) {
     return contenuto;
 }
 
-CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso) {
+CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso) const {
     if (!fileEsiste(percorso)) {
         return Esito::NessunFile;
     }
@@ -106,13 +115,14 @@ CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adess
         if (!CopyFileW(percorso.c_str(), copia.c_str(), TRUE)) {
             return false;
         }
-        SetFileAttributesW(copia.c_str(), FILE_ATTRIBUTE_NORMAL);
+        scarica(copia);
         return true;
     });
     return Esito::Fatta;
 }
 
-void CopieFile::conserva(const std::wstring& percorso, DataOra adesso, std::string_view contenuto) {
+void CopieFile::conserva(const std::wstring& percorso, DataOra adesso,
+                         std::string_view contenuto) const {
     aggiungi(percorso, adesso, [&](const std::wstring& copia) {
         const ManigliaFile file(CreateFileW(copia.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                             FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -125,20 +135,19 @@ void CopieFile::conserva(const std::wstring& percorso, DataOra adesso, std::stri
             SetLastError(ERROR_DISK_FULL);
             return false;
         }
-        return true;
+        return FlushFileBuffers(file.get()) != FALSE;
     });
 }
 
 // `crea` makes the copy of that name, and says whether it did.
 template <class Crea>
-void CopieFile::aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea) {
+void CopieFile::aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea) const {
     const std::wstring dove = cartella(percorso);
     koUtilitaCartelle::CreaPercorsoDirectory(dove);
     const std::wstring ora = oraPerNomi(adesso);
     for (int numero = 1;; ++numero) {
         const std::wstring copia = dove + L'\\' + copie::nomeCopia(ora, numero, percorso);
         if (crea(copia)) {
-            daScaricare_.push_back(copia);
             break;
         }
         const DWORD codice = GetLastError();
@@ -149,15 +158,6 @@ void CopieFile::aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea
         }
     }
     sfoltisci();
-}
-
-void CopieFile::scarica() noexcept {
-    for (const std::wstring& copia : std::exchange(daScaricare_, {})) {
-        const ManigliaFile file(CreateFileW(copia.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-        // What cannot be hurried gets there by itself.
-        FlushFileBuffers(file.get());
-    }
 }
 
 std::wstring CopieFile::cartella(const std::wstring& percorso) const {

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 // What a file holds; nothing where it cannot be read.
 [[nodiscard]] std::optional<std::string> contenutoDi(const std::wstring& percorso);
@@ -22,22 +21,17 @@ public:
     // Keeps the file as it stands, unless there is none or the newest copy is equal; then lets the
     // oldest copies go that are too many. `adesso` is the local time. Raises the run-time error of
     // the failure: no copy is kept then, and the file is as it was.
-    Esito conserva(const std::wstring& percorso, DataOra adesso);
+    Esito conserva(const std::wstring& percorso, DataOra adesso) const;
     // The same of what such a file held.
-    void conserva(const std::wstring& percorso, DataOra adesso, std::string_view contenuto);
-
-    // The copies made since the last time reach the disk itself, which takes as long as making them
-    // does: not for who waits for a save. Until then a cut of the power could lose them.
-    void scarica() noexcept;
+    void conserva(const std::wstring& percorso, DataOra adesso, std::string_view contenuto) const;
 
     // The folder with the copies of a file, whether it exists or not.
     [[nodiscard]] std::wstring cartella(const std::wstring& percorso) const;
 
 private:
     template <class Crea>
-    void aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea);
+    void aggiungi(const std::wstring& percorso, DataOra adesso, Crea crea) const;
     void sfoltisci() const;
 
     std::wstring radice_;
-    std::vector<std::wstring> daScaricare_;
 };

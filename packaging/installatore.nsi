@@ -126,13 +126,14 @@ FunctionEnd
 
 Section
   !insertmacro seInEsecuzione "l'installazione"
+  ; A file that cannot be written from here on ends it with this.
+  SetErrorLevel 1
   ClearErrors
   RMDir /r "$INSTDIR\guida"
   !include file.nsh
   SetOutPath "$INSTDIR"
   WriteUninstaller "${DISINSTALLA}"
   ${If} ${Errors}
-    SetErrorLevel 1
     Abort
   ${EndIf}
   CreateShortcut "$SMPROGRAMS\${NOME}.lnk" "${PROGRAMMA}"
@@ -158,6 +159,7 @@ Section
   WriteRegDWORD HKCU "${VOCE}" "NoModify" 1
   WriteRegDWORD HKCU "${VOCE}" "NoRepair" 1
   !insertmacro associazioniCambiate
+  SetErrorLevel 0
 SectionEnd
 
 Function un.onInit

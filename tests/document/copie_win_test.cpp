@@ -117,7 +117,7 @@ TEST_F(CopieSuDisco, SuUnDiscoPienoNonRestaMezzaCopia) {
     if (!disco) {
         GTEST_SKIP() << "no small volume here";
     }
-    CopieFile piccole(*disco + L"\\copie");
+    const CopieFile piccole(*disco + L"\\copie");
     file = cartella.scrivi(L"notizie.xml", std::string(400'000, 'x'));
     EXPECT_NE(sollevatoDa([&] { return piccole.conserva(file, ora); }).numero, 0);
     EXPECT_TRUE(std::filesystem::is_empty(piccole.cartella(file)));

@@ -322,9 +322,12 @@ void Griglia::misura() {
     dpi_ = dpiDi(hwnd());
     aspetto_ = AspettoGriglia(dpi_.y);
     puntatori_ = Puntatori(dpi_);
+    suggerimento_.carattere(aspetto_.carattere());
 }
 
 void Griglia::aggiornaAspetto() {
+    abbandona();
+    suggerimento_.nascondi();
     misura();
     SendMessageW(lista_, WM_SETFONT, reinterpret_cast<WPARAM>(aspetto_.carattere()), TRUE);
     ListView_SetBkColor(lista_, GetSysColor(COLOR_WINDOW));

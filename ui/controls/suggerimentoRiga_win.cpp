@@ -28,6 +28,7 @@ void SuggerimentoRiga::segui(const MSG& messaggio, int riga, const RECT& posto) 
                                     0, messaggio.hwnd, nullptr, GetModuleHandleW(nullptr), nullptr);
         TTTOOLINFOW info = strumento(messaggio.hwnd, {});
         SendMessageW(finestra_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+        carattere(carattere_);
         SendMessageW(finestra_, TTM_SETDELAYTIME, TTDT_AUTOPOP, durata);
     }
     MSG copia = messaggio;
@@ -46,6 +47,13 @@ void SuggerimentoRiga::posa(HWND lista, const RECT& posto) const noexcept {
     SendMessageW(finestra_, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&info));
 }
 
+void SuggerimentoRiga::carattere(HFONT carattere) noexcept {
+    carattere_ = carattere;
+    if (finestra_ != nullptr) {
+        SendMessageW(finestra_, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
+    }
+}
+
 void SuggerimentoRiga::nascondi() noexcept {
     riga_ = 0;
     if (finestra_ != nullptr) {
@@ -56,7 +64,8 @@ void SuggerimentoRiga::nascondi() noexcept {
 void SuggerimentoRiga::rispondi(NMTTDISPINFOW& richiesta, std::wstring testo, int larghezza) {
     testo_ = std::move(testo);
     if (testo_.size() >= massimo) {
-        testo_.resize(massimo - 2);
+        // No half of a character.
+        testo_.resize(massimo - (IS_HIGH_SURROGATE(testo_[massimo - 3]) ? 3 : 2));
         testo_ += L'\u2026';
     }
     // Without one a line break would be shown as a character.

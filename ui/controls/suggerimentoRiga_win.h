@@ -17,6 +17,8 @@ public:
     // row under it (0 for none) has that place in the list. The list then is asked for the text by
     // TTN_GETDISPINFO, should the pointer rest.
     void segui(const MSG& messaggio, int riga, const RECT& posto) noexcept;
+    // What it is written with, the caller's.
+    void carattere(HFONT carattere) noexcept;
     // Away with it: the rows are not where they were.
     void nascondi() noexcept;
 
@@ -31,6 +33,7 @@ private:
 
     // Belongs to the list's top-level window.
     HWND finestra_ = nullptr;
+    HFONT carattere_ = nullptr;
     int riga_ = 0;
     std::wstring testo_;
 };

@@ -57,8 +57,7 @@ void FrmEditFeed::mostra(HWND proprietaria) {
 bool FrmEditFeed::inizializza() {
     annullato_ = true;
     iniziali_.clear();
-    inPiu_ = {};
-    dpi_ = dpiDi(hwnd());
+    voluta_ = {{}, false, dpiDi(hwnd())};
     ancoraggi_ = Ancoraggi(hwnd(), ancorati);
     tasti_ = TastiDialogo(hwnd(), tasti);
     txtTitolo_ = CampoTesto(controllo(IDC_EDITTITOLO));
@@ -77,9 +76,9 @@ bool FrmEditFeed::inizializza() {
 
 // What the user added to the size grows with the rest.
 void FrmEditFeed::adattato() {
-    const Dpi dpi = dpiDi(hwnd());
+    const Alzata adattando(adattando_);
     ancoraggi_ = Ancoraggi(hwnd(), ancorati);
-    const SIZE inPiu = portata(inPiu_, std::exchange(dpi_, dpi), dpi);
+    const SIZE inPiu = portata(voluta_.inPiu, voluta_.dpi, dpiDi(hwnd()));
     RECT r{};
     GetWindowRect(hwnd(), &r);
     SetWindowPos(hwnd(), nullptr, r.left - inPiu.cx / 2, r.top - inPiu.cy / 2,
@@ -88,16 +87,18 @@ void FrmEditFeed::adattato() {
 }
 
 // The dialog keeps its middle, as far as that leaves it on the screen.
-void FrmEditFeed::applicaMisura() const noexcept {
+void FrmEditFeed::applicaMisura() noexcept {
     if (!misura_) {
         return;
     }
+    const Alzata adattando(adattando_);
+    voluta_ = *misura_;
     MONITORINFO schermo{};
     schermo.cbSize = sizeof schermo;
     GetMonitorInfoW(MonitorFromWindow(hwnd(), MONITOR_DEFAULTTONEAREST), &schermo);
     const RECT& area = schermo.rcWork;
     const POINT minima = ancoraggi_.misuraMinima();
-    const SIZE inPiu = portata(misura_->inPiu, misura_->dpi, dpi_);
+    const SIZE inPiu = portata(voluta_.inPiu, voluta_.dpi, dpiDi(hwnd()));
     RECT r{};
     GetWindowRect(hwnd(), &r);
     const LONG larghezza =
@@ -114,22 +115,17 @@ void FrmEditFeed::applicaMisura() const noexcept {
 }
 
 void FrmEditFeed::ricordaMisura() noexcept {
-    WINDOWPLACEMENT posto{};
-    posto.length = sizeof posto;
-    if (GetWindowPlacement(hwnd(), &posto) != FALSE) {
-        const RECT& r = posto.rcNormalPosition;
-        const POINT minima = ancoraggi_.misuraMinima();
-        misura_ = {{r.right - r.left - minima.x, r.bottom - r.top - minima.y},
-                   IsZoomed(hwnd()) != FALSE,
-                   dpi_};
-    }
+    misura_ = voluta_;
+    misura_->tutta = IsZoomed(hwnd()) != FALSE;
 }
 
 INT_PTR FrmEditFeed::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
     switch (msg) {
     case WM_SIZE:
         ancoraggi_.disponi();
-        inPiu_ = ancoraggi_.inPiu();
+        if (wParam == SIZE_RESTORED && !adattando_) {
+            voluta_ = {ancoraggi_.inPiu(), false, dpiDi(hwnd())};
+        }
         return TRUE;
     case WM_GETMINMAXINFO:
         reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = ancoraggi_.misuraMinima();

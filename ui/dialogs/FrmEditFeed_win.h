@@ -70,7 +70,7 @@ private:
 
     void PulisciCampi() noexcept;
     void mostraBozza();
-    void applicaMisura() const noexcept;
+    void applicaMisura() noexcept;
     void ricordaMisura() noexcept;
     // A command by its number; what sent it, as WM_COMMAND says.
     [[nodiscard]] bool comando(int id, int notifica);
@@ -90,9 +90,9 @@ private:
     TestiCampi iniziali_;
     bool toccato_ = false;
     std::optional<MisuraEditor> misura_;
-    // By how much the dialog is larger than it was made, in pixels of `dpi_`.
-    SIZE inPiu_{};
-    Dpi dpi_;
+    // What the user made it, as he made it: from one monitor to the next nothing is rounded twice.
+    MisuraEditor voluta_;
+    bool adattando_ = false;
     Ancoraggi ancoraggi_;
     TastiDialogo tasti_;
 

@@ -195,6 +195,7 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
                 custodeLavoro_.dimentica();
             }
             // The process does not come back from here: what goes at its end goes now.
+            parti_.documento.codaVuota();
             servizi_.coda.CancellaFile();
         }
         return 0;

@@ -69,7 +69,6 @@ public:
     // Nothing is left to do: what waited for that is done.
     void codaVuota() noexcept {
         custodeLavoro_.codaVuota();
-        custodeCopie_.codaVuota();
         parti_.documento.codaVuota();
     }
 

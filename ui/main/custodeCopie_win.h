@@ -36,8 +36,6 @@ public:
     void aperto(std::optional<StatoFile> file, std::span<const Perdita> perdite);
     // It was written to its file.
     void salvato();
-    // Nothing is left to do: what waited for that is done.
-    void codaVuota() noexcept { copie_.scarica(); }
 
 private:
     [[nodiscard]] PulsanteAvviso apriCopie(const std::wstring& percorso) const;

@@ -101,6 +101,14 @@ TEST_F(DialoghiMonitor, LEditorIngranditoRestaIngrandito) {
         EXPECT_EQ(fuori(dialogo).cx, nati[96].cx + 60);
         EXPECT_EQ(fuori(controllo(IDC_EDITDESCRIZIONE)).cx, descrizione.cx);
         EXPECT_EQ(fuori(controllo(IDC_EDITDESCRIZIONE)).cy, descrizione.cy);
+        // An odd size comes back from where it has no half.
+        SetWindowPos(dialogo, nullptr, 0, 0, nati[96].cx + 5, nati[96].cy + 7,
+                     SWP_NOZORDER | SWP_NOMOVE);
+        for (const int dpi : {144, 192, 96}) {
+            portaSuMonitor(dialogo, dpi, fuori(dialogo));
+        }
+        EXPECT_EQ(fuori(dialogo).cx, nati[96].cx + 5);
+        EXPECT_EQ(fuori(dialogo).cy, nati[96].cy + 7);
     });
 }
 
