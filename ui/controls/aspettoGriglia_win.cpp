@@ -60,7 +60,8 @@ void incornicia(HDC dc, RECT r, int spessore, int colore) noexcept {
 
 } // namespace
 
-AspettoGriglia::AspettoGriglia(Risoluzione verticale) {
+AspettoGriglia::AspettoGriglia(Risoluzione verticale)
+    : margine_(verticale.pixelPerEccesso(60)), cornice_(verticale.pixelPerEccesso(30)) {
     LOGFONTW font = metriche(verticale).lfMessageFont;
     normale_ = Carattere(CreateFontIndirectW(&font));
     font.lfWeight = FW_BOLD;
@@ -68,10 +69,6 @@ AspettoGriglia::AspettoGriglia(Risoluzione verticale) {
     const DcFinestra schermo(nullptr);
     altezzaTesto_ =
         std::max(altezza(schermo.get(), normale_.get()), altezza(schermo.get(), grassetto_.get()));
-    margine_ = verticale.pixelPerEccesso(60);
-    cornice_ = verticale.pixelPerEccesso(30);
-    // Two lines, the margins, and the line that ends the row.
-    altezzaRiga_ = 2 * altezzaTesto_ + 2 * margine_ + 1;
 }
 
 void AspettoGriglia::disegna(HDC dc, const RigheGriglia& righe, int riga,

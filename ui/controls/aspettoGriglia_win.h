@@ -19,7 +19,8 @@ public:
     explicit AspettoGriglia(Risoluzione verticale);
 
     [[nodiscard]] HFONT carattere() const noexcept { return normale_.get(); }
-    [[nodiscard]] int altezzaRiga() const noexcept { return altezzaRiga_; }
+    // Two lines, the margins, and the line that ends the row.
+    [[nodiscard]] int altezzaRiga() const noexcept { return 2 * altezzaTesto_ + 2 * margine_ + 1; }
 
     // Where the visible columns stand, and how the row does.
     struct Posto {
@@ -50,5 +51,4 @@ private:
     int altezzaTesto_ = 0;
     int margine_ = 0;
     int cornice_ = 0;
-    int altezzaRiga_ = 0;
 };

@@ -88,20 +88,23 @@ void Dialogo::chiudi(INT_PTR esito) noexcept {
 }
 
 void Dialogo::prepara(int modello) {
-    modello_.emplace(modello);
+    const ModelloDialogo& fatto = modello_.emplace(modello);
     carattere_ = {};
     senzaDpiDiWindows(hwnd_);
     if (!figlio(hwnd_)) {
         const HWND proprietaria = GetWindow(hwnd_, GW_OWNER);
         tieniDpi(hwnd_, dpiDi(proprietaria != nullptr ? proprietaria : hwnd_));
     }
-    if (!modello_->fattoPer(hwnd_, dpiDi(hwnd_))) {
+    if (!fatto.fattoPer(hwnd_, dpiDi(hwnd_))) {
         static_cast<void>(disponi());
     }
 }
 
 Carattere Dialogo::disponi() {
     const Alzata disponendo(disponendo_);
+    if (!modello_) {
+        return {};
+    }
     auto [carattere, interno] = modello_->disponi(hwnd_, dpiDi(hwnd_));
     dimensiona(hwnd_, interno);
     return std::exchange(carattere_, std::move(carattere));

@@ -106,6 +106,13 @@ protected:
         if (ambiente(L"OSTRELLE_INSTALLA").empty()) {
             GTEST_SKIP() << "only where a program may be installed";
         }
+        // Every Windows has these from its first day on.
+        for (const wchar_t* const chiave :
+             {L"Software\\Classes", L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall"}) {
+            HKEY fatta = nullptr;
+            RegCreateKeyW(HKEY_CURRENT_USER, chiave, &fatta);
+            RegCloseKey(fatta);
+        }
         togli();
     }
     void TearDown() override {

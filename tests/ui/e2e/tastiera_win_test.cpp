@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #include <array>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -54,11 +55,18 @@ protected:
         SCOPED_TRACE("line " + std::to_string(linea));
         programma.attendiScelta(riga);
     }
-    static void attendiMenu() {
-        EXPECT_TRUE(attendiChe([] {
+    // Opens a menu by its key; a key that comes while the window is being activated is lost, for
+    // a person too.
+    static void apriMenu(WORD tasto, std::initializer_list<WORD> con = {VK_MENU}) {
+        const auto aperto = [] {
             const HWND menu = FindWindowW(L"#32768", nullptr);
             return menu != nullptr && IsWindowVisible(menu) != FALSE;
-        })) << "no menu comes up";
+        };
+        for (int volte = 0; volte < 5 && !aperto(); ++volte) {
+            premi(tasto, con);
+            static_cast<void>(attendiChe(aperto, 3000));
+        }
+        EXPECT_TRUE(aperto()) << "no menu comes up";
     }
     // The editor is in front, the focus in its first field.
     static HWND editor(Programma& programma) {
@@ -187,8 +195,7 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
             [&] { return Programma::testoNel(GetDlgItem(aperto, IDC_EDITTITOLO)) == L"tre bis"; }));
         premi(VK_RETURN);
         finita(programma, aperto, lista);
-        premi(VK_APPS);
-        attendiMenu();
+        apriMenu(VK_APPS, {});
         premi('M');
         aperto = editor(programma);
         scrivi(L"perduto");
@@ -261,12 +268,10 @@ TEST_F(Tastiera, TuttoIlLavoroDalNuovoDocumentoAlFileSalvato) {
         finita(programma, aperto, programma.pulsante(cmdModifica));
 
         // The menus: a save given up, and the about box.
-        premi('F', {VK_MENU});
-        attendiMenu();
+        apriMenu('F');
         premi('L');
         chiudi(programma, L"", VK_ESCAPE, programma.pulsante(cmdModifica));
-        premi('C', {VK_MENU});
-        attendiMenu();
+        apriMenu('C');
         premi(VK_RIGHT);
         premi('I');
         const HWND box = programma.attendiFinestra(L"#32770", informazioni);
