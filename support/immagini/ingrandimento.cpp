@@ -39,8 +39,8 @@ std::vector<std::uint32_t> ingrandite(const FilaDiFigure& fila, int lato) {
             std::array<double, opacita> colori{};
             double opaco = 0;
             const auto conta = [&](int colonna, int riga, double peso) {
-                const std::uint32_t punto =
-                    fila.punti[static_cast<std::size_t>(riga * larga + figura + colonna)];
+                const int dove = riga * larga + figura + colonna;
+                const std::uint32_t punto = fila.punti[static_cast<std::size_t>(dove)];
                 const double quanto = peso * canale(punto, opacita);
                 int quale = 0;
                 for (double& colore : colori) {
