@@ -142,8 +142,6 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         tieniDpi(hwnd(), dpiIniziale_ ? *dpiIniziale_ : dpiDi(hwnd()));
         posa();
         creaControlli();
-        // The status bar takes its place when it is told of a size.
-        SendMessageW(StatusBar1_, WM_SIZE, 0, 0);
         // Everything in its place before it is filled and seen: moved later, it would all be worked
         // out and painted twice.
         Form_Resize();
