@@ -198,7 +198,14 @@ Section un.
   Delete "$INSTDIR\${NOME}.htm"
   RMDir /r "$INSTDIR\guida"
   Delete "$INSTDIR\Licenza.txt"
-  Delete "${DISINSTALLA}"
+  ; Who started this copy of it may not have quite ended yet: five seconds.
+  ${For} $0 1 50
+    Delete "${DISINSTALLA}"
+    ${IfNot} ${FileExists} "${DISINSTALLA}"
+      ${ExitFor}
+    ${EndIf}
+    Sleep 100
+  ${Next}
   ; Folders only when nothing of others is in them.
   RMDir "$INSTDIR"
   RMDir "$LOCALAPPDATA\Programs"

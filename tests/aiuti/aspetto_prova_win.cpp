@@ -78,7 +78,10 @@ void confronta(const Aspetto& uno, const Aspetto& altro) {
     for (std::size_t i = 0; i < uno.parti.size(); ++i) {
         EXPECT_EQ(uno.parti[i], altro.parti[i]);
     }
-    EXPECT_EQ(uno.immagine.diversi(altro.immagine), 0);
+    const RECT dove = uno.immagine.doveDiversi(altro.immagine);
+    EXPECT_EQ(uno.immagine.diversi(altro.immagine), 0)
+        << "in (" << dove.left << ", " << dove.top << ", " << dove.right << ", " << dove.bottom
+        << ")";
 }
 
 void portaSuMonitor(HWND finestra, int dpi, SIZE misura) {

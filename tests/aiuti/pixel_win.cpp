@@ -49,6 +49,19 @@ int Immagine::diversi(const Immagine& altra) const {
                                  [](auto a, auto b) { return a == b ? 0 : 1; });
 }
 
+RECT Immagine::doveDiversi(const Immagine& altra) const {
+    RECT dove{};
+    for (std::size_t i = 0; i < std::min(punti.size(), altra.punti.size()); ++i) {
+        if (punti[i] != altra.punti[i]) {
+            const auto x = static_cast<LONG>(static_cast<std::ptrdiff_t>(i) % larghezza);
+            const auto y = static_cast<LONG>(static_cast<std::ptrdiff_t>(i) / larghezza);
+            const RECT punto{x, y, x + 1, y + 1};
+            UnionRect(&dove, &dove, &punto);
+        }
+    }
+    return dove;
+}
+
 Immagine dipinta(int larghezza, int altezza, const std::function<void(HDC)>& pittore) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);

@@ -27,6 +27,8 @@ struct Immagine {
     [[nodiscard]] Immagine ritaglio(const RECT& r) const;
     // How many pixels are others in a picture of the same size; all of them in any other.
     [[nodiscard]] int diversi(const Immagine& altra) const;
+    // The least rectangle that holds them, in a picture of the same size.
+    [[nodiscard]] RECT doveDiversi(const Immagine& altra) const;
 };
 
 // What a painter leaves on a canvas of that size.

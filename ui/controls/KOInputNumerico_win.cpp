@@ -57,7 +57,6 @@ void KOInputNumerico::creaParti() {
     SendMessageW(UPNum_, UDM_SETPOS32, 0, 1);
     UDACCEL passo{0, 1};
     SendMessageW(UPNum_, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&passo));
-    tasti_ = Sottoclasse(txtnumero_, *this);
     campo_ = CampoTesto(txtnumero_);
     Font(GetWindowFont(GetParent(hwnd())));
     Valore(0);
@@ -317,6 +316,11 @@ LRESULT KOInputNumerico::messaggio(UINT codice, WPARAM w, LPARAM l) {
             break;
         }
         if (HIWORD(w) == EN_SETFOCUS) {
+            // Keys and wheel are the box's while it has the focus; before, every message would be
+            // looked at for nothing.
+            if (!tasti_) {
+                tasti_ = Sottoclasse(txtnumero_, *this);
+            }
             aggiornaEtichetta();
             selezionaTutto();
         } else if (HIWORD(w) == EN_KILLFOCUS) {

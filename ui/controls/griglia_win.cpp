@@ -49,8 +49,6 @@ void Griglia::creaLista() {
     testata_ = ListView_GetHeader(lista_);
     SetWindowTextW(testata_, L"Intestazioni");
     SetWindowLongPtrW(testata_, GWL_STYLE, GetWindowLongPtrW(testata_, GWL_STYLE) | HDS_NOSIZING);
-    sottoclasseLista_ = Sottoclasse(lista_, *this);
-    sottoclasseTestata_ = Sottoclasse(testata_, *this);
 }
 
 LRESULT Griglia::messaggio(UINT codice, WPARAM w, LPARAM l) {
@@ -148,23 +146,28 @@ AspettoGriglia::Posto Griglia::posto(const RECT& riga) const noexcept {
     return posto;
 }
 
-void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
+void Griglia::intesta(std::vector<std::wstring> titoli, int colonne,
+                      std::optional<double> primaLarghezza) {
     abbandona();
+    primaLarghezza_ = primaLarghezza;
     const int prima = Header_GetItemCount(testata_);
     const bool stessa = prima == colonne && righe_.intestate(titoli, colonne);
     righe_.intesta(std::move(titoli), colonne);
     numeroRighe();
     rigaCorrente_ = 0;
     if (stessa) {
+        applicaLarghezze();
         return;
     }
     for (int c = prima; c > righe_.colonne(); --c) {
         ListView_DeleteColumn(lista_, c - 1);
     }
+    const std::vector<int> larghe = larghezze();
     for (int c = 0; c < righe_.colonne(); ++c) {
         std::wstring titolo = righe_.cella(0, c);
         LVCOLUMNW colonna{};
-        colonna.mask = LVCF_TEXT | LVCF_FMT;
+        colonna.mask = LVCF_TEXT | LVCF_FMT | (larghe.empty() ? 0U : LVCF_WIDTH);
+        colonna.cx = larghe.empty() ? 0 : larghe[static_cast<std::size_t>(c)];
         colonna.fmt = LVCFMT_LEFT;
         colonna.pszText = titolo.data();
         if (c < prima) {
@@ -175,30 +178,38 @@ void Griglia::intesta(std::vector<std::wstring> titoli, int colonne) {
                          reinterpret_cast<LPARAM>(&colonna));
         }
     }
+    if (!larghe.empty()) {
+        larghezzaData_ = larghe.front();
+    }
 }
 
-void Griglia::allarga(std::optional<double> primaLarghezza) {
-    primaLarghezza_ = primaLarghezza;
-    applicaLarghezze();
-}
-
-void Griglia::applicaLarghezze() {
-    if (lista_ == nullptr || Header_GetItemCount(testata_) != righe_.colonne() ||
-        righe_.colonne() < (primaLarghezza_ ? 3 : 2)) {
-        return;
+std::vector<int> Griglia::larghezze() const {
+    if (righe_.colonne() < (primaLarghezza_ ? 3 : 2)) {
+        return {};
     }
     RECT r{};
     GetClientRect(hwnd(), &r);
-    const auto larghezze =
-        larghezzeColonne(dpi_.x.twips(r.right), righe_.colonne(), primaLarghezza_);
-    for (int c = 0; c < righe_.colonne(); ++c) {
-        const int pixel = dpi_.x.pixelVicini(larghezze[static_cast<std::size_t>(c)]);
+    std::vector<int> pixel;
+    for (const double twips :
+         larghezzeColonne(dpi_.x.twips(r.right), righe_.colonne(), primaLarghezza_)) {
+        pixel.push_back(dpi_.x.pixelVicini(twips));
+    }
+    return pixel;
+}
+
+void Griglia::applicaLarghezze() {
+    if (lista_ == nullptr || Header_GetItemCount(testata_) != righe_.colonne()) {
+        return;
+    }
+    int c = 0;
+    for (const int pixel : larghezze()) {
         if (ListView_GetColumnWidth(lista_, c) != pixel) {
             ListView_SetColumnWidth(lista_, c, pixel);
         }
         if (c == 0) {
             larghezzaData_ = pixel;
         }
+        ++c;
     }
 }
 
@@ -350,9 +361,20 @@ Griglia::Sospensione::Sospensione(Griglia& griglia) noexcept : griglia_(griglia)
     }
 }
 
+void Griglia::riprendi() {
+    SendMessageW(lista_, WM_SETREDRAW, TRUE, 0);
+    if (!sottoclasseLista_) {
+        sottoclasseLista_ = Sottoclasse(lista_, *this);
+        // The scroll bar that it has given itself goes.
+        SetWindowPos(lista_, nullptr, 0, 0, 0, 0,
+                     SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        sottoclasseTestata_ = Sottoclasse(testata_, *this);
+    }
+    InvalidateRect(lista_, nullptr, FALSE);
+}
+
 Griglia::Sospensione::~Sospensione() {
     if (--griglia_.sospensioni_ == 0) {
-        SendMessageW(griglia_.lista_, WM_SETREDRAW, TRUE, 0);
-        InvalidateRect(griglia_.lista_, nullptr, FALSE);
+        protetto([this] { griglia_.riprendi(); }, [this] { griglia_.onEccezione(); });
     }
 }

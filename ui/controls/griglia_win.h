@@ -54,10 +54,10 @@ public:
     // The item of a row, or -1.
     [[nodiscard]] int elemento(int riga) const noexcept { return righe_.elemento(riga); }
 
-    // Only the header is left, with these captions; no row is the current one.
-    void intesta(std::vector<std::wstring> titoli, int colonne);
-    // Widths in twips by `larghezzeColonne`, kept up with the grid's own width from here on.
-    void allarga(std::optional<double> primaLarghezza);
+    // Only the header is left, with these captions; no row is the current one. The columns' widths
+    // are those of `larghezzeColonne`, the first's in twips, and kept up with the grid's own.
+    void intesta(std::vector<std::wstring> titoli, int colonne,
+                 std::optional<double> primaLarghezza);
     void elenca(const ClsUTC& utc, FormatoLocale formato);
     void completa();
     // What a change of the table does to the rows.
@@ -110,7 +110,12 @@ private:
     // The resolution and what follows it.
     void misura();
     void creaLista();
+    // The list redraws again. From the first time on its messages and the header's pass here:
+    // before, there is nothing in them for the user, and being made they hear a great many.
+    void riprendi();
     void disponi();
+    // The columns' widths in pixels; none for too few columns.
+    [[nodiscard]] std::vector<int> larghezze() const;
     void applicaLarghezze();
     LRESULT notifica(NMHDR& avviso);
     [[nodiscard]] AspettoGriglia::Posto posto(const RECT& riga) const noexcept;

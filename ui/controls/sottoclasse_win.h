@@ -24,6 +24,8 @@ public:
     Sottoclasse& operator=(Sottoclasse&& altra) noexcept;
     ~Sottoclasse();
 
+    [[nodiscard]] explicit operator bool() const noexcept { return hwnd_ != nullptr; }
+
 private:
     HWND hwnd_ = nullptr;
     GestoreSottoclasse* gestore_ = nullptr;

@@ -102,20 +102,27 @@ void FrmMain::cambiaDpi(Dpi dpi, const RECT& posto) {
     RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
+FrmMain::Misure FrmMain::misure() const noexcept {
+    RECT interno{};
+    RECT esterno{};
+    GetClientRect(hwnd(), &interno);
+    GetWindowRect(hwnd(), &esterno);
+    return {{interno.right, interno.bottom},
+            {esterno.right - esterno.left, esterno.bottom - esterno.top}};
+}
+
 void FrmMain::Form_Resize() {
     const Dpi dpi = dpiDi(hwnd());
-    RECT interno{};
+    disposta_ = misure();
+    const auto& [interne, esterne] = disposta_;
     RECT stato{};
-    RECT esterno{};
     RECT griglia{};
-    GetClientRect(hwnd(), &interno);
     GetClientRect(griglia_.hwnd(), &griglia);
     GetClientRect(StatusBar1_, &stato);
-    GetWindowRect(hwnd(), &esterno);
 
     MisureFinestra misure{};
-    misure.larghezzaInterna = dpi.x.twips(interno.right);
-    misure.altezzaInterna = dpi.y.twips(interno.bottom);
+    misure.larghezzaInterna = dpi.x.twips(interne.cx);
+    misure.altezzaInterna = dpi.y.twips(interne.cy);
     misure.altezzaStato = dpi.y.twips(stato.bottom + avvisi_.altezza());
     misure.altezzaGriglia = dpi.y.twips(griglia.bottom);
     misure.altoDati = dpi.y.twips(Toolbar1_.disponi()) + margineTwips;
@@ -135,13 +142,13 @@ void FrmMain::Form_Resize() {
     sposta(griglia_.hwnd(), disposizione.griglia);
     sposta(striscia_.hwnd(), disposizione.picCmd);
     avvisi_.disponi(
-        {0, interno.bottom - stato.bottom - avvisi_.altezza(), interno.right, avvisi_.altezza()});
+        {0, interne.cy - stato.bottom - avvisi_.altezza(), interne.cx, avvisi_.altezza()});
 
     const std::array<int, 2> pannelli{
-        static_cast<int>(interno.right) - dpi.x.daProgetto(larghezzaPannelloDimensioni), -1};
+        static_cast<int>(interne.cx) - dpi.x.daProgetto(larghezzaPannelloDimensioni), -1};
     SendMessageW(StatusBar1_, SB_SETPARTS, pannelli.size(),
                  reinterpret_cast<LPARAM>(pannelli.data()));
-    const std::wstring dimensioni = L"(" + std::to_wstring(esterno.right - esterno.left) + L"," +
-                                    std::to_wstring(esterno.bottom - esterno.top) + L")";
+    const std::wstring dimensioni =
+        L"(" + std::to_wstring(esterne.cx) + L"," + std::to_wstring(esterne.cy) + L")";
     SendMessageW(StatusBar1_, SB_SETTEXTW, 1, reinterpret_cast<LPARAM>(dimensioni.c_str()));
 }

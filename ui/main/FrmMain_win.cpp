@@ -148,8 +148,8 @@ LRESULT FrmMain::messaggio(UINT codice, WPARAM w, LPARAM l) {
         Form_Load();
         return 0;
     case WM_SIZE:
-        // Before there is anything in it, it gets its place.
-        if (StatusBar1_ != nullptr) {
+        // Before there is anything in it, it gets its place; shown, it hears of the size it has.
+        if (StatusBar1_ != nullptr && misure() != disposta_) {
             SendMessageW(StatusBar1_, WM_SIZE, w, l);
             Form_Resize();
         }

@@ -123,6 +123,16 @@ private:
 
     void Form_Load();
     void Form_Resize();
+    // The inner and the outer size in pixels: what the parts' places go by.
+    struct Misure {
+        SIZE interne{};
+        SIZE esterne{};
+        [[nodiscard]] bool operator==(const Misure& altre) const noexcept {
+            return interne.cx == altre.interne.cx && interne.cy == altre.interne.cy &&
+                   esterne.cx == altre.esterne.cx && esterne.cy == altre.esterne.cy;
+        }
+    };
+    [[nodiscard]] Misure misure() const noexcept;
     // False cancels the close.
     [[nodiscard]] bool Form_QueryUnload() { return ChiediSalvataggio(); }
     void Form_Unload() noexcept;
@@ -166,6 +176,8 @@ private:
     // Of the status bar and of tooltips.
     Carattere carattereStato_;
     std::optional<Dpi> dpiIniziale_;
+    // When the parts got their places.
+    Misure disposta_;
     HWND fuoco_ = nullptr;
     // The end of the session was agreed to.
     bool congedata_ = false;

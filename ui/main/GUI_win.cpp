@@ -19,8 +19,7 @@ void GUI::SelezionaRiga(Griglia& griglia, int riga) {
 
 void GUI::ImpostaColonne(Griglia& griglia, std::vector<std::wstring> titoli, int colonne,
                          std::optional<double> primaLarghezza) {
-    griglia.intesta(std::move(titoli), colonne);
-    griglia.allarga(primaLarghezza);
+    griglia.intesta(std::move(titoli), colonne, primaLarghezza);
 }
 
 void GUI::CompletaRighe(Griglia& griglia) {
