@@ -74,6 +74,18 @@ bool uguali(const std::wstring& uno, const std::wstring& altro) {
     }
 }
 
+// A file that goes anyway need not be copied onto its own volume, which takes time and room. One
+// that could not be deleted stays, and one with another name somewhere could be changed by that
+// name.
+bool sposta(const std::wstring& percorso, const std::wstring& copia) noexcept {
+    const ManigliaFile file = apri(percorso);
+    BY_HANDLE_FILE_INFORMATION dati{};
+    return file && GetFileInformationByHandle(file.get(), &dati) && dati.nNumberOfLinks == 1 &&
+           (dati.dwFileAttributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_REPARSE_POINT)) ==
+               0 &&
+           MoveFileExW(percorso.c_str(), copia.c_str(), 0) != FALSE;
+}
+
 // The copy is on the disk itself before the file that it was made of may go.
 void scarica(const std::wstring& percorso) {
     SetFileAttributesW(percorso.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -101,7 +113,8 @@ std::optional<std::string> contenutoDi(const std::wstring& percorso) {
     return contenuto;
 }
 
-CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso) const {
+CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adesso,
+                                     Originale originale) const {
     if (!fileEsiste(percorso)) {
         return Esito::NessunFile;
     }
@@ -111,14 +124,19 @@ CopieFile::Esito CopieFile::conserva(const std::wstring& percorso, DataOra adess
     if (ultima != tenute.end() && uguali(percorso, dove + L'\\' + ultima->nome)) {
         return Esito::GiaTenuta;
     }
+    Esito esito = Esito::Fatta;
     aggiungi(percorso, adesso, [&](const std::wstring& copia) {
+        if (originale == Originale::PuoAndare && sposta(percorso, copia)) {
+            esito = Esito::Spostata;
+            return true;
+        }
         if (!CopyFileW(percorso.c_str(), copia.c_str(), TRUE)) {
             return false;
         }
         scarica(copia);
         return true;
     });
-    return Esito::Fatta;
+    return esito;
 }
 
 void CopieFile::conserva(const std::wstring& percorso, DataOra adesso,

@@ -16,12 +16,15 @@ public:
     // `radice` without a trailing "\".
     explicit CopieFile(std::wstring radice) noexcept : radice_(std::move(radice)) {}
 
-    enum class Esito { NessunFile, GiaTenuta, Fatta };
+    enum class Esito { NessunFile, GiaTenuta, Fatta, Spostata };
+    // What becomes of the file itself: it stays, or may become the copy.
+    enum class Originale { Resta, PuoAndare };
 
     // Keeps the file as it stands, unless there is none or the newest copy is equal; then lets the
     // oldest copies go that are too many. `adesso` is the local time. Raises the run-time error of
     // the failure: no copy is kept then, and the file is as it was.
-    Esito conserva(const std::wstring& percorso, DataOra adesso) const;
+    Esito conserva(const std::wstring& percorso, DataOra adesso,
+                   Originale originale = Originale::Resta) const;
     // The same of what such a file held.
     void conserva(const std::wstring& percorso, DataOra adesso, std::string_view contenuto) const;
 

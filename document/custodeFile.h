@@ -9,8 +9,9 @@ public:
     CustodeFile(const CustodeFile&) = delete;
     CustodeFile& operator=(const CustodeFile&) = delete;
 
-    // Called right before a file that is there is deleted; whatever comes of it, it will be.
-    virtual void conserva(const std::wstring& percorso) noexcept = 0;
+    // Called right before a file that is there is deleted; whatever comes of it, it will be. True
+    // when it has gone from its place already.
+    [[nodiscard]] virtual bool conserva(const std::wstring& percorso) noexcept = 0;
 
     // The file that went was not replaced: what was to stand there failed, and nothing does.
     virtual void nonSostituito(const std::wstring& percorso) noexcept = 0;

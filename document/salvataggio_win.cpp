@@ -37,10 +37,9 @@ std::string coda(const std::wstring& percorso) {
 
 void sostituisciFile(const std::wstring& percorso, CustodeFile* custode,
                      const std::function<void()>& scrivi) {
-    if (custode != nullptr) {
-        custode->conserva(percorso);
+    if (custode == nullptr || !custode->conserva(percorso)) {
+        cancellaFile(percorso);
     }
-    cancellaFile(percorso);
     try {
         scrivi();
     } catch (...) {

@@ -17,9 +17,10 @@ namespace {
 // Remembers what it was shown, and what the file held at that moment.
 class CustodeDiProva final : public CustodeFile {
 public:
-    void conserva(const std::wstring& percorso) noexcept override {
+    bool conserva(const std::wstring& percorso) noexcept override {
         percorsi.push_back(percorso);
         contenuti.push_back(leggiTutto(percorso));
+        return porta && std::filesystem::remove(percorso);
     }
 
     void nonSostituito(const std::wstring& percorso) noexcept override {
@@ -27,6 +28,8 @@ public:
         EXPECT_FALSE(std::filesystem::exists(percorso));
     }
 
+    // Takes the file away by itself.
+    bool porta = false;
     std::vector<std::wstring> percorsi;
     std::vector<std::wstring> mancati;
     std::vector<std::string> contenuti;
@@ -54,6 +57,17 @@ TEST_F(Conservazione, IlFileCheSparisceEMostratoPrima) {
     EXPECT_EQ(custode.percorsi, (std::vector<std::wstring>{feed, pagina}));
     EXPECT_EQ(custode.contenuti, (std::vector<std::string>{"vecchio feed", "vecchia pagina"}));
     EXPECT_NE(leggiTutto(feed), "vecchio feed");
+}
+
+TEST_F(Conservazione, CioCheEGiaAndatoNonSiCancella) {
+    custode.porta = true;
+    const std::wstring feed = cartella.scrivi(L"a.xml", "vecchio feed");
+    clsFeedRss().CreaDocumentoRSS(feed, d, d.items, &custode);
+    EXPECT_NE(leggiTutto(feed).find("</rss>"), std::string::npos);
+    d.title = std::wstring(1, L'\x01');
+    EXPECT_EQ(
+        sollevatoDa([&] { clsFeedRss().CreaDocumentoRSS(feed, d, d.items, &custode); }).numero, 5);
+    EXPECT_EQ(custode.contenuti, std::vector<std::string>{"vecchio feed"});
 }
 
 TEST_F(Conservazione, DoveNonCENullaNonSiChiede) {

@@ -43,6 +43,34 @@ TEST_F(CopieSuDisco, IlFileCheCEraStaTraLeCopieConLaSuaOra) {
     EXPECT_EQ(leggiTutto(file), "prima");
 }
 
+TEST_F(CopieSuDisco, IlFileCheSeNeVaDiventaLaCopia) {
+    EXPECT_EQ(copie.conserva(file, ora, CopieFile::Originale::PuoAndare), Esito::Spostata);
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_EQ(leggiTutto(copie.cartella(file) + L"\\2026-11-21 13.05.00.xml"), "prima");
+    static_cast<void>(cartella.scrivi(L"notizie.xml", "dopo!"));
+    EXPECT_EQ(copie.conserva(file, ora, CopieFile::Originale::PuoAndare), Esito::Spostata);
+    EXPECT_EQ(leggiTutto(copie.cartella(file) + L"\\2026-11-21 13.05.00.xml"), "prima");
+    EXPECT_EQ(leggiTutto(copie.cartella(file) + L"\\2026-11-21 13.05.00 (2).xml"), "dopo!");
+    // Equal to the newest, it is for others to delete.
+    static_cast<void>(cartella.scrivi(L"notizie.xml", "dopo!"));
+    EXPECT_EQ(copie.conserva(file, ora, CopieFile::Originale::PuoAndare), Esito::GiaTenuta);
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+TEST_F(CopieSuDisco, UnFileCheHaUnAltroNomeSiCopia) {
+    const std::wstring altro = cartella.file(L"altro nome.xml");
+    ASSERT_TRUE(CreateHardLinkW(altro.c_str(), file.c_str(), nullptr));
+    EXPECT_EQ(copie.conserva(file, ora, CopieFile::Originale::PuoAndare), Esito::Fatta);
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+TEST_F(CopieSuDisco, CioCheNonSiPuoEliminareSiCopia) {
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(copie.conserva(file, ora, CopieFile::Originale::PuoAndare), Esito::Fatta);
+    EXPECT_TRUE(std::filesystem::exists(file));
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 TEST_F(CopieSuDisco, SenzaFileNonSiFaNulla) {
     const std::wstring altro = cartella.file(L"manca.xml");
     EXPECT_EQ(copie.conserva(altro, ora), Esito::NessunFile);

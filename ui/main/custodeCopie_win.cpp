@@ -24,13 +24,15 @@ CustodeCopie::CustodeCopie(const Servizi& servizi, const FinestraPrincipale& fin
     : copie_(servizi.cartelle.copie), finestra_(finestra), documento_(documento),
       messaggi_(servizi.messaggi), orologio_(servizi.orologio), avvisi_(avvisi) {}
 
-void CustodeCopie::conserva(const std::wstring& percorso) noexcept {
+bool CustodeCopie::conserva(const std::wstring& percorso) noexcept {
+    bool andato = false;
     ignorando([&] {
         trattenuto_.reset();
         try {
             const bool cambiato =
                 file_ && stessoFile(percorso, documento_.percorso()) && !ancora(*file_, percorso);
-            copie_.conserva(percorso, orologio_.adesso().locale);
+            andato = copie_.conserva(percorso, orologio_.adesso().locale,
+                                     CopieFile::Originale::PuoAndare) == CopieFile::Esito::Spostata;
             if (cambiato) {
                 avvisi_.avvisa({.argomento = argomentoCambiato,
                                 .testo = L"Il file era stato cambiato da un altro programma: la "
@@ -49,6 +51,7 @@ void CustodeCopie::conserva(const std::wstring& percorso) noexcept {
                             .chiuso = {}});
         }
     });
+    return andato;
 }
 
 void CustodeCopie::nonSostituito(const std::wstring& percorso) noexcept {

@@ -27,7 +27,7 @@ public:
     CustodeCopie(const Servizi& servizi, const FinestraPrincipale& finestra,
                  const Documento& documento, Avvisi& avvisi);
 
-    void conserva(const std::wstring& percorso) noexcept override;
+    [[nodiscard]] bool conserva(const std::wstring& percorso) noexcept override;
     void nonSostituito(const std::wstring& percorso) noexcept override;
 
     // The document is another one, in no file yet.
