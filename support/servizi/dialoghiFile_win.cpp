@@ -1,6 +1,7 @@
 #include "support/servizi/dialoghiFile_win.h"
 
 #include "support/windows/comdlg32_win.h"
+#include "support/windows/proprietaria_win.h"
 #include "support/windows/tastiTenuti_win.h"
 
 #include <windows.h>
@@ -21,7 +22,7 @@ std::wstring chiedi(const RichiestaFile& richiesta, const char* quale) {
     std::wstring percorso(32768, L'\0');
     OPENFILENAMEW dati{};
     dati.lStructSize = sizeof(dati);
-    dati.hwndOwner = GetActiveWindow();
+    dati.hwndOwner = proprietariaDiModali();
     dati.lpstrFilter = filtro.c_str();
     dati.lpstrFile = percorso.data();
     dati.nMaxFile = static_cast<DWORD>(percorso.size());

@@ -1,5 +1,6 @@
 #include "support/servizi/messaggi_win.h"
 
+#include "support/windows/proprietaria_win.h"
 #include "support/windows/tastiTenuti_win.h"
 
 #include <windows.h>
@@ -35,7 +36,7 @@ UINT stile(Pulsanti pulsanti) noexcept {
 Risposta MessaggiWindows::mostra(const std::wstring& testo, const std::wstring& titolo, Icona icona,
                                  Pulsanti pulsanti) {
     const SenzaRipetizioni guardia;
-    switch (MessageBoxW(GetActiveWindow(), testo.c_str(), titolo.c_str(),
+    switch (MessageBoxW(proprietariaDiModali(), testo.c_str(), titolo.c_str(),
                         stile(icona) | stile(pulsanti))) {
     case IDYES:
         return Risposta::Si;

@@ -11,6 +11,7 @@
 #include "support/utilita/guida_win.h"
 #include "support/utilita/koUtilita.h"
 #include "support/windows/guardia_win.h"
+#include "support/windows/proprietaria_win.h"
 
 #include <algorithm>
 #include <array>
@@ -291,7 +292,7 @@ std::optional<DataOra> EditorElementiWindows::modifica(clsItemRss& elemento, Dat
     editor.Misura(misura_);
     {
         const Prestito<FrmEditFeed*> aperto(aperto_, &editor);
-        editor.mostra(GetActiveWindow());
+        editor.mostra(proprietariaDiModali());
     }
     misura_ = editor.Misura();
     if (editor.Annullato()) {
