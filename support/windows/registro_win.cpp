@@ -4,13 +4,14 @@
 
 std::optional<std::wstring> leggiTesto(HKEY radice, const std::wstring& chiave,
                                        const std::wstring& nome) {
-    // Another program may write between the two calls: ask again while the value grows.
-    for (DWORD byte = 0;;) {
+    // Most values are found at once. Another program may write meanwhile: ask again while the value
+    // grows.
+    for (DWORD byte = MAX_PATH * sizeof(wchar_t);;) {
         std::wstring valore(byte / sizeof(wchar_t), L'\0');
         const LSTATUS esito =
             RegGetValueW(radice, chiave.empty() ? nullptr : chiave.c_str(), nome.c_str(),
-                         RRF_RT_REG_SZ, nullptr, byte == 0 ? nullptr : valore.data(), &byte);
-        if (esito == ERROR_MORE_DATA || (esito == ERROR_SUCCESS && valore.empty() && byte > 0)) {
+                         RRF_RT_REG_SZ, nullptr, valore.data(), &byte);
+        if (esito == ERROR_MORE_DATA) {
             continue;
         }
         if (esito != ERROR_SUCCESS) {

@@ -11,6 +11,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -38,10 +39,15 @@ bool CampiCanale::inizializza() {
         numero->Massimo(massimoPixel);
         numero->osserva(this);
     }
-    suggerimenti_.testo(controllo(IDC_LBLURL), L"URL (Percorso)");
-    suggerimenti_.testo(controllo(IDC_LBLLARGHEZZA), L"Larghezza in pixels");
-    suggerimenti_.testo(controllo(IDC_LBLALTEZZA), L"Altezza in pixels");
     return false;
+}
+
+void CampiCanale::suggerisci() {
+    if (!std::exchange(suggeriti_, true)) {
+        suggerimenti_.testo(controllo(IDC_LBLURL), L"URL (Percorso)");
+        suggerimenti_.testo(controllo(IDC_LBLLARGHEZZA), L"Larghezza in pixels");
+        suggerimenti_.testo(controllo(IDC_LBLALTEZZA), L"Altezza in pixels");
+    }
 }
 
 INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
@@ -63,6 +69,10 @@ INT_PTR CampiCanale::messaggio(UINT msg, WPARAM wParam, LPARAM lParam) {
             documento_.campiModificati();
         }
         return TRUE;
+    }
+    if (msg == WM_SETCURSOR) {
+        // A control asks its parent first.
+        suggerisci();
     }
     if (msg == WM_NOTIFY) {
         const auto* const notifica = reinterpret_cast<const NMHDR*>(lParam);
@@ -187,18 +197,18 @@ void CampiCanale::Svuota(DataOra adesso) noexcept {
     ignorando([&] { txtAltezza().Valore(0); });
 }
 
-RECT CampiCanale::rettangolo(int id) const noexcept {
+RECT CampiCanale::rettangolo(HWND campo) const noexcept {
     RECT r{};
-    GetWindowRect(controllo(id), &r);
+    GetWindowRect(campo, &r);
     MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&r), 2);
     return r;
 }
 
 void CampiCanale::misura(MisureFinestra& misure, Dpi dpi) const {
-    const RECT logo = rettangolo(IDC_TXTLOGO);
-    const RECT titolo = rettangolo(IDC_TXTTITOLO);
-    const RECT numero = rettangolo(IDC_TXTLARGHEZZA);
-    const RECT pulsante = rettangolo(IDC_CMDGETSIZE);
+    const RECT logo = rettangolo(controllo(IDC_TXTLOGO));
+    const RECT titolo = rettangolo(controllo(IDC_TXTTITOLO));
+    const RECT numero = rettangolo(controllo(IDC_TXTLARGHEZZA));
+    const RECT pulsante = rettangolo(controllo(IDC_CMDGETSIZE));
     RECT dati{};
     GetClientRect(hwnd(), &dati);
     misure.sinistraLogo = dpi.x.twips(logo.left);
@@ -221,8 +231,9 @@ void CampiCanale::disponi(const Disposizione& disposizione, Dpi dpi) {
     }
     if (disposizione.larghezzaImmagine) {
         for (const int id : campiImmagine) {
-            const RECT r = rettangolo(id);
-            SetWindowPos(controllo(id), nullptr, 0, 0, pixelX(*disposizione.larghezzaImmagine),
+            const HWND campo = controllo(id);
+            const RECT r = rettangolo(campo);
+            SetWindowPos(campo, nullptr, 0, 0, pixelX(*disposizione.larghezzaImmagine),
                          r.bottom - r.top, fermo | SWP_NOMOVE);
         }
     }

@@ -96,7 +96,12 @@ private:
 
     void CambioValore(KOInputNumerico& controllo, double valore) override;
 
-    [[nodiscard]] RECT rettangolo(int id) const noexcept;
+    // Makes the labels' tooltips when the pointer first comes over the fields: many a start does
+    // without.
+    void suggerisci();
+
+    // In pixels of the frame.
+    [[nodiscard]] RECT rettangolo(HWND campo) const noexcept;
 
     // Which of the controls it is.
     [[nodiscard]] static std::size_t posto(int id) noexcept;
@@ -108,4 +113,5 @@ private:
     SelettoreData txtData_;
     SelettoreData txtOrario_;
     Suggerimenti suggerimenti_;
+    bool suggeriti_ = false;
 };

@@ -34,13 +34,14 @@ void StrisciaComandi::crea(HWND padre) {
         if (pulsante == nullptr) {
             sollevaWin32();
         }
+        pulsanti_.push_back(pulsante);
     }
 }
 
 void StrisciaComandi::adatta(HFONT carattere, int altezzaPulsante) noexcept {
     altezzaPulsante_ = altezzaPulsante;
-    for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
-        SendMessageW(c, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
+    for (const HWND pulsante : pulsanti_) {
+        SendMessageW(pulsante, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
     }
     disponi();
 }
@@ -49,8 +50,9 @@ void StrisciaComandi::disponi() noexcept {
     RECT r{};
     GetClientRect(hwnd(), &r);
     int alto = 0;
-    for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
-        SetWindowPos(c, nullptr, 0, alto, r.right, altezzaPulsante_, SWP_NOZORDER | SWP_NOACTIVATE);
+    for (const HWND pulsante : pulsanti_) {
+        SetWindowPos(pulsante, nullptr, 0, alto, r.right, altezzaPulsante_,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
         alto += altezzaPulsante_;
     }
 }

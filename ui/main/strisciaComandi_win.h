@@ -2,6 +2,8 @@
 
 #include "ui/controls/finestra_win.h"
 
+#include <vector>
+
 // The strip PicCmd beside the grid: the item buttons, stacked and as wide as the strip. What its
 // buttons send goes on to the parent.
 class StrisciaComandi final : public Finestra {
@@ -23,5 +25,6 @@ private:
 
     void disponi() noexcept;
 
+    std::vector<HWND> pulsanti_;
     int altezzaPulsante_ = 0;
 };
