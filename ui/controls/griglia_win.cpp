@@ -27,7 +27,6 @@ Griglia::~Griglia() {
 void Griglia::creaIn(HWND padre, int id, const wchar_t* nome, const RECT& posto) {
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
-    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     registra(descrizione);
     nome_ = nome;
     // The window text is its accessible name and the list's: it shows nowhere.
