@@ -235,7 +235,6 @@ void Griglia::seleziona(int riga, int cima) {
         }
         ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
                               LVIS_SELECTED | LVIS_FOCUSED);
-        ListView_SetSelectionMark(lista_, riga - 1);
     }
     rigaInCima(cima);
     rigaCorrente_ = riga;
