@@ -2,6 +2,8 @@
 
 #include "ui/controls/finestra_win.h"
 
+#include <windowsx.h>
+
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
@@ -56,4 +58,19 @@ TEST(CampoTesto, ChiScriveCambiaUnaVolta) {
     SetWindowTextW(intorno.campo.hwnd(), L"scritto");
     EXPECT_EQ(intorno.avvisi, 2);
     EXPECT_EQ(intorno.cambi, 1);
+}
+
+TEST(CampoTesto, UnaSceltaECambioUnaVoltaAncheLaPrima) {
+    const Intorno intorno;
+    const HWND combo = CreateWindowExW(0, WC_COMBOBOXW, L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 100, 90,
+                                       intorno.hwnd(), nullptr, nullptr, nullptr);
+    CampoTesto campo(combo);
+    ComboBox_AddString(combo, L"it");
+    ComboBox_AddString(combo, L"de");
+    EXPECT_FALSE(campo.sceltoDiverso());
+    for (const int voce : {0, 1}) {
+        ComboBox_SetCurSel(combo, voce);
+        EXPECT_TRUE(campo.sceltoDiverso()) << voce;
+        EXPECT_FALSE(campo.sceltoDiverso()) << voce;
+    }
 }
