@@ -40,7 +40,6 @@ bool premuto(int tasto) noexcept {
 
 void KOInputNumerico::registraClasse() {
     WNDCLASSEXW descrizione{};
-    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registraPropria<KOInputNumerico>(descrizione);
 }

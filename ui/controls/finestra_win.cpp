@@ -59,6 +59,8 @@ void Finestra::registraCon(WNDCLASSEXW& descrizione, WNDPROC procedura) {
     descrizione.cbSize = sizeof(descrizione);
     descrizione.hInstance = GetModuleHandleW(nullptr);
     descrizione.lpfnWndProc = procedura;
+    // Without one the pointer would stay what it was where it came from.
+    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     if (RegisterClassExW(&descrizione) == 0 && GetLastError() != ERROR_CLASS_ALREADY_EXISTS) {
         sollevaWin32();
     }

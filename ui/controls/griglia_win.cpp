@@ -27,7 +27,6 @@ Griglia::~Griglia() {
 void Griglia::creaIn(HWND padre, int id, const wchar_t* nome, const RECT& posto) {
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
-    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     registra(descrizione);
     nome_ = nome;
     // The window text is its accessible name and the list's: it shows nowhere.
@@ -247,7 +246,6 @@ void Griglia::seleziona(int riga, int cima) {
         }
         ListView_SetItemState(lista_, riga - 1, LVIS_SELECTED | LVIS_FOCUSED,
                               LVIS_SELECTED | LVIS_FOCUSED);
-        ListView_SetSelectionMark(lista_, riga - 1);
     }
     rigaInCima(cima);
     rigaCorrente_ = riga;

@@ -82,7 +82,6 @@ void StrisciaAvvisi::aggiorna() {
             WNDCLASSEXW descrizione{};
             descrizione.lpszClassName = classe;
             descrizione.style = CS_HREDRAW | CS_VREDRAW;
-            descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
             registra(descrizione);
             crea(classe, L"", WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT,
                  RECT{}, padre_);

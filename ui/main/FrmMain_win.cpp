@@ -80,7 +80,6 @@ void FrmMain::apri(int comeMostrare, std::optional<Dpi> dpi) {
     dpiIniziale_ = dpi;
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
-    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     descrizione.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_OSTRELLE));
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registra(descrizione);

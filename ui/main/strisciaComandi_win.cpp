@@ -15,7 +15,6 @@ constexpr const wchar_t* classe = L"OstrellePicCmd";
 void StrisciaComandi::crea(HWND padre) {
     WNDCLASSEXW descrizione{};
     descrizione.lpszClassName = classe;
-    descrizione.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     descrizione.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     registra(descrizione);
     // The window text is its accessible name: it shows nowhere.

@@ -145,6 +145,16 @@ TEST(FinestraBase, IlDistruttoreDistruggeLaFinestra) {
     EXPECT_FALSE(IsWindow(hwnd));
 }
 
+TEST(FinestraBase, SuDiLeiIlPuntatoreELaFreccia) {
+    Prova::registraProva();
+    Prova prova;
+    prova.apri();
+    SetCursor(LoadCursorW(nullptr, IDC_IBEAM));
+    SendMessageW(prova.hwnd(), WM_SETCURSOR, reinterpret_cast<WPARAM>(prova.hwnd()),
+                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
 TEST(FinestraBase, UnEccezioneSiFermaAlConfine) {
     Prova::registraProva();
     Prova prova;

@@ -167,6 +167,10 @@ TEST_F(StrisciaDegliAvvisi, SiVedonoSoloIPulsantiCheLAvvisoHa) {
         return didascalie;
     };
     EXPECT_EQ(visibili(), L"uno;Recupera;Elimina;Chiudi avviso;");
+    // None has the border of the one that Invio presses from anywhere.
+    for (const HWND c : {avvisi.pulsante(L"Recupera"), avvisi.chiudi()}) {
+        EXPECT_EQ(SendMessageW(c, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON, 0);
+    }
     striscia.ritira(L"uno");
     EXPECT_EQ(visibili(), L"due;Apri le copie;Chiudi avviso;");
     striscia.ritira(L"due");

@@ -294,3 +294,22 @@ TEST_F(FrmMainMenu, SenzaRecentiTornaLaVoceCheLoDice) {
         EXPECT_EQ((GetMenuState(recenti, 0, MF_BYPOSITION) & MF_GRAYED) != 0, vuoto);
     }
 }
+
+TEST_F(FrmMainMenu, IRecentiCiSonoDallAvvio) {
+    impostazioni.scrivi(L"url", L"murl1", L"c:\\feed.xml");
+    Documento altro;
+    FrmMain nata{Servizi{messaggi, dialoghi, orologio, impostazioni, coda, editor, cartelle},
+                 altro};
+    nata.apri(SW_SHOWNORMAL);
+    EXPECT_EQ(didascalia(GetSubMenu(GetSubMenu(GetMenu(nata.hwnd()), 0), 8), 0), L"c:\\feed.xml");
+}
+
+// What bears a submenu, and what nobody knows.
+TEST_F(FrmMainMenu, UnComandoCheNonFaNienteNonFaNiente) {
+    metti(L"a");
+    for (const int comando : {static_cast<int>(mnrecenti), 65535}) {
+        finestra.esegui(comando);
+        EXPECT_EQ(titoliElementi(), L"a;") << comando;
+        EXPECT_FALSE(documento.modificato()) << comando;
+    }
+}
