@@ -1,5 +1,7 @@
 #include "tests/aiuti/maniglieGui_win.h"
 
+#include "ui/controls/croce_win.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -113,4 +115,18 @@ ManiglieGui ManiglieGui::adesso() {
         m.nucleo = contaNucleo();
     }
     return m;
+}
+
+DWORD persiPerFigura() {
+    const HWND pulsante = CreateWindowExW(0, L"BUTTON", L"", WS_POPUP | BS_ICON, 0, 0, 9, 9,
+                                          nullptr, nullptr, nullptr, nullptr);
+    const ManigliaIcona figura = creaCroce(pulsante, 9, 1.0);
+    const auto metti = [&] {
+        SendMessageW(pulsante, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(figura.get()));
+        return ManiglieGui::adesso().gdi;
+    };
+    const DWORD prima = metti();
+    const DWORD persi = metti() - prima;
+    DestroyWindow(pulsante);
+    return persi;
 }

@@ -18,3 +18,7 @@ struct ManiglieGui {
                       << " kernel handles";
     }
 };
+
+// How many GDI objects the system loses each time a button gets a picture anew: Wine copies it and
+// forgets the copy before.
+[[nodiscard]] DWORD persiPerFigura();

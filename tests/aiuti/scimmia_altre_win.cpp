@@ -38,6 +38,14 @@ void Scimmia::scalda() {
     premi(VK_F6);
     premi(VK_F6);
     cerca();
+    const HWND lingua = GetDlgItem(campi_.hwnd(), IDC_CBOLINGUA);
+    for (const BOOL aperta : {TRUE, FALSE}) {
+        SendMessageW(lingua, CB_SHOWDROPDOWN, static_cast<WPARAM>(aperta), 0);
+        pompa();
+    }
+    for (const int dpi : {120, 144, 192}) {
+        portaA(dpi, {0, 0, 1400, 1000});
+    }
     riposa();
 }
 
@@ -183,6 +191,14 @@ void Scimmia::cerca() {
         SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
         pompa();
         controllaTrovato(voluto, prima);
+        if (caso(8) == 0) {
+            cambiaMonitor();
+        }
+    }
+    if (testoDi(GetDlgItem(dialogo, edt1)) != cercato_ ||
+        (IsDlgButtonChecked(dialogo, chx2) == BST_CHECKED) != esatto_ ||
+        (IsDlgButtonChecked(dialogo, rad2) == BST_CHECKED) != avanti) {
+        segnala("the find dialog holds something else");
     }
     SendMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
     pompa();

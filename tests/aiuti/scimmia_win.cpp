@@ -140,7 +140,7 @@ const std::wstring& Scimmia::perdite() {
 std::wstring Scimmia::percorsoDaLeggere() {
     const int quale = caso(6);
     return quale == 0   ? rovinato_
-           : quale == 1 ? perdite()
+           : quale <= 2 ? perdite()
                         : cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }
 
@@ -244,7 +244,7 @@ void Scimmia::passo() {
     fatto_.clear();
     trascinato_ = false;
     portaFuoco();
-    switch (caso(17)) {
+    switch (caso(18)) {
     case 0:
     case 1:
     case 2:
@@ -283,6 +283,9 @@ void Scimmia::passo() {
     case 15:
         caso(3) == 0 ? lascia() : risponde();
         break;
+    case 16:
+        cambiaMonitor();
+        break;
     default:
         cerca();
         break;
@@ -298,7 +301,7 @@ void Scimmia::riposa() {
     DateTime_CloseMonthCal(GetDlgItem(campi_.hwnd(), IDC_TXTDATA));
     premi(VK_ESCAPE);
     SetFocus(GetDlgItem(campi_.hwnd(), IDC_TXTTITOLO));
-    SetWindowPos(finestra_.hwnd(), nullptr, 0, 0, 1000, 700, SWP_NOZORDER);
+    portaA(96, {0, 0, 1000, 700});
     finestra_.NuovoDocumento();
     modello_.clear();
     pompa();

@@ -46,6 +46,9 @@ public:
         int lasciati = 0;
         int trovati = 0;
         int avvisi = 0;
+        int monitor = 0;
+        // Of all, those of the warm-up and of the way back too.
+        int cambiDpi = 0;
     };
 
     explicit Scimmia(std::uint32_t seme);
@@ -104,6 +107,7 @@ private:
     void lascia();
     void cerca();
     void risponde();
+    void cambiaMonitor();
 
     [[nodiscard]] Griglia& griglia() { return grigliaDi(finestra_); }
     // The item whose row is marked, or -1.
@@ -113,6 +117,21 @@ private:
     void controllaTrovato(std::optional<int> voluto, int prima);
     // The dialog in front, in a while; null when none comes.
     [[nodiscard]] HWND attendiDialogo();
+
+    // What another monitor leaves as it is.
+    struct InVista {
+        std::vector<std::wstring> canale;
+        std::wstring titolo;
+        std::wstring avviso;
+        HWND fuoco = nullptr;
+        std::pair<DWORD, DWORD> scelta;
+        int riga = -1;
+
+        bool operator==(const InVista&) const = default;
+        [[nodiscard]] std::string detto() const;
+    };
+    [[nodiscard]] InVista inVista() const;
+    void portaA(int dpi, const RECT& posto);
 
     void confronta();
     void controllaFile(const std::wstring& percorso);
@@ -188,6 +207,9 @@ private:
     bool esatto_ = false;
     // By path in lower case, as the recent files hold it.
     std::map<std::wstring, Modello> salvati_;
+    // The resolution of the monitor on which the window is; how high a row is at 96 dpi.
+    int dpi_ = 96;
+    int altezza96_ = 0;
     Conti conti_;
     std::string guasto_;
     std::string fatto_;

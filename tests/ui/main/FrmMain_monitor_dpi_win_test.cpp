@@ -3,6 +3,7 @@
 #include "tests/aiuti/aspetto_prova_win.h"
 #include "tests/aiuti/avvisi_prova_win.h"
 #include "tests/aiuti/frmMain_win.h"
+#include "tests/aiuti/maniglieGui_win.h"
 
 #include "ui/main/comandi.h"
 
@@ -226,4 +227,19 @@ TEST_F(FrmMainMonitor, DopoIlCambioTuttoEDipinto) {
         SetFocus(griglia().lista());
         EXPECT_EQ(daRidipingere(finestra.hwnd()), 0) << dpi;
     }
+}
+
+TEST_F(FrmMainMonitor, DiQuelCheServivaAgliAltriNonRestaNiente) {
+    const auto giro = [&] {
+        for (const int dpi : viaggio) {
+            portaSuMonitor(finestra.hwnd(), dpi, misura);
+        }
+    };
+    giro();
+    const DWORD persi = persiPerFigura();
+    ManiglieGui attese = ManiglieGui::adesso();
+    giro();
+    // The cross of the strip is a picture.
+    attese.gdi += static_cast<DWORD>(viaggio.size()) * persi;
+    EXPECT_EQ(ManiglieGui::adesso(), attese);
 }

@@ -36,7 +36,7 @@ void mostraPuntatori() {
 } // namespace
 
 TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
-    const std::uint32_t seme = daAmbiente("OSTRELLE_SEME", 20051115);
+    const std::uint32_t seme = daAmbiente("OSTRELLE_SEME", 20051117);
     Scimmia scimmia(seme);
     mostraPuntatori();
     testoAppunti(L""); // no item that another test left
@@ -46,7 +46,9 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
         ASSERT_EQ(scimmia.guasto(), "") << "warm-up step " << i << ": " << scimmia.fatto();
     }
     scimmia.riposa();
+    const DWORD persi = persiPerFigura();
     const ManiglieGui prima = ManiglieGui::adesso();
+    const int cambiPrima = scimmia.conti().cambiDpi;
     ASSERT_GT(prima.gdi, 0U);
     ASSERT_GT(prima.user, 0U);
 
@@ -61,7 +63,9 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     }
     scimmia.riposa();
     const ManiglieGui dopo = ManiglieGui::adesso();
-    EXPECT_EQ(dopo.gdi, prima.gdi);
+    // At each change the strip's cross is made anew.
+    EXPECT_EQ(dopo.gdi,
+              prima.gdi + static_cast<DWORD>(scimmia.conti().cambiDpi - cambiPrima) * persi);
     EXPECT_EQ(dopo.user, prima.user);
     // Of the kernel's the system may keep a few that it first needed meanwhile.
     EXPECT_LE(dopo.nucleo, prima.nucleo + 4);
@@ -81,6 +85,7 @@ TEST(Scimmia, LaTabellaRestaQuellaDelModelloENienteSiPerde) {
     EXPECT_GT(conti.lasciati, passi / 500);
     EXPECT_GT(conti.trovati, passi / 100);
     EXPECT_GT(conti.avvisi, 0);
+    EXPECT_GT(conti.monitor, passi / 100);
     RecordProperty("aggiunti", conti.aggiunti);
     RecordProperty("spostati", conti.spostati);
     RecordProperty("salvati", conti.salvati);
