@@ -41,7 +41,6 @@ void StrisciaComandi::adatta(HFONT carattere, int altezzaPulsante) noexcept {
     for (HWND c = GetWindow(hwnd(), GW_CHILD); c != nullptr; c = GetWindow(c, GW_HWNDNEXT)) {
         SendMessageW(c, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
     }
-    disponi();
 }
 
 void StrisciaComandi::disponi() noexcept {

@@ -240,4 +240,8 @@ TEST_F(NumericoFinestra, LoZeroNascostoConservatoNonSiVede) {
 
 TEST_F(NumericoFinestra, LaCasellaHaIlNomeDellaSuaEtichetta) {
     EXPECT_EQ(nomeAccessibile(casella), L"Larghezza:");
+    SetWindowTextW(GetWindow(numero->hwnd(), GW_HWNDPREV), L"Altezza:");
+    ShowWindow(numero->hwnd(), SW_HIDE);
+    ShowWindow(numero->hwnd(), SW_SHOW);
+    EXPECT_EQ(nomeAccessibile(casella), L"Altezza:");
 }
