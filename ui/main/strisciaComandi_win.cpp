@@ -42,7 +42,6 @@ void StrisciaComandi::adatta(HFONT carattere, int altezzaPulsante) noexcept {
     for (const HWND pulsante : pulsanti_) {
         SendMessageW(pulsante, WM_SETFONT, reinterpret_cast<WPARAM>(carattere), FALSE);
     }
-    disponi();
 }
 
 void StrisciaComandi::disponi() noexcept {

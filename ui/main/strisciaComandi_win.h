@@ -16,7 +16,8 @@ public:
     // Makes it with its buttons. Raises the failure to make it.
     void crea(HWND padre);
 
-    // The font of the buttons, which is the caller's, and the height of each, in pixels.
+    // The font of the buttons, which is the caller's, and the height that each has from
+    // the next size on, in pixels.
     void adatta(HFONT carattere, int altezzaPulsante) noexcept;
 
 private:

@@ -185,6 +185,21 @@ TEST_F(NumericoFinestra, UnErroreDiChiAscoltaSiFermaQui) {
     EXPECT_EQ(testo(), locale(L"100,00"));
 }
 
+TEST_F(NumericoFinestra, IlFuocoCheVaViaDuranteLEventoNonLoRipete) {
+    entra();
+    scrivi(L"2507");
+    registro.azzera();
+    registro.durante = [this] {
+        if (registro.eventi.size() == 1) {
+            SetFocus(casella);
+            SetFocus(dialogo);
+        }
+    };
+    esci();
+    EXPECT_EQ(registro.eventi, std::vector<std::wstring>{L"massimo 100 letto 250"});
+    EXPECT_EQ(testo(), locale(L"100,00"));
+}
+
 TEST_F(NumericoFinestra, LaBorsaRidaLeProprieta) {
     Borsa borsa;
     numero->scrivi(borsa);
@@ -240,4 +255,8 @@ TEST_F(NumericoFinestra, LoZeroNascostoConservatoNonSiVede) {
 
 TEST_F(NumericoFinestra, LaCasellaHaIlNomeDellaSuaEtichetta) {
     EXPECT_EQ(nomeAccessibile(casella), L"Larghezza:");
+    SetWindowTextW(GetWindow(numero->hwnd(), GW_HWNDPREV), L"Altezza:");
+    ShowWindow(numero->hwnd(), SW_HIDE);
+    ShowWindow(numero->hwnd(), SW_SHOW);
+    EXPECT_EQ(nomeAccessibile(casella), L"Altezza:");
 }

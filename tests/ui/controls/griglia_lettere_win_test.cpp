@@ -121,3 +121,13 @@ TEST_F(GrigliaLettere, DuranteUnTrascinamentoNonContano) {
     p.pulsante(MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(p.osservatore.mosse(), std::vector<std::wstring>{L"sposta 1 3"});
 }
+
+TEST_F(GrigliaLettere, ChiCercaAltroCheUnInizioNonTrova) {
+    LVFINDINFOW intero{};
+    intero.flags = LVFI_STRING;
+    intero.psz = L"alfa";
+    LVFINDINFOW inizio = intero;
+    inizio.flags |= LVFI_PARTIAL;
+    EXPECT_EQ(ListView_FindItem(p.lista(), -1, &intero), -1);
+    EXPECT_GE(ListView_FindItem(p.lista(), -1, &inizio), 0);
+}

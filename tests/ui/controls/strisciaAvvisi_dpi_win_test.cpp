@@ -177,6 +177,13 @@ TEST_F(StrisciaDegliAvvisi, SiVedonoSoloIPulsantiCheLAvvisoHa) {
     EXPECT_EQ(visibili(), L"tre;Chiudi avviso;");
 }
 
+TEST_F(StrisciaDegliAvvisi, UnComandoCheNonEDiUnPulsanteNonFaNiente) {
+    striscia.avvisa(avvisoProva(L"uno", {L"Recupera", {}}));
+    SendMessageW(striscia.hwnd(), WM_COMMAND, 4242, 0);
+    EXPECT_EQ(avvisi.detto(), L"uno");
+    EXPECT_EQ(eccezioni, 0);
+}
+
 TEST_F(StrisciaDegliAvvisi, UnTestoLungoFinisceConTrePuntiEHaUnSuggerimento) {
     striscia.avvisa(avvisoProva(lungo, {L"Apri le copie", {}}));
     const HWND testo = avvisi.testo();
