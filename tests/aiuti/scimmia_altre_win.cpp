@@ -11,6 +11,7 @@
 #include <dlgs.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -115,9 +116,13 @@ void Scimmia::usaAppunti() {
 }
 
 void Scimmia::lascia() {
-    fatto_ = "drop";
     const bool mancante = caso(6) == 0;
-    scelto_ = mancante ? cartella_.file(L"manca.xml") : percorsoDaLeggere();
+    lascia(mancante ? cartella_.file(L"manca.xml") : percorsoDaLeggere());
+}
+
+void Scimmia::lascia(std::wstring percorso) {
+    fatto_ = "drop";
+    scelto_ = std::move(percorso);
     std::vector<std::wstring> percorsi{scelto_};
     for (int i = caso(3); i > 0; --i) {
         percorsi.push_back(rovinato_);
@@ -207,6 +212,9 @@ void Scimmia::cerca() {
 
 void Scimmia::risponde() {
     const AvvisiProva avvisi(finestra_);
+    if (!avvisi.inVista() && caso(4) == 0) {
+        lascia(perdite());
+    }
     fatto_ = "strip";
     if (!avvisi.inVista()) {
         return;

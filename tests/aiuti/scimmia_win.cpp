@@ -140,7 +140,7 @@ const std::wstring& Scimmia::perdite() {
 std::wstring Scimmia::percorsoDaLeggere() {
     const int quale = caso(6);
     return quale == 0   ? rovinato_
-           : quale <= 2 ? perdite()
+           : quale == 1 ? perdite()
                         : cartella_.file(L"Feed " + std::to_wstring(caso(4)) + L".xml");
 }
 

@@ -105,6 +105,7 @@ private:
     void ripercorre(std::size_t posto);
     void usaAppunti();
     void lascia();
+    void lascia(std::wstring percorso);
     void cerca();
     void risponde();
     void cambiaMonitor();

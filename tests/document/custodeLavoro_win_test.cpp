@@ -207,6 +207,22 @@ TEST_F(CustodeLavoroDiProva, OltreIlLimiteIlDiarioSiRiscrive) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(diari), {}), 1);
 }
 
+TEST_F(CustodeLavoroDiProva, RiscrittoTieneCioCheSiScriveNellEditor) {
+    dimensiona(documento, 2);
+    custode->editorAperto(1);
+    std::uintmax_t massima = 0;
+    for (int i = 0; i < 40; ++i) {
+        testi.aperto = TestiCampi{std::wstring(1'000'000, i % 2 == 0 ? L'x' : L'y'), L"p"};
+        custode->codaVuota();
+        massima = std::max(massima, std::filesystem::file_size(diariIn(diari).front()));
+    }
+    EXPECT_GT(massima, 60'000'000U);
+    EXPECT_LT(std::filesystem::file_size(diariIn(diari).front()), 20'000'000U);
+    const auto lavoro = sulDisco();
+    ASSERT_TRUE(lavoro);
+    EXPECT_EQ(lavoro->bozza, (Bozza{1, *testi.aperto}));
+}
+
 TEST_F(CustodeLavoroDiProva, DoveNonSiPuoScrivereSiDiceUnaVoltaESiLavora) {
     custode.emplace(documento, testi, orologio, cartella.scrivi(L"file", "") + L"\\diario",
                     [this] { ++guasti; });

@@ -107,6 +107,17 @@ TEST(Perdite, LePiuFrequentiPerPrime) {
     EXPECT_EQ(trovate, (std::vector<Perdita>{{"d", 3}, {"c", 2}, {"b", 1}, {"a", 1}}));
 }
 
+TEST(Perdite, DiTroppiNomiDiversiSiTengonoIPrimi) {
+    std::string dentro;
+    for (int i = 0; i < 1001; ++i) {
+        dentro += "<n" + std::to_string(i) + "/>";
+    }
+    const Attese trovate = perdite(feed(dentro + "<n3/>"));
+    EXPECT_EQ(trovate.size(), 1000U);
+    EXPECT_EQ(trovate.at("n3"), 2);
+    EXPECT_FALSE(trovate.contains("n1000"));
+}
+
 TEST(Perdite, UnAltraRadiceAttornoARss) {
     EXPECT_EQ(perdite("<fuori><rss version='2.0'><channel><ttl/></channel></rss></fuori>"),
               (Attese{{"fuori", 1}, {"ttl", 1}}));
@@ -203,10 +214,10 @@ TEST(Perdite, LeEntitaContanoPerQuantoSostituiscono) {
 }
 
 TEST(Perdite, UnDocumentoRottoFinisceDoveSiRompe) {
-    for (const auto& testo :
-         {""s, "<"s, "<!"s, "<!--"s, "<!DOCTYPE ["s, "<![CDATA["s, "<a b=\"c>"s, "</a></b>"s,
-          "<a b=c d>"s, "<rss><channel><item>"s, "<?"s, "<?xml?>"s, "<!DOCTYPE a ]["s,
-          "<!DOCTYPE a [<!ENTITY]>"s, "<!DOCTYPE a [<!ENTITY b 'c>]><x/>"s}) {
+    for (const auto& testo : {""s, "<"s, "<!"s, "<!--"s, "<!DOCTYPE ["s, "<![CDATA["s, "<a b=\"c>"s,
+                              "</a></b>"s, "<a b=c d>"s, "<rss><channel><item>"s, "<?"s, "<?xml?>"s,
+                              "<!DOCTYPE a ]["s, "<!DOCTYPE a [<!ENTITY]>"s,
+                              "<!DOCTYPE a [<!-- ]>"s, "<!DOCTYPE a [<!ENTITY b 'c>]><x/>"s}) {
         EXPECT_FALSE(smisurato(testo)) << testo;
     }
     EXPECT_EQ(perdite("</a></b><rss version='2.0'><channel></x></y></z><ttl/>"),

@@ -231,6 +231,34 @@ TEST_F(FrmMainRecupero, LElementoInScritturaSiRiapreNellEditor) {
     EXPECT_EQ(altro.elementi()(CampoElemento::Titolo, 0), L"finito");
 }
 
+TEST_F(FrmMainRecupero, AncheUnElementoNuovoSiRiapreNellEditor) {
+    LavoroNonSalvato l = lavoro(L"scritto");
+    l.bozza = Bozza{.indice = -1, .testi = {L"in corso", L"a", L"b", L"c", L"0"}};
+    lascia(l);
+    riavvia();
+    editor.attendi([&](clsItemRss& elemento, DataOra data) {
+        EXPECT_EQ(elemento.sTitle(), L"");
+        elemento.sTitle(L"nuovo");
+        return std::optional(data);
+    });
+    preme(L"Recupera");
+    EXPECT_EQ(editor.bozza(), l.bozza->testi);
+    ASSERT_EQ(altro.elementi().conteggio(), 2);
+    EXPECT_EQ(altro.elementi()(CampoElemento::Titolo, 0), L"scritto");
+    EXPECT_EQ(altro.elementi()(CampoElemento::Titolo, 1), L"nuovo");
+}
+
+TEST_F(FrmMainRecupero, DoveNonSiPuoAnnotareLoDiceLaStriscia) {
+    cartelle.diario = cartella.scrivi(L"file", "") + L"\\diario";
+    FrmMain& nuova = riavvia();
+    EXPECT_EQ(avvisi->detto(), L"");
+    mettiElemento(nuova, altro, L"x");
+    constexpr std::wstring_view inizio = L"Il lavoro non salvato non si può annotare: ";
+    EXPECT_TRUE(avvisi->detto().starts_with(inizio)) << inUtf8(avvisi->detto());
+    EXPECT_GT(avvisi->detto().size(), inizio.size());
+    EXPECT_EQ(altro.elementi().conteggio(), 1);
+}
+
 TEST_F(FrmMainRecupero, ChiusaRegolarmenteNonLasciaNulla) {
     riavvia();
     altro.applica(altro.aggiunta(elementoVuoto()));
