@@ -34,8 +34,8 @@ public:
               const RECT& posto, HWND padre, HMENU menu = nullptr);
     void distruggi() noexcept;
 
-    // Registers a class for `crea`. The description's procedure, size, instance and pointer are filled
-    // in here. Doing it again changes nothing. Raises the run-time error of the failure.
+    // Registers a class for `crea`. The description's procedure, size, instance and pointer are
+    // filled in here. Doing it again changes nothing. Raises the run-time error of the failure.
     static void registra(WNDCLASSEXW descrizione);
 
     // Registers a class whose windows make their own object, a `Classe`, named `Classe::classe`.
