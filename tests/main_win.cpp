@@ -6,6 +6,7 @@
 #include <commctrl.h>
 
 #include <atomic>
+#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     AddVectoredExceptionHandler(1, conta);
     // The end of a test is told to the last one first: before it is printed.
-    testing::UnitTest::GetInstance()->listeners().Append(new Guasti);
+    testing::UnitTest::GetInstance()->listeners().Append(std::make_unique<Guasti>().release());
     return RUN_ALL_TESTS();
 }

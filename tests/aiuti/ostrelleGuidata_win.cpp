@@ -110,9 +110,10 @@ LRESULT OstrelleGuidata::chiedi(HWND finestra, UINT messaggio, WPARAM w, LPARAM 
 }
 
 void OstrelleGuidata::calma() {
-    // A number that the list only keeps: posted, it comes after all else that was. The second one
-    // and the last question each find the queue empty behind them, or are what filled it.
-    for (int volta = 0; volta < 2; ++volta) {
+    // A number that the list only keeps: posted, it comes after all else that was. The next one and
+    // the last question each find the queue empty behind them, or are what filled it: on a busy
+    // machine the answer to one is known, and the next one there, before the program looks.
+    for (int volta = 0; volta < 6; ++volta) {
         ++giro_;
         PostMessageW(lista(), LVM_SETHOVERTIME, 0, giro_);
         attendi("answer", [this] { return chiedi(lista(), LVM_GETHOVERTIME) == giro_; });

@@ -182,6 +182,19 @@ TEST_F(NumericoVero, GliAppuntiFunzionanoDaTastiera) {
     EXPECT_EQ(testoAppunti(), locale(L"11,00"));
 }
 
+// Control and Alt together are AltGr, which makes characters.
+TEST_F(NumericoVero, SenzaIlSoloControlLeLettereNonToccanoGliAppunti) {
+    numero->Valore(11);
+    entra();
+    testoAppunti(L"15");
+    for (const WORD lettera : {'C', 'V', 'X', 'Z'}) {
+        premi(lettera);
+        premi(lettera, {VK_CONTROL, VK_MENU});
+        EXPECT_EQ(testo(), locale(L"11,00")) << lettera;
+        EXPECT_EQ(testoAppunti(), L"15") << lettera;
+    }
+}
+
 TEST_F(NumericoVero, UnTestoIncollatoSiLeggeAllUscita) {
     for (const auto& [incollato, atteso] : std::vector<std::pair<std::wstring, std::wstring>>{
              {L"  7 ", L"7,00"}, {L"ciao \U0001F600", L"0,00"}, {L"999", L"100,00"}}) {

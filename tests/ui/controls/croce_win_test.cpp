@@ -25,7 +25,9 @@ TEST(Croce, CopreLeDiagonaliESfumaVersoINiente) {
     DeleteObject(parti.hbmMask);
     ASSERT_EQ(letti, static_cast<LONG>(4 * punti.size()));
     const auto opaco = [&](int x, int y) {
-        return punti[static_cast<std::size_t>(y * lato + x)] >> 24;
+        return punti[static_cast<std::size_t>(y) * std::size_t{lato} +
+                     static_cast<std::size_t>(x)] >>
+               24;
     };
     for (int i = 0; i < lato; ++i) {
         EXPECT_EQ(opaco(i, i), 255U) << i;

@@ -42,7 +42,7 @@ protected:
                                 nullptr, nullptr)) {
         KOInputNumerico::registraClasse();
     }
-    ~DialogoBase() override { DestroyWindow(madre); }
+    void TearDown() override { DestroyWindow(madre); }
 
     void nasci(std::int32_t errore = 0) { dialogo.emplace(messaggi, errore); }
 

@@ -137,6 +137,13 @@ TEST(KoUtilitaDisinstalla, LeInformazioniScritteSiRileggono) {
     EXPECT_EQ(letta(L"OstrelleProva").DisplayName.size(), 1000U);
 }
 
+TEST(KoUtilitaDisinstalla, UnProgrammaCheNonCEraSiScriveNellaMacchina) {
+    const ChiaveSalvata chiave(HKEY_LOCAL_MACHINE, correnti + L"Uninstall\\OstrelleProva");
+    koUtilita::SetInfoDisinstallazione(L"OstrelleProva", {L"Nuovo", L"u"});
+    EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, chiave.nome(), L"DisplayName"), L"Nuovo");
+    EXPECT_EQ(leggiTesto(HKEY_LOCAL_MACHINE, chiave.nome(), L"UninstallString"), L"u");
+}
+
 TEST(KoUtilitaDisinstalla, UnNomeCheNonEUnaChiaveSiRifiuta) {
     for (const std::wstring& nome :
          {std::wstring(), std::wstring(L"a\\b"), std::wstring(1000, L'x')}) {

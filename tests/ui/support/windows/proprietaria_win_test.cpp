@@ -8,7 +8,7 @@ namespace {
 
 class ProprietariaDiModali : public testing::Test {
 protected:
-    ~ProprietariaDiModali() override {
+    void TearDown() override {
         for (auto i = finestre.rbegin(); i != finestre.rend(); ++i) {
             DestroyWindow(*i);
         }
