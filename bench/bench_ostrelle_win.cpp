@@ -38,7 +38,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -92,20 +91,10 @@ private:
     int volte_ = 0;
 };
 
-// Folders with nothing in them: work that an earlier run left would be read and offered at each
-// start.
-CartelleDati cartelleVuote() {
-    CartelleDati cartelle = cartelleUtente(L"Ostrelle bench");
-    for (const std::wstring& cartella : {cartelle.copie, cartelle.diario}) {
-        std::filesystem::remove_all(cartella);
-    }
-    return cartelle;
-}
-
 // The program as it stands after its start.
 class Programma {
 public:
-    explicit Programma(CartelleDati cartelle = cartelleVuote()) : cartelle_(std::move(cartelle)) {
+    explicit Programma(CartelleDati cartelle = cartelleUtente(L"Ostrelle bench")) : cartelle_(std::move(cartelle)) {
         finestra_.apri(SW_SHOW);
         calma();
     }
