@@ -94,7 +94,8 @@ private:
 // The program as it stands after its start.
 class Programma {
 public:
-    explicit Programma(CartelleDati cartelle = cartelleUtente(L"Ostrelle bench")) : cartelle_(std::move(cartelle)) {
+    explicit Programma(CartelleDati cartelle = cartelleUtente(L"Ostrelle bench"))
+        : cartelle_(std::move(cartelle)) {
         finestra_.apri(SW_SHOW);
         calma();
     }
