@@ -56,20 +56,24 @@ std::string inUtf8(std::span<const std::byte> documento) {
     const Unita16<altoPrima> unita(documento);
     std::string testo;
     testo.reserve(unita.quante());
-    std::size_t prossimoBlocco = 0;
-    for (std::size_t i = 0; i < unita.quante(); ++i) {
-        if (i >= prossimoBlocco) {
-            i += aggiungiAscii(testo, unita, i);
-            prossimoBlocco = i + unitaPerBlocco;
-            if (i == unita.quante()) {
-                break;
+    std::array<char, unitaPerBlocco> ascii{};
+    for (std::size_t i = 0; i < unita.quante();) {
+        i += aggiungiAscii(testo, unita, i);
+        // Other characters are in the next block, or the document ends in it.
+        for (const std::size_t fine = std::min(i + unitaPerBlocco, unita.quante()); i < fine;) {
+            std::size_t quanti = 0;
+            for (; i < fine && unita[i] < 0x80; ++i) {
+                ascii.data()[quanti++] = static_cast<char>(unita[i]);
+            }
+            testo.append(ascii.data(), quanti);
+            if (i < fine) {
+                std::uint32_t punto = unita[i++];
+                if (punto - 0xD800U < 0x400U && i < unita.quante() && unita[i] - 0xDC00U < 0x400U) {
+                    punto = 0x10000U + ((punto - 0xD800U) << 10U) + (unita[i++] - 0xDC00U);
+                }
+                aggiungiUtf8(testo, punto);
             }
         }
-        std::uint32_t punto = unita[i];
-        if (punto - 0xD800U < 0x400U && i + 1 < unita.quante() && unita[i + 1] - 0xDC00U < 0x400U) {
-            punto = 0x10000U + ((punto - 0xD800U) << 10U) + (unita[++i] - 0xDC00U);
-        }
-        aggiungiUtf8(testo, punto);
     }
     return testo;
 }

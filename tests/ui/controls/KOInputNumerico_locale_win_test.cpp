@@ -187,7 +187,7 @@ TEST_F(NumericoVero, SenzaIlSoloControlLeLettereNonToccanoGliAppunti) {
     numero->Valore(11);
     entra();
     testoAppunti(L"15");
-    for (const WORD lettera : {'C', 'V', 'X', 'Z'}) {
+    for (const WORD lettera : {WORD{'C'}, WORD{'V'}, WORD{'X'}, WORD{'Z'}}) {
         premi(lettera);
         premi(lettera, {VK_CONTROL, VK_MENU});
         EXPECT_EQ(testo(), locale(L"11,00")) << lettera;

@@ -1,18 +1,13 @@
 #include "support/windows/proprietaria_win.h"
 
-#include <array>
-
 #include <gtest/gtest.h>
 
 namespace {
 
 class ProprietariaDiModali : public testing::Test {
 protected:
-    void TearDown() override {
-        for (auto i = finestre.rbegin(); i != finestre.rend(); ++i) {
-            DestroyWindow(*i);
-        }
-    }
+    // Those that belong to it go with it.
+    void TearDown() override { DestroyWindow(principale); }
 
     static HWND nuova(HWND proprietaria) {
         return CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE | WS_CAPTION, 10, 10, 200,
@@ -22,7 +17,6 @@ protected:
     HWND principale = nuova(nullptr);
     HWND dialogo = nuova(principale);
     HWND sopra = nuova(dialogo);
-    std::array<HWND, 3> finestre{principale, dialogo, sopra};
 };
 
 } // namespace
